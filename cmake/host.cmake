@@ -1,0 +1,47 @@
+# The host lane: sanitized tests, fuzzing and benchmarks of the files that know
+# nothing of Windows.
+find_package(GTest REQUIRED)
+find_package(Threads REQUIRED)
+
+file(GLOB_RECURSE host_tests CONFIGURE_DEPENDS tests/*_test.cpp)
+list(FILTER host_tests EXCLUDE REGEX "_(win|app)_test\\.cpp$")
+if(host_tests)
+  add_executable(tests_host ${host_tests})
+  target_link_libraries(tests_host PRIVATE tellary_core GTest::gmock GTest::gtest GTest::gtest_main)
+  add_test(NAME host COMMAND tests_host)
+  set_tests_properties(host PROPERTIES LABELS host ENVIRONMENT
+    "TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples")
+endif()
+
+file(GLOB tools CONFIGURE_DEPENDS tools/*.cpp)
+foreach(source IN LISTS tools)
+  get_filename_component(name ${source} NAME_WE)
+  add_executable(${name} ${source})
+  target_link_libraries(${name} PRIVATE tellary_core)
+endforeach()
+
+if(TELLARY_FUZZ)
+  target_compile_options(tellary_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(tellary_options INTERFACE -fsanitize=fuzzer-no-link)
+  file(GLOB targets CONFIGURE_DEPENDS fuzz/*_fuzz.cpp)
+  foreach(source IN LISTS targets)
+    get_filename_component(name ${source} NAME_WE)
+    add_executable(${name} ${source})
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_libraries(${name} PRIVATE tellary_core)
+    # A short bounded run with a fixed seed; long runs are made by hand.
+    add_test(NAME ${name} COMMAND ${name} -runs=200000 -seed=1 -max_len=4096 -verbosity=0)
+    set_tests_properties(${name} PROPERTIES LABELS fuzz)
+  endforeach()
+endif()
+
+if(TELLARY_BENCH)
+  find_package(benchmark REQUIRED)
+  file(GLOB programs CONFIGURE_DEPENDS bench/*_bench.cpp)
+  foreach(source IN LISTS programs)
+    get_filename_component(name ${source} NAME_WE)
+    add_executable(${name} ${source})
+    target_link_libraries(${name} PRIVATE tellary_core benchmark::benchmark)
+  endforeach()
+endif()

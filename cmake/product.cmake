@@ -1,0 +1,54 @@
+# The product lane: the program itself, the tests that need real windows, and the
+# tests that drive the finished program from outside.
+enable_language(RC)
+set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} --codepage=1252")
+
+target_compile_definitions(tellary_options INTERFACE
+  WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700 NOMINMAX WIN32_LEAN_AND_MEAN STRICT)
+target_compile_options(tellary_options INTERFACE
+  -ffunction-sections -fdata-sections -fstack-protector-strong)
+
+add_library(tellary_windows STATIC ${windows_sources})
+target_link_libraries(tellary_windows PUBLIC tellary_core
+  comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 winspool version msimg32 uxtheme)
+
+add_executable(Tellary WIN32 app/entry_win.cpp app/tellary.rc)
+target_link_libraries(Tellary PRIVATE tellary_windows)
+target_link_options(Tellary PRIVATE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
+  $<$<CONFIG:Release>:-s>)
+set_source_files_properties(app/tellary.rc PROPERTIES OBJECT_DEPENDS
+  "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/app/app.manifest")
+
+if(EXISTS /usr/src/googletest)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
+  add_subdirectory(/usr/src/googletest googletest EXCLUDE_FROM_ALL)
+  # Warnings of this project's own code only.
+  file(GLOB_RECURSE win_tests CONFIGURE_DEPENDS tests/*_win_test.cpp)
+  file(GLOB win_support CONFIGURE_DEPENDS tests/support/*_win.cpp)
+  file(GLOB_RECURSE app_tests CONFIGURE_DEPENDS tests/app/*_app_test.cpp)
+  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp)
+
+  if(win_tests)
+    add_executable(tests_win ${win_tests} ${win_support} app/tellary.rc)
+    target_link_libraries(tests_win PRIVATE tellary_windows gmock gtest gtest_main)
+    add_test(NAME win COMMAND tests_win)
+    set_tests_properties(win PROPERTIES LABELS win)
+  endif()
+  if(app_tests)
+    add_executable(tests_app ${app_tests} ${app_support})
+    target_link_libraries(tests_app PRIVATE tellary_windows gmock gtest gtest_main)
+    add_test(NAME app COMMAND tests_app)
+    set_tests_properties(app PROPERTIES LABELS app ENVIRONMENT
+      "TELLARY_EXE=$<TARGET_FILE:Tellary>;TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples;TELLARY_PICTURES=${CMAKE_BINARY_DIR}/pictures")
+  endif()
+endif()
+
+if(TELLARY_BENCH)
+  file(GLOB programs CONFIGURE_DEPENDS bench/*_win.cpp)
+  foreach(source IN LISTS programs)
+    get_filename_component(name ${source} NAME_WE)
+    add_executable(bench_${name} ${source})
+    target_link_libraries(bench_${name} PRIVATE tellary_windows)
+  endforeach()
+endif()

@@ -1,0 +1,46 @@
+// The one type of run-time error. It is thrown where a step cannot be done and
+// caught in event handlers, nowhere else but where errors are ignored on purpose.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace windowing {
+
+/// Numbers of run-time errors, as users of the product family know them from its reports.
+enum class ErrorNumber : int {
+  invalidCall = 5,
+  overflow = 6,
+  outOfMemory = 7,
+  outOfRange = 9,
+  typeMismatch = 13,
+  fileNotFound = 53,
+  ioError = 57,
+  diskFull = 61,
+  inputPastEnd = 62,
+  permissionDenied = 70,
+  pathAccess = 75,
+  pathNotFound = 76,
+  objectMissing = 438,
+  printer = 482,
+  cancelled = 32755,
+};
+
+/// A run-time error: its number and a sentence for the user. `what()` is the sentence.
+class RuntimeError : public std::runtime_error {
+ public:
+  RuntimeError(ErrorNumber number, const std::string& text)
+      : std::runtime_error(text), number_(number) {}
+
+  [[nodiscard]] ErrorNumber number() const { return number_; }
+
+ private:
+  ErrorNumber number_;
+};
+
+[[noreturn]] inline void raiseOverflow() { throw RuntimeError(ErrorNumber::overflow, "Overflow"); }
+[[noreturn]] inline void raiseTypeMismatch() {
+  throw RuntimeError(ErrorNumber::typeMismatch, "Type mismatch");
+}
+
+}  // namespace windowing
