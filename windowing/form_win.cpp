@@ -66,7 +66,7 @@ bool isPushButton(HWND window) {
 // Dialog keys that the system's dialog handling does not answer as users expect outside its
 // own dialogs. True when the key was used.
 bool handleDialogKey(Form& form, const MSG& message) {
-  if (message.wParam == VK_TAB && isMultilineBox(message.hwnd) && GetKeyState(VK_CONTROL) >= 0) {
+  if (message.wParam == VK_TAB && GetKeyState(VK_CONTROL) >= 0) {
     form.focusNext(GetKeyState(VK_SHIFT) < 0);
     return true;
   }
@@ -191,6 +191,13 @@ Control Form::control(int id) const {
   return found == controls_.end() ? Control() : Control(found->second);
 }
 
+Control Form::control(std::string_view name) const {
+  for (const ControlDesign& design : design_.controls)
+    if (design.name == name) return control(design.id);
+  throw RuntimeError(ErrorNumber::objectMissing,
+                     std::string(design_.name) + " has no control " + std::string(name));
+}
+
 RECT Form::outerPixels() const {
   RECT place{};
   GetWindowRect(handle(), &place);
@@ -219,14 +226,34 @@ double Form::innerHeight() const {
   return screenTwips(area.bottom);
 }
 
+// The window order cannot serve here: pages lie above their tab strip, but come after it when
+// the user tabs.
 void Form::focusNext(bool backwards) {
-  const HWND next = GetNextDlgTabItem(handle(), GetFocus(), backwards ? TRUE : FALSE);
-  if (next == nullptr) return;
-  SetFocus(next);
+  std::vector<HWND> stops;
+  std::size_t at = 0;
+  const HWND focus = GetFocus();
+  for (const ControlDesign& design : design_.controls) {
+    const HWND window = control(design.id).handle();
+    if (window == focus || IsChild(window, focus)) {
+      if (design.kind != ControlKind::container) at = stops.size();
+    }
+    const bool takes = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0 &&
+                       IsWindowVisible(window) && IsWindowEnabled(window);
+    if (takes || window == focus) stops.push_back(window);
+  }
+  if (stops.empty()) return;
+  const std::size_t next = focus == nullptr ? 0
+                           : backwards      ? (at + stops.size() - 1) % stops.size()
+                                            : (at + 1) % stops.size();
+  // Focus marks and access keys show from the first use of the keyboard on.
+  SendMessageA(handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+  focusOn(stops[next]);
+}
+
+void Form::focusOn(HWND window) {
+  SetFocus(window);
   // A box that the keyboard reaches is ready to be typed over, as in every dialog.
-  if ((SendMessageA(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 &&
-      (GetWindowLongA(next, GWL_STYLE) & ES_MULTILINE) == 0)
-    SendMessageA(next, EM_SETSEL, 0, -1);
+  if (isClass(window, "Edit") && !isMultilineBox(window)) SendMessageA(window, EM_SETSEL, 0, -1);
 }
 
 LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
@@ -264,8 +291,11 @@ void Form::keepFocus(WPARAM wParam) {
 void Form::restoreFocus() {
   const bool usable = lastFocus_ != nullptr && IsChild(handle(), lastFocus_) &&
                       IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
-  const HWND wanted = usable ? lastFocus_ : GetNextDlgTabItem(handle(), nullptr, FALSE);
-  if (wanted != nullptr) SetFocus(wanted);
+  if (usable) {
+    SetFocus(lastFocus_);
+  } else {
+    focusNext(false);
+  }
 }
 
 LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -37,6 +37,7 @@ enum class ControlKind {
 /// One control of a form. The order of the rows is the tab order; a row's container stands
 /// before it. Places are twips at design resolution, from the container's top-left corner.
 struct ControlDesign {
+  const char* name;  ///< the control's name; controls of an array share one
   int id;
   ControlKind kind;
   const char* caption;
@@ -79,6 +80,8 @@ class Form : public Window {
 
   /// A control by its identifier; a null control when there is none.
   [[nodiscard]] Control control(int id) const;
+  /// A control by its name (the first of an array); raises when the form has none.
+  [[nodiscard]] Control control(std::string_view name) const;
 
   /// Outer place and size, twips; the state is 0 normal, 1 minimised, 2 maximised.
   [[nodiscard]] RECT outerPixels() const;
@@ -90,8 +93,10 @@ class Form : public Window {
 
   /// A key before any control sees it; true when the form took it.
   virtual bool handleKey(const MSG&) { return false; }
-  /// Moves the focus to the next or previous control that takes it.
+  /// Moves the focus to the next or previous control that takes it, in the design's order.
   void focusNext(bool backwards);
+  /// Gives a control the focus as the keyboard does: a box's text is selected.
+  static void focusOn(HWND window);
 
  protected:
   virtual void onLoad() {}
