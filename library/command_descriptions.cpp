@@ -16,7 +16,6 @@ struct Row {
 };
 
 constexpr std::string_view recent = "Open this recent document in #";
-constexpr std::string_view exitCaption = "E&xit";
 
 // One table for every product of the family, so most rows are for commands that this program
 // does not have. The order decides which row a caption finds; rows that an earlier one hides
@@ -189,9 +188,8 @@ std::optional<std::string> commandDescription(std::string_view caption,
   });
   if (row == std::end(rows)) return std::nullopt;
   std::string_view pattern = row->description;
-  // The picture product saves nothing when it quits, so there the sentence ends early.
-  if (context.pictureProduct && row->caption == exitCaption)
-    pattern = pattern.substr(0, pattern.find(';'));
+  // "E&xit" alone has a second half, which the picture product leaves out.
+  if (context.pictureProduct) pattern = pattern.substr(0, pattern.find(';'));
   std::string text;
   for (const char c : pattern) {
     if (c == '@')
