@@ -1,4 +1,6 @@
 // The contact on screen: showing, storing, stepping, adding, removing.
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include <algorithm>
@@ -184,7 +186,9 @@ void frmMain::onSelect(int list) {
   if (list == id::CBOTBARBOX) goTo(CBOTBARBOX().selected());
 }
 
-void frmMain::onTab(int) { showPage(TABMAIN().selected()); }
+void frmMain::onTab(int) {
+  showPage(TABMAIN().selected());
+}
 
 // Exactly one page is visible; the focus does not stay behind on a hidden one.
 void frmMain::showPage(int index) {

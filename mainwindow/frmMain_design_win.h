@@ -36,7 +36,7 @@ constexpr int fieldPitch = 615;  ///< from one label to the next
 constexpr int boxPitch = 375;    ///< from a box to one below it that has no label
 constexpr int groupTop = 285;    ///< room for a group's caption
 constexpr int groupSide = 150;
-constexpr int margin = 120;      ///< round and between the groups
+constexpr int margin = 120;  ///< round and between the groups
 constexpr int columnWidth = (framesWidth - 3 * margin) / 2;
 constexpr int column2 = 2 * margin + columnWidth;
 
@@ -50,34 +50,80 @@ struct Group {
   std::array<int, 6> slots;  ///< -1 ends the list
 };
 
-constexpr int slotOf(Slot slot) { return static_cast<int>(slot); }
+constexpr int slotOf(Slot slot) {
+  return static_cast<int>(slot);
+}
 constexpr int none = -1;
 constexpr int threeFields = groupTop + 3 * fieldPitch + 30;
 constexpr int extrasTop = 2 * margin + threeFields - 45;
 
 constexpr std::array<Group, 7> groups{{
-    {"FRAMPERSONAL", id::FRAMPERSONAL, id::FRAMGENERAL, "Personal", margin, 75, columnWidth,
+    {"FRAMPERSONAL",
+     id::FRAMPERSONAL,
+     id::FRAMGENERAL,
+     "Personal",
+     margin,
+     75,
+     columnWidth,
      threeFields,
-     {slotOf(Slot::FirstNames), slotOf(Slot::Surname), slotOf(Slot::DateOfBirth), none, none, none}},
-    {"FRAMJOB", id::FRAMJOB, id::FRAMGENERAL, "General", column2, 75, columnWidth, threeFields,
+     {slotOf(Slot::FirstNames), slotOf(Slot::Surname), slotOf(Slot::DateOfBirth), none, none,
+      none}},
+    {"FRAMJOB",
+     id::FRAMJOB,
+     id::FRAMGENERAL,
+     "General",
+     column2,
+     75,
+     columnWidth,
+     threeFields,
      {slotOf(Slot::JobTitle), slotOf(Slot::MobilePhone), slotOf(Slot::Pager), none, none, none}},
-    {"FRAMEXTRAS", id::FRAMEXTRAS, id::FRAMGENERAL, "Extras", margin, extrasTop,
-     framesWidth - 2 * margin, framesHeight - margin - extrasTop,
+    {"FRAMEXTRAS",
+     id::FRAMEXTRAS,
+     id::FRAMGENERAL,
+     "Extras",
+     margin,
+     extrasTop,
+     framesWidth - 2 * margin,
+     framesHeight - margin - extrasTop,
      {slotOf(Slot::Other1), slotOf(Slot::Other2), none, none, none, none}},
-    {"FRAMHOMEADDRESS", id::FRAMHOMEADDRESS, id::FRAMADDRESS, "Address", margin, 75, columnWidth,
+    {"FRAMHOMEADDRESS",
+     id::FRAMHOMEADDRESS,
+     id::FRAMADDRESS,
+     "Address",
+     margin,
+     75,
+     columnWidth,
      framesHeight - 75 - margin,
      {slotOf(Slot::HomeAddress1), slotOf(Slot::HomeAddress2), slotOf(Slot::HomeCity),
       slotOf(Slot::HomeCountry), slotOf(Slot::HomePostcode), none}},
-    {"FRAMHOMECONTACT", id::FRAMHOMECONTACT, id::FRAMADDRESS, "Contact by", column2, 75,
-     columnWidth, framesHeight - 75 - margin,
+    {"FRAMHOMECONTACT",
+     id::FRAMHOMECONTACT,
+     id::FRAMADDRESS,
+     "Contact by",
+     column2,
+     75,
+     columnWidth,
+     framesHeight - 75 - margin,
      {slotOf(Slot::HomePhone), slotOf(Slot::HomeFax), slotOf(Slot::HomeEmail),
       slotOf(Slot::HomeWebsite), none, none}},
-    {"FRAMWORKADDRESS", id::FRAMWORKADDRESS, id::FRAMADDRESSWORK, "Address", margin, 75,
-     columnWidth, framesHeight - 75 - margin,
+    {"FRAMWORKADDRESS",
+     id::FRAMWORKADDRESS,
+     id::FRAMADDRESSWORK,
+     "Address",
+     margin,
+     75,
+     columnWidth,
+     framesHeight - 75 - margin,
      {slotOf(Slot::Company), slotOf(Slot::WorkAddress1), slotOf(Slot::WorkAddress2),
       slotOf(Slot::WorkCity), slotOf(Slot::WorkCountry), slotOf(Slot::WorkPostcode)}},
-    {"FRAMWORKCONTACT", id::FRAMWORKCONTACT, id::FRAMADDRESSWORK, "Contact by", column2, 75,
-     columnWidth, framesHeight - 75 - margin,
+    {"FRAMWORKCONTACT",
+     id::FRAMWORKCONTACT,
+     id::FRAMADDRESSWORK,
+     "Contact by",
+     column2,
+     75,
+     columnWidth,
+     framesHeight - 75 - margin,
      {slotOf(Slot::WorkPhone), slotOf(Slot::WorkFax), slotOf(Slot::WorkEmail),
       slotOf(Slot::WorkWebsite), none, none}},
 }};
@@ -95,18 +141,30 @@ constexpr const char* boxName(document::Box box) {
 /// Identifier of the control that shows a field.
 constexpr int boxId(const document::Field& field) {
   switch (field.box) {
-    case document::Box::CBOPEMAIL: return id::CBOPEMAIL;
-    case document::Box::CBOPWORKEMAIL: return id::CBOPWORKEMAIL;
-    case document::Box::CBOPWEBSITE: return id::CBOPWEBSITE;
-    case document::Box::CBOPWORKWEBSITE: return id::CBOPWORKWEBSITE;
-    case document::Box::TXTITEMS: break;
+    case document::Box::CBOPEMAIL:
+      return id::CBOPEMAIL;
+    case document::Box::CBOPWORKEMAIL:
+      return id::CBOPWORKEMAIL;
+    case document::Box::CBOPWEBSITE:
+      return id::CBOPWEBSITE;
+    case document::Box::CBOPWORKWEBSITE:
+      return id::CBOPWORKWEBSITE;
+    case document::Box::TXTITEMS:
+      break;
   }
   return id::TXTITEMS + field.item;
 }
 
 constexpr ControlDesign frame(const char* name, int frameId) {
-  return {name, frameId, ControlKind::container, "", bodyMargin + framesInset,
-          bodyMargin + framesTop, framesWidth, framesHeight, id::PICMAINBOX};
+  return {name,
+          frameId,
+          ControlKind::container,
+          "",
+          bodyMargin + framesInset,
+          bodyMargin + framesTop,
+          framesWidth,
+          framesHeight,
+          id::PICMAINBOX};
 }
 
 // clang-format off
@@ -139,22 +197,35 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
   const auto field = [&](int slot, int container, int left, int& top, int width, int height) {
     const document::Field& shown = document::fields[static_cast<std::size_t>(slot)];
     if (!shown.caption.empty()) {
-      made[at++] = {"LBLITEMS", boxId(shown) + id::labelOffset, ControlKind::label,
-                    shown.caption.data(), left, top, width, labelHeight, container};
+      made[at++] = {"LBLITEMS",
+                    boxId(shown) + id::labelOffset,
+                    ControlKind::label,
+                    shown.caption.data(),
+                    left,
+                    top,
+                    width,
+                    labelHeight,
+                    container};
       top += labelPitch;
     } else {
       top += boxPitch + labelPitch - fieldPitch;
     }
     const bool comments = shown.slot == Slot::Comments;
-    made[at++] = {boxName(shown.box), boxId(shown),
-                  comments ? ControlKind::multilineBox : ControlKind::textBox, "", left, top,
-                  width, height, container};
+    made[at++] = {boxName(shown.box),
+                  boxId(shown),
+                  comments ? ControlKind::multilineBox : ControlKind::textBox,
+                  "",
+                  left,
+                  top,
+                  width,
+                  height,
+                  container};
     top += fieldPitch - labelPitch;
   };
   for (const ControlDesign& strip : strips) made[at++] = strip;
   for (const Group& group : groups) {
-    made[at++] = {group.name, group.id, ControlKind::group, group.caption, group.left, group.top,
-                  group.width, group.height, group.frame};
+    made[at++] = {group.name, group.id,    ControlKind::group, group.caption, group.left,
+                  group.top,  group.width, group.height,       group.frame};
     int top = group.top + groupTop;
     const bool extras = group.id == id::FRAMEXTRAS;
     const int width = (extras ? columnWidth : group.width) - 2 * groupSide;
@@ -171,13 +242,12 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
 }();
 static_assert(controls.back().id == id::SBMAIN, "every row is filled");
 
-constexpr windowing::FormDesign form{
-    "frmMain",
-    "",  // the product's name, set when the form loads
-    WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX,
-    0,
-    formWidth,
-    toolbarHeight + headerHeight + tabHeight + 90 + statusHeight,
-    controls};
+constexpr windowing::FormDesign form{"frmMain",
+                                     "",  // the product's name, set when the form loads
+                                     WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX,
+                                     0,
+                                     formWidth,
+                                     toolbarHeight + headerHeight + tabHeight + 90 + statusHeight,
+                                     controls};
 
 }  // namespace mainwindow::design

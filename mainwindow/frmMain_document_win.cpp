@@ -1,4 +1,6 @@
 // The document: reading, writing, and the commands that act on it as a whole.
+#include <windows.h>
+
 #include <commdlg.h>
 
 #include "document/reader.h"
@@ -74,9 +76,7 @@ void frmMain::FILELOAD(const std::string& path) {
 void frmMain::FILESAVEAS(const std::string& path) {
   StoreCurrent();
   windowing::replaceFile(
-      path,
-      [this](const windowing::FileSink& sink) { document::write(list_, sink); },
-      *fileCalls_);
+      path, [this](const windowing::FileSink& sink) { document::write(list_, sink); }, *fileCalls_);
   SETSAVE("FALSE");
 }
 
@@ -86,7 +86,7 @@ void frmMain::SETTITLE(const std::string& path) {
 
 void frmMain::setDocumentPath(const std::string& path) {
   CMD1.fileName = path;
-  library::currentDocumentPath() = path;
+  library::modLibrary().documentPath = path;
 }
 
 std::string frmMain::rememberedFolder(const char* value) const {
@@ -184,8 +184,7 @@ void frmMain::tellUnread(const std::string& path, const std::string& reason) {
                      (list_.count() == 1 ? " contact was read." : " contacts were read.") +
                      "\r\n\r\n" + reason;
   if (!text.ends_with('.')) text += '.';
-  windowing::seams().messageBox(windowing::dialogOwner(), text, "Open",
-                                MB_OK | MB_ICONEXCLAMATION);
+  windowing::seams().messageBox(windowing::dialogOwner(), text, "Open", MB_OK | MB_ICONEXCLAMATION);
 }
 
 // Writes the document; what keeps it from being written is told here.
@@ -225,12 +224,11 @@ bool frmMain::saveAs() {
     chosen = library::withDefaultExtension(*answer, std::string(".") + extension);
     rememberFolder(saveFolderValue, chosen);
     if (!readWhole_ && sameFile(chosen, CMD1.fileName)) {
-      windowing::seams().messageBox(
-          windowing::dialogOwner(),
-          "The document '" + chosen +
-              "' was not read completely and is kept as it is.\r\n"
-              "Please save under another name.",
-          "Save As", MB_OK | MB_ICONEXCLAMATION);
+      windowing::seams().messageBox(windowing::dialogOwner(),
+                                    "The document '" + chosen +
+                                        "' was not read completely and is kept as it is.\r\n"
+                                        "Please save under another name.",
+                                    "Save As", MB_OK | MB_ICONEXCLAMATION);
       continue;
     }
     if (LIBRARY().OVERWRITECHK(chosen)) break;
@@ -243,8 +241,16 @@ bool frmMain::saveAs() {
   return true;
 }
 
-bool frmMain::onQueryUnload() { return sessionEnds_ || mayDiscard(askSaveBeforeClose); }
+bool frmMain::onQueryUnload() {
+  return mayDiscard(askSaveBeforeClose);
+}
 
-void frmMain::onUnload() { LIBRARY().FORMSAVE(name(), *this, false); }
+bool frmMain::mayEndSession() {
+  return mayDiscard(askSaveBeforeClose);
+}
+
+void frmMain::onUnload() {
+  LIBRARY().FORMSAVE(name(), *this, false);
+}
 
 }  // namespace mainwindow

@@ -97,6 +97,7 @@ class frmMain : public library::CommandForm {
   bool SaveDocument();
   bool saveAs();
   bool mayDiscard(int question);
+  bool mayEndSession();
   bool saveTo(const std::string& path);
   void openPath(const std::string& path);
   void setDocumentPath(const std::string& path);
@@ -108,10 +109,14 @@ class frmMain : public library::CommandForm {
   void RefreshCommands();
   void setCommandEnabled(int id, bool enabled);
   [[nodiscard]] bool commandEnabled(int id) const;
+  void setCommandChecked(int id, bool checked);
+  [[nodiscard]] bool commandChecked(int id) const;
+  void addByUser();
   void buildToolbar();
   void toggleBar(int id);
   void applyView();
   void layOut();
+  void arrange();
   void describe(int id);
   void endDescription();
 
@@ -130,10 +135,9 @@ class frmMain : public library::CommandForm {
   std::unique_ptr<controls::ICOMNU> ICOMNU;
   windowing::FileCalls realFileCalls_;
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
-  bool filling_ = false;    ///< the program itself changes the boxes
-  bool readWhole_ = true;   ///< the document's file holds nothing that the list does not
-  bool sessionEnds_ = false;  ///< Windows is shutting down and the user has been asked
-  std::string described_;   ///< description in the status bar, as shown there
+  bool filling_ = false;   ///< the program itself changes the boxes
+  bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
+  std::string described_;  ///< description in the status bar, as shown there
 };
 
 }  // namespace mainwindow

@@ -1,0 +1,204 @@
+// Menus, toolbar, shortcuts and what each command does.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "library/clsLibrary_win.h"
+#include "mainwindow/availability.h"
+#include "mainwindow/commands.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "windowing/application_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+
+namespace mainwindow {
+
+using library::LIBRARY;
+namespace id = library::id;
+
+namespace {
+
+/// A key that runs a command from anywhere in the window.
+struct Shortcut {
+  WPARAM key;
+  bool control;
+  int command;
+  bool repeats;     ///< a held key runs it again and again
+  bool ownInBox;    ///< a text box uses the key itself
+  bool ownInLines;  ///< a box of several lines uses it
+  bool ownInList;   ///< the name box uses it
+};
+
+constexpr Shortcut shortcuts[] = {
+    {VK_INSERT, false, id::ADD, false, false, false, false},
+    {VK_DELETE, true, id::REMOVE, false, true, true, false},
+    {VK_HOME, false, id::FIRST, true, true, true, true},
+    {VK_PRIOR, false, id::PREVIOUS, true, false, true, true},
+    {VK_NEXT, false, id::NEXT, true, false, true, true},
+    {VK_END, false, id::LAST, true, true, true, true},
+};
+
+constexpr LPARAM wasDown = 1 << 30;  // of a key message: the key was down before
+
+bool keyBelongsToFocus(const Shortcut& shortcut, HWND focus) {
+  char name[16] = {};
+  GetClassNameA(focus, name, sizeof name);
+  if (lstrcmpiA(name, "ComboBox") == 0) return shortcut.ownInList;
+  if (lstrcmpiA(name, "Edit") != 0) return false;
+  const bool lines = (GetWindowLongA(focus, GWL_STYLE) & ES_MULTILINE) != 0;
+  return lines ? shortcut.ownInLines : shortcut.ownInBox;
+}
+
+}  // namespace
+
+bool frmMain::handleKey(const MSG& message) {
+  const bool control = GetKeyState(VK_CONTROL) < 0;
+  if (message.message != WM_KEYDOWN || GetKeyState(VK_SHIFT) < 0) return false;
+  for (const Shortcut& shortcut : shortcuts) {
+    if (shortcut.key != message.wParam || shortcut.control != control) continue;
+    if (keyBelongsToFocus(shortcut, message.hwnd)) return false;
+    // A key held down would remove, or add, contact after contact.
+    const bool repeated = (message.lParam & wasDown) != 0;
+    if (!repeated || shortcut.repeats) runCommand(shortcut.command);
+    return true;
+  }
+  return false;
+}
+
+void frmMain::runCommand(int command) {
+  if (findCommand(command) == nullptr || !commandEnabled(command)) return;
+  switch (command) {
+    case id::NEW:
+      return newDocument();
+    case id::OPEN:
+      return openDocument();
+    case id::SAVE:
+      static_cast<void>(SaveDocument());
+      return;
+    case id::SAVEAS:
+      static_cast<void>(saveAs());
+      return;
+    case id::EXIT:
+      static_cast<void>(unload());
+      return;
+    case id::ADD:
+      return addByUser();
+    case id::REMOVE:
+      return RemoveContact();
+    case id::STANDARDBAR:
+    case id::STATUSBAR:
+      return toggleBar(command);
+    case id::FIRST:
+      return move(&frmMain::GoFirst);
+    case id::PREVIOUS:
+      return move(&frmMain::GoPrevious);
+    case id::NEXT:
+      return move(&frmMain::GoNext);
+    case id::LAST:
+      return move(&frmMain::GoLast);
+    default:
+      return;
+  }
+}
+
+void frmMain::addByUser() {
+  if (list_.count() == document::ContactList::maxCount) {
+    windowing::seams().messageBox(
+        handle(), "The document is full: it holds 32,767 contacts, and no more can be added.",
+        windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
+    return;
+  }
+  AddContact();
+  focusFirstField();
+}
+
+void frmMain::RefreshCommands() {
+  const CommandState state{list_.count(), list_.current(), modified()};
+  for (const Command& command : commands) {
+    // Save follows the modified state, which is nothing but its own.
+    if (command.id == id::SAVE) continue;
+    setCommandEnabled(command.id, commandAvailable(command.id, state));
+  }
+  CBOTBARBOX().setEnabled(nameBoxAvailable(state));
+}
+
+bool frmMain::modified() const {
+  return commandEnabled(id::SAVE);
+}
+
+void frmMain::setCommandEnabled(int command, bool enabled) {
+  if (commandEnabled(command) != enabled)
+    EnableMenuItem(GetMenu(handle()), static_cast<UINT>(command), enabled ? MF_ENABLED : MF_GRAYED);
+  const Command* known = findCommand(command);
+  if (known != nullptr && known->onToolbar) TBARMAIN().setButtonEnabled(command, enabled);
+}
+
+bool frmMain::commandEnabled(int command) const {
+  const UINT state = GetMenuState(GetMenu(handle()), static_cast<UINT>(command), MF_BYCOMMAND);
+  return state != static_cast<UINT>(-1) && (state & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+void frmMain::setCommandChecked(int command, bool checked) {
+  CheckMenuItem(GetMenu(handle()), static_cast<UINT>(command), checked ? MF_CHECKED : MF_UNCHECKED);
+}
+
+bool frmMain::commandChecked(int command) const {
+  const UINT state = GetMenuState(GetMenu(handle()), static_cast<UINT>(command), MF_BYCOMMAND);
+  return state != static_cast<UINT>(-1) && (state & MF_CHECKED) != 0;
+}
+
+HMENU frmMain::createMenu() {
+  const HMENU bar = CreateMenu();
+  for (const Menu& menu : menus) {
+    const HMENU popup = CreatePopupMenu();
+    for (std::size_t i = menu.first; i < menu.first + menu.count; ++i) {
+      const MenuLine& line = menuLines[i];
+      const Command* command = findCommand(line.command);
+      if (command == nullptr) {
+        AppendMenuA(popup, MF_SEPARATOR, 0, nullptr);
+      } else {
+        AppendMenuA(popup, MF_STRING, static_cast<UINT_PTR>(command->id),
+                    menuCaption(*command).c_str());
+      }
+    }
+    AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), menu.caption.data());
+  }
+  return bar;
+}
+
+LRESULT frmMain::onNotify(NMHDR& header) {
+  if (header.code == TTN_GETDISPINFOA) {
+    auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
+    const Command* command = findCommand(static_cast<int>(header.idFrom));
+    if (command != nullptr) {
+      std::string text(command->caption);
+      std::erase(text, '&');
+      while (text.ends_with('.')) text.pop_back();
+      lstrcpynA(tip.szText, text.c_str(), sizeof tip.szText);
+    }
+  }
+  return 0;
+}
+
+LRESULT frmMain::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_QUERYENDSESSION:
+      // The one question of a shutdown; what is answered "No" stays until the session ends.
+      return mayEndSession() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) onUnload();
+      return 0;
+    case WM_DESTROY: {
+      const LRESULT result = CommandForm::handleMessage(message, wParam, lParam);
+      PostQuitMessage(0);
+      return result;
+    }
+    default:
+      return CommandForm::handleMessage(message, wParam, lParam);
+  }
+}
+
+}  // namespace mainwindow
