@@ -21,18 +21,15 @@ template <std::signed_integral To>
 
 /// Sum, difference and product in the type of the operands; each raises overflow.
 template <std::signed_integral T>
-  requires(sizeof(T) <= 4)
-[[nodiscard]] constexpr T checkedAdd(T a, T b) {
+requires(sizeof(T) <= 4) [[nodiscard]] constexpr T checkedAdd(T a, T b) {
   return checkedCast<T>(std::int64_t{a} + std::int64_t{b});
 }
 template <std::signed_integral T>
-  requires(sizeof(T) <= 4)
-[[nodiscard]] constexpr T checkedSubtract(T a, T b) {
+requires(sizeof(T) <= 4) [[nodiscard]] constexpr T checkedSubtract(T a, T b) {
   return checkedCast<T>(std::int64_t{a} - std::int64_t{b});
 }
 template <std::signed_integral T>
-  requires(sizeof(T) <= 4)
-[[nodiscard]] constexpr T checkedMultiply(T a, T b) {
+requires(sizeof(T) <= 4) [[nodiscard]] constexpr T checkedMultiply(T a, T b) {
   return checkedCast<T>(std::int64_t{a} * std::int64_t{b});
 }
 

@@ -38,7 +38,9 @@ class RuntimeError : public std::runtime_error {
   ErrorNumber number_;
 };
 
-[[noreturn]] inline void raiseOverflow() { throw RuntimeError(ErrorNumber::overflow, "Overflow"); }
+[[noreturn]] inline void raiseOverflow() {
+  throw RuntimeError(ErrorNumber::overflow, "Overflow");
+}
 [[noreturn]] inline void raiseTypeMismatch() {
   throw RuntimeError(ErrorNumber::typeMismatch, "Type mismatch");
 }

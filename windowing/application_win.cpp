@@ -1,0 +1,104 @@
+#include "windowing/application_win.h"
+
+#include <vector>
+
+namespace windowing {
+namespace {
+
+// The whole version resource of the program's file, read once.
+const std::vector<char>& versionBlock() {
+  static const std::vector<char> block = [] {
+    std::vector<char> data;
+    const std::string path = programPath();
+    DWORD ignored = 0;
+    data.resize(GetFileVersionInfoSizeA(path.c_str(), &ignored));
+    if (data.empty() ||
+        !GetFileVersionInfoA(path.c_str(), 0, static_cast<DWORD>(data.size()), data.data()))
+      data.clear();
+    return data;
+  }();
+  return block;
+}
+
+std::string versionText(const char* name) {
+  const std::vector<char>& block = versionBlock();
+  if (block.empty()) return {};
+  const std::string query = std::string("\\StringFileInfo\\040904E4\\") + name;
+  void* value = nullptr;
+  UINT size = 0;
+  if (!VerQueryValueA(block.data(), query.c_str(), &value, &size) || size == 0) return {};
+  return static_cast<const char*>(value);
+}
+
+}  // namespace
+
+std::string companyName() {
+  return versionText("CompanyName");
+}
+std::string productName() {
+  return versionText("ProductName");
+}
+std::string legalCopyright() {
+  return versionText("LegalCopyright");
+}
+
+Version programVersion() {
+  const std::vector<char>& block = versionBlock();
+  void* value = nullptr;
+  UINT size = 0;
+  if (block.empty() || !VerQueryValueA(block.data(), "\\", &value, &size)) return {};
+  const auto* info = static_cast<const VS_FIXEDFILEINFO*>(value);
+  return {HIWORD(info->dwFileVersionMS), LOWORD(info->dwFileVersionMS)};
+}
+
+std::string programPath() {
+  std::string path(MAX_PATH, '\0');
+  for (;;) {
+    const DWORD length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) {
+      path.resize(length);
+      return path;
+    }
+    path.resize(path.size() * 2);
+  }
+}
+
+std::string programFolder() {
+  const std::string path = programPath();
+  const std::size_t slash = path.find_last_of('\\');
+  if (slash == std::string::npos) return {};
+  const bool root = slash == 2 && path[1] == ':';
+  return path.substr(0, root ? slash + 1 : slash);
+}
+
+std::string programName() {
+  const std::string path = programPath();
+  const std::size_t slash = path.find_last_of('\\');
+  std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+  const std::size_t dot = name.find_last_of('.');
+  if (dot != std::string::npos) name.resize(dot);
+  return name;
+}
+
+HINSTANCE programInstance() {
+  return GetModuleHandleA(nullptr);
+}
+
+std::string commandLineTail() {
+  // The shell hands a document over without quotes, so the tail is one path and must not be
+  // split into arguments.
+  const char* at = GetCommandLineA();
+  if (*at == '"') {
+    ++at;
+    while (*at != '\0' && *at != '"') ++at;
+    if (*at == '"') ++at;
+  } else {
+    while (*at != '\0' && *at != ' ' && *at != '\t') ++at;
+  }
+  while (*at == ' ' || *at == '\t') ++at;
+  std::string tail = at;
+  while (!tail.empty() && (tail.back() == ' ' || tail.back() == '\t')) tail.pop_back();
+  return tail;
+}
+
+}  // namespace windowing

@@ -1,0 +1,29 @@
+#include "windowing/fonts_win.h"
+
+#include <map>
+#include <string>
+#include <tuple>
+
+#include "windowing/handles_win.h"
+#include "windowing/screen_win.h"
+
+namespace windowing {
+
+HFONT font(const char* face, int points, bool bold) {
+  static std::map<std::tuple<std::string, int, bool>, FontHandle> made;
+  FontHandle& found = made[{face, points, bold}];
+  if (!found) {
+    constexpr int pointsPerInch = 72;
+    found.reset(CreateFontA(-MulDiv(points, screenDpi(), pointsPerInch), 0, 0, 0,
+                            bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                            OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                            DEFAULT_PITCH | FF_DONTCARE, face));
+  }
+  return found.get();
+}
+
+HFONT formFont() {
+  return font("Tahoma", 8);
+}
+
+}  // namespace windowing

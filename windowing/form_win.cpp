@@ -1,0 +1,372 @@
+#include "windowing/form_win.h"
+
+#include <commctrl.h>
+
+#include "windowing/application_win.h"
+#include "windowing/container_win.h"
+#include "windowing/fonts_win.h"
+#include "windowing/modal_win.h"
+#include "windowing/screen_win.h"
+#include "windowing/system_error_win.h"
+
+namespace windowing {
+namespace {
+
+constexpr char formClass[] = "TellaryForm";
+constexpr char formProperty[] = "TellaryForm";
+
+struct KindDesign {
+  ControlKind kind;
+  const char* windowClass;
+  DWORD style;
+  DWORD exStyle;
+};
+
+constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
+constexpr DWORD stop = shown | WS_TABSTOP;
+constexpr KindDesign kindDesigns[] = {
+    {ControlKind::group, "BUTTON", shown | BS_GROUPBOX, 0},
+    {ControlKind::label, "STATIC", shown | SS_LEFT, 0},
+    {ControlKind::plainLabel, "STATIC", shown | SS_LEFT | SS_NOPREFIX, 0},
+    {ControlKind::textBox, "EDIT", stop | ES_LEFT | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE},
+    {ControlKind::multilineBox, "EDIT",
+     stop | WS_VSCROLL | ES_LEFT | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN, WS_EX_CLIENTEDGE},
+    {ControlKind::dropDownList, "COMBOBOX", stop | WS_VSCROLL | CBS_DROPDOWNLIST, 0},
+    {ControlKind::checkBox, "BUTTON", stop | BS_AUTOCHECKBOX, 0},
+    {ControlKind::optionButton, "BUTTON", shown | BS_AUTORADIOBUTTON, 0},
+    {ControlKind::button, "BUTTON", stop | BS_PUSHBUTTON, 0},
+    {ControlKind::defaultButton, "BUTTON", stop | BS_DEFPUSHBUTTON, 0},
+    {ControlKind::tabStrip, WC_TABCONTROLA, stop | WS_CLIPSIBLINGS, 0},
+    {ControlKind::statusBar, STATUSCLASSNAMEA, shown, 0},
+    {ControlKind::toolBar, TOOLBARCLASSNAMEA,
+     shown | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS, 0},
+};
+
+const KindDesign& kindDesign(ControlKind kind) {
+  for (const KindDesign& design : kindDesigns)
+    if (design.kind == kind) return design;
+  throw RuntimeError(ErrorNumber::invalidCall, "A control of an unknown kind");
+}
+
+bool isClass(HWND window, const char* wanted) {
+  char name[32] = {};
+  GetClassNameA(window, name, sizeof name);
+  return lstrcmpiA(name, wanted) == 0;
+}
+
+bool isMultilineBox(HWND window) {
+  return isClass(window, "Edit") && (GetWindowLongA(window, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
+bool isPushButton(HWND window) {
+  return isClass(window, "Button") && (SendMessageA(window, WM_GETDLGCODE, 0, 0) &
+                                       (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+}
+
+// Dialog keys that the system's dialog handling does not answer as users expect outside its
+// own dialogs. True when the key was used.
+bool handleDialogKey(Form& form, const MSG& message) {
+  if (message.wParam == VK_TAB && GetKeyState(VK_CONTROL) >= 0) {
+    form.focusNext(GetKeyState(VK_SHIFT) < 0);
+    return true;
+  }
+  if (message.wParam == VK_RETURN && isPushButton(message.hwnd)) {
+    SendMessageA(message.hwnd, BM_CLICK, 0, 0);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Form::~Form() {
+  lastFocus_ = nullptr;
+}
+
+void Form::load() {
+  if (loaded()) return;
+  static const bool controlsReady = [] {
+    INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+    return InitCommonControlsEx(&wanted) != FALSE;
+  }();
+  (void)controlsReady;
+
+  Creation creation;
+  creation.className = formClass;
+  creation.caption = design_.caption;
+  creation.style = design_.style | WS_CLIPCHILDREN;
+  creation.exStyle = design_.exStyle | WS_EX_CONTROLPARENT;
+  creation.menu = createMenu();
+  creation.place = {0, 0, screenPixels(design_.innerWidth), screenPixels(design_.innerHeight)};
+  AdjustWindowRectEx(&creation.place, creation.style, creation.menu != nullptr, creation.exStyle);
+  OffsetRect(&creation.place, -creation.place.left, -creation.place.top);
+  create(creation);
+  SetPropA(handle(), formProperty, this);
+  createControls();
+  onLoad();
+}
+
+void Form::createControls() {
+  for (const ControlDesign& design : design_.controls) {
+    const HWND container = design.container == 0 ? handle() : control(design.container).handle();
+    const HWND made = createControl(design, container);
+    if (made == nullptr) raiseLastError();
+    controls_[design.id] = made;
+    SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(formFont()), FALSE);
+    const bool box =
+        design.kind == ControlKind::textBox || design.kind == ControlKind::multilineBox;
+    if (box) TextBox(made).setLimit(0);
+  }
+}
+
+HWND Form::createControl(const ControlDesign& design, HWND container) {
+  const RECT place{screenPixels(design.left), screenPixels(design.top),
+                   screenPixels(design.left + design.width),
+                   screenPixels(design.top + design.height)};
+  if (design.kind == ControlKind::custom) return createCustom(design, container, place);
+
+  const bool holder = design.kind == ControlKind::container;
+  const KindDesign kind =
+      holder ? KindDesign{design.kind, containerClass(), shown, WS_EX_CONTROLPARENT}
+             : kindDesign(design.kind);
+  return CreateWindowExA(kind.exStyle, kind.windowClass, design.caption, kind.style | design.style,
+                         place.left, place.top, place.right - place.left, place.bottom - place.top,
+                         container, reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
+                         programInstance(), nullptr);
+}
+
+HWND Form::createCustom(const ControlDesign&, HWND, const RECT&) {
+  return nullptr;
+}
+
+void Form::show() {
+  load();
+  ShowWindow(handle(), SW_SHOW);
+  UpdateWindow(handle());
+}
+
+void Form::showModal() {
+  load();
+  modalOwner_ = dialogOwner();
+  if (modalOwner_ == handle()) modalOwner_ = nullptr;
+  SetWindowLongA(handle(), GWL_HWNDPARENT, reinterpret_cast<LONG>(modalOwner_));
+  disabled_ = std::make_unique<DisabledOthers>(handle());
+  modal_ = true;
+  ShowWindow(handle(), SW_SHOW);
+  runModalLoop();
+}
+
+void Form::runModalLoop() {
+  MSG message{};
+  while (loaded() && modal_) {
+    const BOOL got = GetMessageA(&message, nullptr, 0, 0);
+    if (got == 0) {
+      // The program is ending: let the outer loop see it too.
+      PostQuitMessage(static_cast<int>(message.wParam));
+      break;
+    }
+    if (got < 0) break;
+    dispatchMessage(message);
+  }
+  modal_ = false;
+  disabled_.reset();
+}
+
+bool Form::unload() {
+  if (!loaded()) return true;
+  if (!onQueryUnload()) return false;
+  onUnload();
+  // The owner takes input again before this window goes, or another program would come to
+  // the front.
+  disabled_.reset();
+  const bool wasModal = modal_;
+  modal_ = false;
+  DestroyWindow(handle());
+  if (wasModal && modalOwner_ != nullptr) SetActiveWindow(modalOwner_);
+  return true;
+}
+
+Control Form::control(int id) const {
+  const auto found = controls_.find(id);
+  return found == controls_.end() ? Control() : Control(found->second);
+}
+
+Control Form::control(std::string_view name) const {
+  for (const ControlDesign& design : design_.controls)
+    if (design.name == name) return control(design.id);
+  throw RuntimeError(ErrorNumber::objectMissing,
+                     std::string(design_.name) + " has no control " + std::string(name));
+}
+
+RECT Form::outerPixels() const {
+  RECT place{};
+  GetWindowRect(handle(), &place);
+  return place;
+}
+
+void Form::moveOuter(const RECT& place) {
+  SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int Form::windowState() const {
+  if (IsIconic(handle())) return 1;
+  return IsZoomed(handle()) ? 2 : 0;
+}
+
+double Form::innerWidth() const {
+  RECT area{};
+  GetClientRect(handle(), &area);
+  return screenTwips(area.right);
+}
+
+double Form::innerHeight() const {
+  RECT area{};
+  GetClientRect(handle(), &area);
+  return screenTwips(area.bottom);
+}
+
+// The window order cannot serve here: pages lie above their tab strip, but come after it when
+// the user tabs.
+void Form::focusNext(bool backwards) {
+  std::vector<HWND> stops;
+  std::size_t at = 0;
+  const HWND focus = GetFocus();
+  for (const ControlDesign& design : design_.controls) {
+    const HWND window = control(design.id).handle();
+    if (window == focus || IsChild(window, focus)) {
+      if (design.kind != ControlKind::container) at = stops.size();
+    }
+    const bool takes = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0 &&
+                       IsWindowVisible(window) && IsWindowEnabled(window);
+    if (takes || window == focus) stops.push_back(window);
+  }
+  if (stops.empty()) return;
+  const std::size_t next = focus == nullptr ? 0
+                           : backwards      ? (at + stops.size() - 1) % stops.size()
+                                            : (at + 1) % stops.size();
+  // Focus marks and access keys show from the first use of the keyboard on.
+  SendMessageA(handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+  focusOn(stops[next]);
+}
+
+void Form::focusOn(HWND window) {
+  SetFocus(window);
+  // A box that the keyboard reaches is ready to be typed over, as in every dialog.
+  if (isClass(window, "Edit") && !isMultilineBox(window)) SendMessageA(window, EM_SETSEL, 0, -1);
+}
+
+LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
+  const int id = LOWORD(wParam);
+  const int notice = HIWORD(wParam);
+  if (lParam == 0) {
+    if (id == IDOK) {
+      onEnter();
+    } else if (id == IDCANCEL) {
+      onEscape();
+    } else {
+      onCommand(id);
+    }
+    return 0;
+  }
+  const auto sender = reinterpret_cast<HWND>(lParam);
+  if (isClass(sender, TOOLBARCLASSNAMEA)) {
+    onCommand(id);
+  } else if (isClass(sender, "Button")) {
+    if (notice == BN_CLICKED) onClick(id);
+  } else if (isClass(sender, "ComboBox")) {
+    if (notice == CBN_SELCHANGE) onSelect(id);
+  } else if (notice == EN_CHANGE) {
+    onChange(id);
+  }
+  return 0;
+}
+
+void Form::keepFocus(WPARAM wParam) {
+  if (LOWORD(wParam) != WA_INACTIVE) return;
+  const HWND focus = GetFocus();
+  if (focus != nullptr && IsChild(handle(), focus)) lastFocus_ = focus;
+}
+
+void Form::restoreFocus() {
+  const bool usable = lastFocus_ != nullptr && IsChild(handle(), lastFocus_) &&
+                      IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
+  if (usable) {
+    SetFocus(lastFocus_);
+  } else {
+    focusNext(false);
+  }
+}
+
+LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      return dispatchCommand(wParam, lParam);
+    case WM_NOTIFY: {
+      auto& header = *reinterpret_cast<NMHDR*>(lParam);
+      if (header.code == TCN_SELCHANGE) onTab(static_cast<int>(header.idFrom));
+      return onNotify(header);
+    }
+    case WM_SIZE:
+      if (wParam != SIZE_MINIMIZED) onSize();
+      return 0;
+    case WM_TIMER:
+      onTimer(wParam);
+      return 0;
+    case WM_ACTIVATE:
+      keepFocus(wParam);
+      break;
+    case WM_SETFOCUS:
+      restoreFocus();
+      return 0;
+    case WM_CLOSE:
+      unload();
+      return 0;
+    case WM_NEXTDLGCTL:
+      if (LOWORD(lParam) != 0) {
+        SetFocus(reinterpret_cast<HWND>(wParam));
+      } else {
+        focusNext(wParam != 0);
+      }
+      return 0;
+    case WM_DESTROY:
+      RemovePropA(handle(), formProperty);
+      controls_.clear();
+      lastFocus_ = nullptr;
+      break;
+    default:
+      break;
+  }
+  return Window::handleMessage(message, wParam, lParam);
+}
+
+Form* formOf(HWND window) {
+  if (window == nullptr) return nullptr;
+  return static_cast<Form*>(GetPropA(GetAncestor(window, GA_ROOT), formProperty));
+}
+
+void dispatchMessage(MSG& message) {
+  Form* form = formOf(message.hwnd);
+  if (form != nullptr && (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)) {
+    try {
+      if (form->handleKey(message)) return;
+      if (message.message == WM_KEYDOWN && handleDialogKey(*form, message)) return;
+    } catch (const std::exception& error) {
+      reportError(error);
+      return;
+    }
+    // In a box of several lines Enter belongs to the text.
+    if (message.wParam == VK_RETURN && isMultilineBox(message.hwnd)) form = nullptr;
+  }
+  if (form != nullptr && form->loaded() && IsDialogMessageA(form->handle(), &message)) return;
+  TranslateMessage(&message);
+  DispatchMessageA(&message);
+}
+
+int runMessageLoop() {
+  MSG message{};
+  while (GetMessageA(&message, nullptr, 0, 0) > 0) dispatchMessage(message);
+  return static_cast<int>(message.wParam);
+}
+
+}  // namespace windowing

@@ -1,0 +1,153 @@
+// A form: a top-level window with controls laid out by a design table. Forms load on first
+// use, hidden; they are shown modeless or modal, and unloaded when closed.
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "windowing/control_win.h"
+#include "windowing/modal_win.h"
+#include "windowing/window_win.h"
+
+namespace windowing {
+
+enum class ControlKind {
+  container,  ///< holds other controls; paints the button face
+  group,      ///< group box around its neighbours
+  label,
+  plainLabel,  ///< a label that shows "&" as it is (texts of the user)
+  textBox,
+  multilineBox,
+  dropDownList,
+  checkBox,
+  optionButton,
+  button,
+  defaultButton,
+  tabStrip,
+  statusBar,
+  toolBar,
+  custom,  ///< made by the form itself in `createCustom`
+};
+
+/// One control of a form. The order of the rows is the tab order; a row's container stands
+/// before it. Places are twips at design resolution, from the container's top-left corner.
+struct ControlDesign {
+  const char* name;  ///< the control's name; controls of an array share one
+  int id;
+  ControlKind kind;
+  const char* caption;
+  int left;
+  int top;
+  int width;
+  int height;
+  int container = 0;  ///< identifier of the control's container; 0 is the form
+  DWORD style = 0;    ///< added to the kind's own styles
+};
+
+struct FormDesign {
+  const char* name;  ///< "frmMain": the name its settings are kept under
+  const char* caption;
+  DWORD style;
+  DWORD exStyle;
+  int innerWidth;  ///< client area, twips
+  int innerHeight;
+  std::span<const ControlDesign> controls;
+};
+
+class Form : public Window {
+ public:
+  explicit Form(const FormDesign& design) : design_(design) {}
+  ~Form() override;
+
+  [[nodiscard]] const char* name() const { return design_.name; }
+  [[nodiscard]] bool loaded() const { return handle() != nullptr; }
+
+  /// Makes the window, hidden, and runs the form's load handler; nothing when it is loaded.
+  void load();
+  /// Loads when needed and shows the form beside the others.
+  void show();
+  /// Loads when needed, shows the form above its owner and returns when it is unloaded. All
+  /// other windows of the program take no input meanwhile.
+  void showModal();
+  /// Closes the form as its close box does: asks it, runs its unload handler, destroys it.
+  /// False when the form refused.
+  bool unload();
+
+  /// A control by its identifier; a null control when there is none.
+  [[nodiscard]] Control control(int id) const;
+  /// A control by its name (the first of an array); raises when the form has none.
+  [[nodiscard]] Control control(std::string_view name) const;
+
+  /// Outer place and size, twips; the state is 0 normal, 1 minimised, 2 maximised.
+  [[nodiscard]] RECT outerPixels() const;
+  void moveOuter(const RECT& pixels);
+  [[nodiscard]] int windowState() const;
+  /// Size of the client area, twips.
+  [[nodiscard]] double innerWidth() const;
+  [[nodiscard]] double innerHeight() const;
+
+  /// A key before any control sees it; true when the form took it.
+  virtual bool handleKey(const MSG&) { return false; }
+  /// Moves the focus to the next or previous control that takes it, in the design's order.
+  void focusNext(bool backwards);
+  /// Gives a control the focus as the keyboard does: a box's text is selected.
+  static void focusOn(HWND window);
+
+ protected:
+  virtual void onLoad() {}
+  /// Whether the form may be closed.
+  virtual bool onQueryUnload() { return true; }
+  virtual void onUnload() {}
+  /// A menu item, toolbar button or shortcut.
+  virtual void onCommand(int id) { (void)id; }
+  virtual void onClick(int id) { (void)id; }   ///< button, check box, option button
+  virtual void onChange(int id) { (void)id; }  ///< text of a box
+  virtual void onSelect(int id) { (void)id; }  ///< entry of a list, by the user
+  virtual void onTab(int id) { (void)id; }     ///< tab of a strip, by the user
+  virtual void onSize() {}
+  virtual void onTimer(UINT_PTR timer) { (void)timer; }
+  virtual LRESULT onNotify(NMHDR& header) {
+    (void)header;
+    return 0;
+  }
+  /// Enter and Esc, where no control takes them.
+  virtual void onEnter() {}
+  virtual void onEscape() {}
+  /// Makes a control of kind `custom` in `container` at `place` (pixels).
+  virtual HWND createCustom(const ControlDesign& design, HWND container, const RECT& place);
+  virtual HMENU createMenu() { return nullptr; }
+
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void createControls();
+  HWND createControl(const ControlDesign& design, HWND container);
+  LRESULT dispatchCommand(WPARAM wParam, LPARAM lParam);
+  void keepFocus(WPARAM wParam);
+  void restoreFocus();
+  void runModalLoop();
+
+  FormDesign design_;
+  std::map<int, HWND> controls_;
+  HWND lastFocus_ = nullptr;
+  std::unique_ptr<DisabledOthers> disabled_;
+  HWND modalOwner_ = nullptr;
+  bool modal_ = false;
+};
+
+/// The form whose window `window` is or lies in; null when it is none of the program's.
+[[nodiscard]] Form* formOf(HWND window);
+
+/// Handles one message of the thread: keys of the active form first, then the dialog keys
+/// (Tab, access keys, Enter, Esc), then the window itself.
+void dispatchMessage(MSG& message);
+
+/// Runs the program until it is told to quit; returns the exit code.
+int runMessageLoop();
+
+}  // namespace windowing

@@ -1,0 +1,25 @@
+// The primary screen: its resolution and size. The program is aware of the system's
+// resolution, which stays the same as long as it runs.
+#pragma once
+
+#include <windows.h>
+
+#include "windowing/units.h"
+
+namespace windowing {
+
+/// Dots per inch of the screen.
+[[nodiscard]] int screenDpi();
+
+/// Size of the primary screen, the taskbar's strip included.
+[[nodiscard]] Twips screenWidth();
+[[nodiscard]] Twips screenHeight();
+
+/// Nearest screen pixel of a length, and the exact length of pixels.
+[[nodiscard]] int screenPixels(double twips);
+[[nodiscard]] double screenTwips(int pixels);
+
+/// Pixels of a length that a design gives at 96 dots per inch.
+[[nodiscard]] int scaled(int pixelsAt96);
+
+}  // namespace windowing

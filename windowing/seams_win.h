@@ -1,0 +1,61 @@
+// The few places where the program asks the outside world something that a test must be
+// able to answer: message boxes, file dialogs, the shell, the clock, the settings' root.
+// The defaults are the real ones; a test replaces one at a time.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace windowing {
+
+/// What a file dialog is asked for. Paths and the filter are in the ANSI code page.
+struct FileDialog {
+  bool save = false;
+  std::string title;
+  std::string filter;     ///< pairs "Text (*.ext)|*.ext", joined by "|"
+  std::string folder;     ///< where it starts; empty: the system's choice
+  std::string fileName;   ///< proposed name, without a folder
+  std::string extension;  ///< appended to a name typed without one, no dot
+  DWORD flags = 0;        ///< OFN_ flags
+};
+
+struct Seams {
+  /// Shows a box; returns the button pressed (IDYES, IDNO, ...).
+  std::function<int(HWND owner, const std::string& text, const std::string& title, UINT flags)>
+      messageBox;
+  std::function<void()> beep;
+  /// Asks for a file; nothing when the user cancels. Raises what the dialog reports otherwise.
+  std::function<std::optional<std::string>(HWND owner, const FileDialog&)> fileDialog;
+  /// Opens a file or an address with the program registered for it; the result is not known.
+  std::function<void(HWND owner, const std::string& verb, const std::string& file,
+                     const std::string& folder)>
+      shellOpen;
+  std::function<SYSTEMTIME()> localTime;
+  /// The key that stands for a predefined root (HKEY_CURRENT_USER, ...).
+  std::function<HKEY(HKEY root)> settingsRoot;
+};
+
+[[nodiscard]] Seams& seams();
+
+/// One seam replaced for the length of a scope:
+/// `Replaced box(seams().messageBox, [](auto&&...) { return IDYES; });`
+template <typename Function>
+class Replaced {
+ public:
+  template <typename Stand>
+  Replaced(Function& seam, Stand stand) : seam_(seam), old_(std::move(seam)) {
+    seam_ = std::move(stand);
+  }
+  Replaced(const Replaced&) = delete;
+  Replaced& operator=(const Replaced&) = delete;
+  ~Replaced() { seam_ = std::move(old_); }
+
+ private:
+  Function& seam_;
+  Function old_;
+};
+
+}  // namespace windowing

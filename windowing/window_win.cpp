@@ -1,0 +1,82 @@
+#include "windowing/window_win.h"
+
+#include "windowing/application_win.h"
+#include "windowing/modal_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+#include "windowing/system_error_win.h"
+
+namespace windowing {
+
+Window::~Window() {
+  if (handle_ == nullptr) return;
+  // The object is going: its overrides must not be called any more.
+  SetWindowLongA(handle_, GWL_USERDATA, 0);
+  DestroyWindow(handle_);
+}
+
+void Window::create(const Creation& creation) {
+  WNDCLASSEXA known{};
+  known.cbSize = sizeof known;
+  if (!GetClassInfoExA(programInstance(), creation.className, &known)) {
+    WNDCLASSEXA made{};
+    made.cbSize = sizeof made;
+    made.lpfnWndProc = &Window::procedure;
+    made.hInstance = programInstance();
+    made.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    made.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    made.lpszClassName = creation.className;
+    if (!RegisterClassExA(&made)) raiseLastError();
+  }
+  const RECT& place = creation.place;
+  CreateWindowExA(creation.exStyle, creation.className, creation.caption.c_str(), creation.style,
+                  place.left, place.top, place.right - place.left, place.bottom - place.top,
+                  creation.parent, creation.menu, programInstance(), this);
+  if (handle_ == nullptr) raiseLastError();
+}
+
+LRESULT Window::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  return DefWindowProcA(handle_, message, wParam, lParam);
+}
+
+LRESULT CALLBACK Window::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+    auto* self = static_cast<Window*>(creation->lpCreateParams);
+    self->handle_ = window;
+    SetWindowLongA(window, GWL_USERDATA, reinterpret_cast<LONG>(self));
+  }
+  auto* self = reinterpret_cast<Window*>(GetWindowLongA(window, GWL_USERDATA));
+  if (self == nullptr) return DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    SetWindowLongA(window, GWL_USERDATA, 0);
+    self->handle_ = nullptr;
+    return DefWindowProcA(window, message, wParam, lParam);
+  }
+  try {
+    return self->handleMessage(message, wParam, lParam);
+  } catch (const std::exception& error) {
+    reportError(error);
+  }
+  return 0;
+}
+
+void reportError(const std::exception& error) {
+  // A failing paint handler would raise the next error as soon as the box uncovers it.
+  static bool reporting = false;
+  if (reporting) return;
+  reporting = true;
+  std::string text = error.what();
+  if (const auto* known = dynamic_cast<const RuntimeError*>(&error))
+    text =
+        "Run-time error " + std::to_string(static_cast<int>(known->number())) + ":\r\n\r\n" + text;
+  try {
+    seams().messageBox(dialogOwner(), text, productName(), MB_ICONSTOP | MB_OK);
+  } catch (const std::exception&) {
+    // Nobody is left to be told.
+    MessageBeep(MB_ICONSTOP);
+  }
+  reporting = false;
+}
+
+}  // namespace windowing
