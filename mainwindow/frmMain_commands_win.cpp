@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "controls/ICOMNU_win.h"
 #include "library/clsLibrary_win.h"
 #include "mainwindow/availability.h"
 #include "mainwindow/commands.h"
@@ -40,6 +41,16 @@ constexpr Shortcut shortcuts[] = {
     {VK_NEXT, false, id::NEXT, true, false, true, true},
     {VK_END, false, id::LAST, true, true, true, true},
 };
+
+// The document noun that descriptions insert.
+constexpr char documentNoun[] = "tellary";
+
+// Numbers of menu titles and separators; items have the number of their command.
+constexpr int firstTitle = 1;
+constexpr int firstSeparator = 101;
+
+constexpr UINT_PTR TMR1 = 1;         // watches for the pointer leaving the toolbar
+constexpr UINT timerInterval = 100;  // milliseconds
 
 constexpr LPARAM wasDown = 1 << 30;  // of a key message: the key was down before
 
@@ -130,46 +141,86 @@ bool frmMain::modified() const {
 }
 
 void frmMain::setCommandEnabled(int command, bool enabled) {
-  if (commandEnabled(command) != enabled)
-    EnableMenuItem(GetMenu(handle()), static_cast<UINT>(command), enabled ? MF_ENABLED : MF_GRAYED);
+  ICOMNU->setEnabled(command, enabled);
   const Command* known = findCommand(command);
   if (known != nullptr && known->onToolbar) TBARMAIN().setButtonEnabled(command, enabled);
 }
 
 bool frmMain::commandEnabled(int command) const {
-  const UINT state = GetMenuState(GetMenu(handle()), static_cast<UINT>(command), MF_BYCOMMAND);
-  return state != static_cast<UINT>(-1) && (state & (MF_GRAYED | MF_DISABLED)) == 0;
+  return ICOMNU->isEnabled(command);
 }
 
 void frmMain::setCommandChecked(int command, bool checked) {
-  CheckMenuItem(GetMenu(handle()), static_cast<UINT>(command), checked ? MF_CHECKED : MF_UNCHECKED);
+  ICOMNU->setChecked(command, checked);
 }
 
 bool frmMain::commandChecked(int command) const {
-  const UINT state = GetMenuState(GetMenu(handle()), static_cast<UINT>(command), MF_BYCOMMAND);
-  return state != static_cast<UINT>(-1) && (state & MF_CHECKED) != 0;
+  return ICOMNU->isChecked(command);
 }
 
-HMENU frmMain::createMenu() {
-  const HMENU bar = CreateMenu();
+controls::ICOMNU& frmMain::iconMenus() {
+  return *ICOMNU;
+}
+
+void frmMain::ICONMENUS() {
+  ICOMNU->clear();
+  ICOMNU->setImages(IMGLST);
+  int title = firstTitle;
+  int separator = firstSeparator;
   for (const Menu& menu : menus) {
-    const HMENU popup = CreatePopupMenu();
+    LIBRARY().MENUCREATE(*this, *this, std::string(menu.caption), "", 0, true, false, title);
     for (std::size_t i = menu.first; i < menu.first + menu.count; ++i) {
-      const MenuLine& line = menuLines[i];
-      const Command* command = findCommand(line.command);
+      const Command* command = findCommand(menuLines[i].command);
       if (command == nullptr) {
-        AppendMenuA(popup, MF_SEPARATOR, 0, nullptr);
+        LIBRARY().MENUCREATE(*this, *this, "", "", title, true, false, separator++);
       } else {
-        AppendMenuA(popup, MF_STRING, static_cast<UINT_PTR>(command->id),
-                    menuCaption(*command).c_str());
+        LIBRARY().MENUCREATE(*this, *this, menuCaption(*command), "", title, true, false,
+                             command->id);
       }
     }
-    AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), menu.caption.data());
+    ++title;
   }
-  return bar;
+  for (const Command& command : commands)
+    LIBRARY().ICOMNUSETUP(*this, *this, command.id, std::string(command.key));
+  SetMenu(handle(), ICOMNU->bar());
+}
+
+// Descriptions stay as long as the pointer is on what they describe. The position of the
+// contact, which they cover, comes back with the next change of the state.
+void frmMain::describe(int command) {
+  LIBRARY().STATUSTEXTDESC(*this, *this, command, false, documentNoun);
+  described_ = SBMAIN().panel();
+}
+
+void frmMain::endDescription() {
+  KillTimer(handle(), TMR1);
+  if (!described_.empty() && SBMAIN().panel() == described_)
+    LIBRARY().STATUSBARCAPTION(*this, "", false);
+  described_.clear();
+}
+
+void frmMain::onTimer(UINT_PTR timer) {
+  if (timer != TMR1) return;
+  // The family's figures for the watched area (1, 533, 44, 65) belong to one theme at one
+  // resolution; the toolbar itself says where it is.
+  POINT origin{};
+  MapWindowPoints(TBARMAIN().handle(), handle(), &origin, 1);
+  RECT area{};
+  GetClientRect(TBARMAIN().handle(), &area);
+  OffsetRect(&area, origin.x, origin.y);
+  if (!LIBRARY().MOUSEMOVE(*this, area.left, area.right, area.top, area.bottom)) endDescription();
 }
 
 LRESULT frmMain::onNotify(NMHDR& header) {
+  if (header.code == TBN_HOTITEMCHANGE) {
+    const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
+    const Command* command = (hot.dwFlags & HICF_LEAVING) != 0 ? nullptr : findCommand(hot.idNew);
+    if (command != nullptr) {
+      LIBRARY().GETTBARDESCRIPTIONS(*this, std::string(command->key), documentNoun);
+      described_ = SBMAIN().panel();
+      SetTimer(handle(), TMR1, timerInterval, nullptr);
+    }
+  }
   if (header.code == TTN_GETDISPINFOA) {
     auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
     const Command* command = findCommand(static_cast<int>(header.idFrom));
@@ -184,6 +235,8 @@ LRESULT frmMain::onNotify(NMHDR& header) {
 }
 
 LRESULT frmMain::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT answer = 0;
+  if (ICOMNU->handleMessage(handle(), message, wParam, lParam, answer)) return answer;
   switch (message) {
     case WM_QUERYENDSESSION:
       // The one question of a shutdown; what is answered "No" stays until the session ends.

@@ -8,8 +8,8 @@
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
+#include "library/own_keys_win.h"
 #include "library/path_utilities.h"
-#include "library/settings_text.h"
 #include "mainwindow/document_file_win.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
@@ -90,18 +90,15 @@ void frmMain::setDocumentPath(const std::string& path) {
 }
 
 std::string frmMain::rememberedFolder(const char* value) const {
-  const std::string folder = LIBRARY().REGSTRREAD(
-      library::rootText(library::currentUser),
-      library::productKey(windowing::companyName(), windowing::productName(), "\\frmMain\\Items"),
-      value, LIBRARY().FILESLOCATION());
+  const std::string folder =
+      LIBRARY().REGSTRREAD(library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value,
+                           LIBRARY().FILESLOCATION());
   return library::bareDriveToRoot(folder);
 }
 
 void frmMain::rememberFolder(const char* value, const std::string& file) {
-  LIBRARY().REGSTRWRITE(
-      library::rootText(library::currentUser),
-      library::productKey(windowing::companyName(), windowing::productName(), "\\frmMain\\Items"),
-      value, LIBRARY().GETFOLDERPATH(file));
+  LIBRARY().REGSTRWRITE(library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value,
+                        LIBRARY().GETFOLDERPATH(file));
 }
 
 // The steps that opening from a dialog and from the command line share. Raises what the file

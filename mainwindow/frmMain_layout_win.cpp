@@ -3,11 +3,11 @@
 
 #include <commctrl.h>
 
-#include "app/resource_ids.h"
 #include "controls/ICOMNU_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
-#include "library/settings_text.h"
+#include "library/own_keys_win.h"
+#include "library/resource_ids.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
@@ -34,14 +34,13 @@ constexpr char statusBarValue[] = "Status Bar";
 constexpr int groupStarts[] = {id::PRINT, id::ADD, id::HEADERFOOTER, id::FIRST};
 
 std::string viewKey() {
-  return library::productKey(windowing::companyName(), windowing::productName(), "\\frmMain\\View");
+  return library::ownKey("\\frmMain\\View");
 }
 
 // A stored text that is no truth value must not keep the window from loading: both bars are
 // shown then, as on the first start.
 bool storedView(const char* value) {
-  const std::string text =
-      LIBRARY().REGSTRREAD(library::rootText(library::currentUser), viewKey(), value, "True");
+  const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot, viewKey(), value, "True");
   try {
     return windowing::booleanOfText(text);
   } catch (const windowing::RuntimeError&) {
@@ -50,13 +49,26 @@ bool storedView(const char* value) {
 }
 
 void storeView(const char* value, bool shown) {
-  LIBRARY().REGSTRWRITE(library::rootText(library::currentUser), viewKey(), value,
+  LIBRARY().REGSTRWRITE(library::currentUserRoot, viewKey(), value,
                         windowing::textOfBoolean(shown));
 }
 
 }  // namespace
 
-frmMain::frmMain() : CommandForm(design::form), IMGLST(imageStrips) {}
+frmMain::frmMain()
+    : CommandForm(design::form), IMGLST(imageStrips), ICOMNU(std::make_unique<controls::ICOMNU>()) {
+  ICOMNU->onHighlight = [this](int number) {
+    if (number == 0) {
+      endDescription();
+    } else {
+      describe(number);
+    }
+  };
+  ICOMNU->onSystemHighlight = [this](std::uint32_t code) {
+    LIBRARY().SYSTEMMENUDESC(*this, code);
+    described_ = SBMAIN().panel();
+  };
+}
 
 frmMain::~frmMain() = default;
 
@@ -95,6 +107,7 @@ void frmMain::onLoad() {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   showPage(0);
   buildToolbar();
+  arrange();
 
   LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(CBOTBARBOX().handle())), "15",
                       CBOTBARBOX(), true);

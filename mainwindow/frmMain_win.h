@@ -62,7 +62,6 @@ class frmMain : public library::CommandForm {
   void onTab(int id) override;
   void onTimer(UINT_PTR timer) override;
   LRESULT onNotify(NMHDR& header) override;
-  HMENU createMenu() override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
