@@ -7,6 +7,8 @@ target_compile_definitions(tellary_options INTERFACE
   WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700 NOMINMAX WIN32_LEAN_AND_MEAN STRICT)
 target_compile_options(tellary_options INTERFACE
   -ffunction-sections -fdata-sections -fstack-protector-strong)
+# The linker has to be told as well: the guard lives in a library of its own here.
+target_link_options(tellary_options INTERFACE -fstack-protector-strong)
 
 add_library(tellary_windows STATIC ${windows_sources})
 target_link_libraries(tellary_windows PUBLIC tellary_core

@@ -31,8 +31,7 @@ std::size_t lastBackslash(std::string_view path, LeadByteTest isLead) {
 
 std::string folderPath(std::string_view path, LeadByteTest isLead) {
   const std::size_t at = lastBackslash(path, isLead);
-  // The first character is deliberately never looked at: "\name" has no folder.
-  const bool found = at != std::string_view::npos && at > 0;
+  const bool found = at != std::string_view::npos;
   // The characters looked at are counted from the end in 16 bits.
   (void)windowing::checkedCast<std::int16_t>(
       static_cast<std::int64_t>(found ? path.size() - at : path.size()));
