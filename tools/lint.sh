@@ -60,8 +60,9 @@ lint() {
 }
 
 lint host "$(compiled host | grep -vE "$windows_names" | only_wanted)"
+# The Windows headers paste a lower-case "l" to their constants, so that check has no say there.
 lint product "$(compiled product | grep -E "$windows_names" | only_wanted)" \
-  --extra-arg-before=--target=i686-w64-mingw32 \
+  --checks=-cert-dcl16-c --extra-arg-before=--target=i686-w64-mingw32 \
   "--extra-arg=-isystem$headers" "--extra-arg=-isystem$headers/i686-w64-mingw32"
 
 [[ $bad -eq 0 ]] || fail "there are findings"
