@@ -20,7 +20,7 @@ target_link_options(Tellary PRIVATE -static -Wl,--gc-sections -Wl,--dynamicbase 
   $<$<CONFIG:Release>:-s>)
 file(GLOB pictures CONFIGURE_DEPENDS app/icons/*.ico app/icons/*.bmp)
 set_source_files_properties(app/tellary.rc PROPERTIES OBJECT_DEPENDS
-  "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/app/resource_ids.h;${CMAKE_SOURCE_DIR}/app/app.manifest;${pictures}")
+  "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/library/resource_ids.h;${CMAKE_SOURCE_DIR}/app/app.manifest;${pictures}")
 
 if(EXISTS /usr/src/googletest)
   set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)

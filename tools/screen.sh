@@ -7,7 +7,7 @@ screen_pids=()
 # Starts a screen of WIDTHxHEIGHT with a window manager (without one every dialog and every
 # close takes two seconds) and points DISPLAY at it.
 start_screen() {
-  local number_file i
+  local number_file config i
   number_file=$(mktemp)
   Xvfb -displayfd 5 -screen 0 "$1x24" -nolisten tcp 5>"$number_file" >/dev/null 2>&1 </dev/null &
   screen_pids+=($!)
@@ -16,15 +16,20 @@ start_screen() {
     sleep 0.1
   done
   [[ -s $number_file ]] || { rm -f "$number_file"; return 1; }
-  export DISPLAY=":$(<"$number_file")"
+  DISPLAY=":$(<"$number_file")"
+  export DISPLAY
   rm -f "$number_file"
-  openbox >/dev/null 2>&1 </dev/null &
+  # Without the window manager's own keys, Alt+Space and Alt+F4 reach the program.
+  config=$(mktemp)
+  sed '/<keyboard>/,/<\/keyboard>/d' /etc/xdg/openbox/rc.xml >"$config"
+  openbox --config-file "$config" >/dev/null 2>&1 </dev/null &
   screen_pids+=($!)
   for ((i = 0; i < 100; i++)); do
-    xdotool get_num_desktops >/dev/null 2>&1 && return 0
+    xdotool get_num_desktops >/dev/null 2>&1 && break
     sleep 0.1
   done
-  return 1
+  rm -f "$config"
+  [[ $i -lt 100 ]]
 }
 
 stop_screen() {

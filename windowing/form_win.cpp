@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
@@ -92,6 +94,7 @@ void Form::load() {
   (void)controlsReady;
 
   Creation creation;
+  appearMaximised_ = false;
   creation.className = formClass;
   creation.caption = design_.caption;
   creation.style = design_.style | WS_CLIPCHILDREN;
@@ -141,8 +144,17 @@ HWND Form::createCustom(const ControlDesign&, HWND, const RECT&) {
 
 void Form::show() {
   load();
-  ShowWindow(handle(), SW_SHOW);
+  appear();
   UpdateWindow(handle());
+}
+
+void Form::appear() {
+  const bool maximised = std::exchange(appearMaximised_, false);
+  ShowWindow(handle(), maximised ? SW_SHOWMAXIMIZED : SW_SHOW);
+}
+
+void Form::maximiseWhenShown() {
+  appearMaximised_ = true;
 }
 
 void Form::showModal() {
@@ -152,7 +164,7 @@ void Form::showModal() {
   SetWindowLongA(handle(), GWL_HWNDPARENT, reinterpret_cast<LONG>(modalOwner_));
   disabled_ = std::make_unique<DisabledOthers>(handle());
   modal_ = true;
-  ShowWindow(handle(), SW_SHOW);
+  appear();
   runModalLoop();
 }
 
@@ -211,7 +223,7 @@ void Form::moveOuter(const RECT& place) {
 
 int Form::windowState() const {
   if (IsIconic(handle())) return 1;
-  return IsZoomed(handle()) ? 2 : 0;
+  return IsZoomed(handle()) || appearMaximised_ ? 2 : 0;
 }
 
 double Form::innerWidth() const {

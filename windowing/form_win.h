@@ -87,6 +87,9 @@ class Form : public Window {
   [[nodiscard]] RECT outerPixels() const;
   void moveOuter(const RECT& pixels);
   [[nodiscard]] int windowState() const;
+  /// Has a hidden form appear maximised at its next showing; until then its outer rectangle
+  /// is the one it will be restored to.
+  void maximiseWhenShown();
   /// Size of the client area, twips.
   [[nodiscard]] double innerWidth() const;
   [[nodiscard]] double innerHeight() const;
@@ -131,6 +134,7 @@ class Form : public Window {
   void keepFocus(WPARAM wParam);
   void restoreFocus();
   void runModalLoop();
+  void appear();
 
   FormDesign design_;
   std::map<int, HWND> controls_;
@@ -138,6 +142,7 @@ class Form : public Window {
   std::unique_ptr<DisabledOthers> disabled_;
   HWND modalOwner_ = nullptr;
   bool modal_ = false;
+  bool appearMaximised_ = false;
 };
 
 /// The form whose window `window` is or lies in; null when it is none of the program's.

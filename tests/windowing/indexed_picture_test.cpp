@@ -61,7 +61,11 @@ TEST(IndexedPicture, RefusesWhatIsNoSuchBitmap) {
       {"top row first", [](Bytes& b) { b[11] = std::byte{0xFF}; }},
       {"24 bits", [](Bytes& b) { b[14] = std::byte{24}; }},
       {"compressed", [](Bytes& b) { b[16] = std::byte{1}; }},
-      {"too many colours", [](Bytes& b) { b[33] = std::byte{2}; }},
+      {"too many colours",
+       [](Bytes& b) {
+         b[33] = std::byte{2};
+         b.resize(4096);
+       }},
   };
   for (const auto& [what, spoil] : cases) {
     Bytes bytes = sample(8);

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "app/resource_ids.h"
+#include "library/resource_ids.h"
 #include "library/images.h"
 
 namespace windowing {
