@@ -9,9 +9,9 @@
 #include "controls/drawing_win.h"
 #include "controls/subclass_win.h"
 #include "windowing/application_win.h"
-#include "windowing/checked.h"
 #include "windowing/seams_win.h"
 #include "windowing/system_error_win.h"
+#include "windowing/user_locale_win.h"
 
 namespace controls {
 namespace {
@@ -20,12 +20,6 @@ constexpr int smallStep = 1;
 constexpr int largeStep = 10;
 constexpr int tenthsInOne = 10;
 constexpr int initialTenths = 10;
-
-char usersDecimalSign() {
-  char sign[4] = {};
-  GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, sign, sizeof sign);
-  return sign[0] == '\0' ? '.' : sign[0];
-}
 
 int tenthsOf(double number) {
   constexpr double most = 1e6;
@@ -73,7 +67,7 @@ class NumberInBox : public Subclass {
   void placeArrows() const;
 
   HWND arrows_ = nullptr;  // a child of the box; goes with it
-  char sign_ = usersDecimalSign();
+  char sign_ = windowing::userDecimalSign();
   SpinLimits limits_;
   int value_ = initialTenths;
   int wheel_ = 0;
