@@ -159,6 +159,7 @@ void ButtonOfBox::press() {
   // Whoever presses the button has left the control before; that may refuse or change things.
   if (GetFocus() != window()) SetFocus(window());
   if (!enabled()) return;
+  if (tip_ != nullptr) SendMessageA(tip_, TTM_POP, 0, 0);
   pressing_ = true;
   SetCapture(window());
   setDown(true);

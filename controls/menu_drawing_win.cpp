@@ -27,7 +27,7 @@ constexpr UINT noAccessKeys = 0x0100;  // ODS_NOACCEL
 
 // Marks of the system's symbol font, which scale as text does.
 constexpr char checkGlyph[] = "a";
-constexpr char arrowGlyph[] = "8";
+constexpr char arrowGlyph[] = "4";
 
 struct Fonts {
   FontHandle text;
@@ -119,13 +119,18 @@ void drawColumn(HDC dc, const RECT& column, const MenuItemLook& look, UINT state
     if (isChecked) drawMark(dc, column, checkGlyph, mark);
     return;
   }
+  // Blue pictures would drown in the highlight: a picture keeps a ground of its own.
+  if ((state & ODS_SELECTED) != 0 && !disabled) {
+    fill(dc, column, mixedColour(COLOR_MENU, COLOR_HIGHLIGHT, 20));
+    frame(dc, column, GetSysColor(COLOR_HIGHLIGHT), scaled(1));
+  }
   const int x = column.left + (widthOf(column) - images->size()) / 2;
   const int y = column.top + (heightOf(column) - images->size()) / 2;
   if (isChecked) {
     const RECT box{x, y, x + images->size(), y + images->size()};
     RECT pressed = box;
     InflateRect(&pressed, scaled(pressedPadding), scaled(pressedPadding));
-    fill(dc, pressed, mixedColour(COLOR_MENU, COLOR_HIGHLIGHT, 20));
+    fill(dc, pressed, mixedColour(COLOR_MENU, COLOR_HIGHLIGHT, 35));
     frame(dc, pressed, GetSysColor(disabled ? COLOR_GRAYTEXT : COLOR_HIGHLIGHT), scaled(1));
   }
   images->draw(dc, x, y, look.image, !disabled);

@@ -65,12 +65,12 @@ void clsLibrary::ICOMNUSETUP(CommandForm& ICOMNUFORM, CommandForm& IMGLSTFORM, i
 void clsLibrary::STATUSTEXTDESC(CommandForm& ICOMNUFORM, CommandForm& SBFORM, int MENUNUMBER,
                                 bool SHOWVAL, const std::string& NOUN) {
   CommandForm& owner = itemIsOfStatusForm(ICOMNUFORM) ? SBFORM : ICOMNUFORM;
-  const std::string caption = owner.iconMenus().CAPTION(MENUNUMBER);
-  // Deliberate: the flag that is called "show" clears.
+  const controls::ICOMNU& menus = owner.iconMenus();
+  // Deliberate: the flag that is called "show" clears. It comes without an item when a menu ends.
   if (SHOWVAL) {
     STATUSBARCAPTION(SBFORM, "", false);
   } else {
-    describe(*this, SBFORM, caption, NOUN);
+    describe(*this, SBFORM, menus.CAPTION(MENUNUMBER), NOUN);
   }
 }
 
