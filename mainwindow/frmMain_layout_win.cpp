@@ -99,15 +99,16 @@ void frmMain::onLoad() {
                                 IMAGE_ICON, GetSystemMetrics(big ? SM_CXICON : SM_CXSMICON),
                                 GetSystemMetrics(big ? SM_CYICON : SM_CYSMICON), LR_SHARED)));
   }
-  windowing::setContainerColour(control(id::PICHEADER).handle(), COLOR_WINDOW);
+  windowing::setSurface(control(id::PICHEADER).handle(), windowing::Surface::window);
   control(id::LBLDESC).setFont(windowing::font("Tahoma", 10, true));
   for (const char* caption : {"General", "Home Address", "Work Address"}) TABMAIN().add(caption);
-  for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL})
-    SetWindowPos(control(page).handle(), HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL}) {
+    const HWND frame = control(page).handle();
+    windowing::setSurface(frame, windowing::Surface::tabPage);
+    SetWindowPos(frame, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
   showPage(0);
   buildToolbar();
-  arrange();
 
   LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(CBOTBARBOX().handle())), "15",
                       CBOTBARBOX(), true);
@@ -121,6 +122,7 @@ void frmMain::onLoad() {
   SETSAVE("False");
   startNewDocument();
   layOut();
+  setFirstFocus(TXTITEMS(1));
 }
 
 void frmMain::buildToolbar() {
