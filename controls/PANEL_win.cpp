@@ -2,7 +2,6 @@
 
 #include "controls/drawing_win.h"
 #include "windowing/application_win.h"
-#include "windowing/container_win.h"
 #include "windowing/system_error_win.h"
 
 namespace controls {
@@ -19,8 +18,8 @@ PANEL PANEL::create(HWND container, int id, const RECT& place, Border border) {
   return PANEL(panel);
 }
 
-void PANEL::setColour(int systemColour) const {
-  windowing::setContainerColour(handle(), systemColour);
+void PANEL::setSurface(windowing::Surface surface) const {
+  windowing::setSurface(handle(), surface);
 }
 
 }  // namespace controls

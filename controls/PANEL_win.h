@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "windowing/container_win.h"
 #include "windowing/control_win.h"
 
 namespace controls {
@@ -16,8 +17,7 @@ class PANEL : public windowing::Control {
   /// Makes the panel in `container` at `place` (pixels), with the colour of buttons. Raises when
   /// Windows refuses.
   static PANEL create(HWND container, int id, const RECT& place, Border border);
-  /// Background, one of the system's COLOR_ numbers.
-  void setColour(int systemColour) const;
+  void setSurface(windowing::Surface surface) const;
 };
 
 }  // namespace controls

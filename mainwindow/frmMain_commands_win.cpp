@@ -110,6 +110,8 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoNext);
     case id::LAST:
       return move(&frmMain::GoLast);
+    case id::WEBSITE:
+      return openMakerSite();
     default:
       return;
   }

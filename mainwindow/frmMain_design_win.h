@@ -155,6 +155,11 @@ constexpr int boxId(const document::Field& field) {
   return id::TXTITEMS + field.item;
 }
 
+constexpr ControlKind boxKind(const document::Field& field) {
+  if (field.box != document::Box::TXTITEMS) return ControlKind::custom;
+  return field.slot == Slot::Comments ? ControlKind::multilineBox : ControlKind::textBox;
+}
+
 constexpr ControlDesign frame(const char* name, int frameId) {
   return {name,
           frameId,

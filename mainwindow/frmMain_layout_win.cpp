@@ -109,6 +109,7 @@ void frmMain::onLoad() {
   }
   showPage(0);
   buildToolbar();
+  prepareLinks();
 
   LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(CBOTBARBOX().handle())), "15",
                       CBOTBARBOX(), true);

@@ -59,9 +59,12 @@ class frmMain : public library::CommandForm {
   void onCommand(int id) override { runCommand(id); }
   void onChange(int id) override;
   void onSelect(int id) override;
+  void onNotice(int id, int notice) override;
   void onTab(int id) override;
   void onTimer(UINT_PTR timer) override;
   LRESULT onNotify(NMHDR& header) override;
+  HWND createCustom(const windowing::ControlDesign& design, HWND container,
+                    const RECT& place) override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
@@ -88,6 +91,12 @@ class frmMain : public library::CommandForm {
   void refreshStatusText();
   void showPage(int index);
   void focusFirstField();
+
+  // Links (frmMain_links_win.cpp).
+  void prepareLinks();
+  void checkWebAddress(int id);
+  void openLink(int id);
+  void openMakerSite();
 
   // The document (frmMain_document_win.cpp).
   void newDocument();

@@ -290,6 +290,8 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
     if (notice == CBN_SELCHANGE) onSelect(id);
   } else if (notice == EN_CHANGE) {
     onChange(id);
+  } else {
+    onNotice(id, notice);
   }
   return 0;
 }

@@ -113,7 +113,12 @@ class Form : public Window {
   virtual void onClick(int id) { (void)id; }   ///< button, check box, option button
   virtual void onChange(int id) { (void)id; }  ///< text of a box
   virtual void onSelect(int id) { (void)id; }  ///< entry of a list, by the user
-  virtual void onTab(int id) { (void)id; }     ///< tab of a strip, by the user
+  /// Any other notice of a control.
+  virtual void onNotice(int id, int notice) {
+    (void)id;
+    (void)notice;
+  }
+  virtual void onTab(int id) { (void)id; }  ///< tab of a strip, by the user
   /// Brush and colours (set in `dc`) of a control that has others than the system's; null for
   /// the system's.
   virtual HBRUSH onColour(HDC dc, int id) {
