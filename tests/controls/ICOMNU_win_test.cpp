@@ -254,8 +254,11 @@ TEST(MenuDrawing, StatesLookDifferent) {
   const UINT states[] = {0,           ODS_SELECTED, ODS_GRAYED, ODS_GRAYED | ODS_SELECTED,
                          ODS_CHECKED, noAccessKeys};
   for (const UINT a : states)
-    for (const UINT b : states)
-      if (a != b) EXPECT_NE(Painted(look, a, images), Painted(look, b, images)) << a << ' ' << b;
+    for (const UINT b : states) {
+      if (a != b) {
+        EXPECT_NE(Painted(look, a, images), Painted(look, b, images)) << a << ' ' << b;
+      }
+    }
 }
 
 }  // namespace
