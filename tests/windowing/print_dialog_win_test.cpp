@@ -126,8 +126,14 @@ void CALLBACK pressButton(HWND, UINT, UINT_PTR timer, DWORD) {
 }
 
 TEST_F(PrintDialogs, TheSystemsDialogIsAnswered) {
-  const HWND bystander = CreateWindowExA(WS_EX_NOACTIVATE, "STATIC", "", WS_POPUP | WS_VISIBLE, 0,
-                                         0, 50, 50, nullptr, nullptr, nullptr, nullptr);
+  const auto makeWindow = [] {
+    return CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
+                           nullptr, nullptr);
+  };
+  const HWND bystander = makeWindow();
+  const HWND active = makeWindow();
+  SetActiveWindow(active);
+  ASSERT_EQ(dialogOwner(), active);
   for (const bool agree : {true, false}) {
     Answer answer{agree, false, bystander};
     theAnswer = &answer;
@@ -146,6 +152,7 @@ TEST_F(PrintDialogs, TheSystemsDialogIsAnswered) {
     EXPECT_EQ(printer().name(), TestPrinters::letter);
   }
   theAnswer = nullptr;
+  DestroyWindow(active);
   DestroyWindow(bystander);
 }
 
