@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
@@ -66,7 +68,7 @@ bool isPushButton(HWND window) {
 // Dialog keys that the system's dialog handling does not answer as users expect outside its
 // own dialogs. True when the key was used.
 bool handleDialogKey(Form& form, const MSG& message) {
-  if (message.wParam == VK_TAB && isMultilineBox(message.hwnd) && GetKeyState(VK_CONTROL) >= 0) {
+  if (message.wParam == VK_TAB && GetKeyState(VK_CONTROL) >= 0) {
     form.focusNext(GetKeyState(VK_SHIFT) < 0);
     return true;
   }
@@ -92,6 +94,7 @@ void Form::load() {
   (void)controlsReady;
 
   Creation creation;
+  appearMaximised_ = false;
   creation.className = formClass;
   creation.caption = design_.caption;
   creation.style = design_.style | WS_CLIPCHILDREN;
@@ -141,8 +144,17 @@ HWND Form::createCustom(const ControlDesign&, HWND, const RECT&) {
 
 void Form::show() {
   load();
-  ShowWindow(handle(), SW_SHOW);
+  appear();
   UpdateWindow(handle());
+}
+
+void Form::appear() {
+  const bool maximised = std::exchange(appearMaximised_, false);
+  ShowWindow(handle(), maximised ? SW_SHOWMAXIMIZED : SW_SHOW);
+}
+
+void Form::maximiseWhenShown() {
+  appearMaximised_ = true;
 }
 
 void Form::showModal() {
@@ -152,7 +164,7 @@ void Form::showModal() {
   SetWindowLongA(handle(), GWL_HWNDPARENT, reinterpret_cast<LONG>(modalOwner_));
   disabled_ = std::make_unique<DisabledOthers>(handle());
   modal_ = true;
-  ShowWindow(handle(), SW_SHOW);
+  appear();
   runModalLoop();
 }
 
@@ -191,6 +203,13 @@ Control Form::control(int id) const {
   return found == controls_.end() ? Control() : Control(found->second);
 }
 
+Control Form::control(std::string_view name) const {
+  for (const ControlDesign& design : design_.controls)
+    if (design.name == name) return control(design.id);
+  throw RuntimeError(ErrorNumber::objectMissing,
+                     std::string(design_.name) + " has no control " + std::string(name));
+}
+
 RECT Form::outerPixels() const {
   RECT place{};
   GetWindowRect(handle(), &place);
@@ -204,7 +223,7 @@ void Form::moveOuter(const RECT& place) {
 
 int Form::windowState() const {
   if (IsIconic(handle())) return 1;
-  return IsZoomed(handle()) ? 2 : 0;
+  return IsZoomed(handle()) || appearMaximised_ ? 2 : 0;
 }
 
 double Form::innerWidth() const {
@@ -219,14 +238,34 @@ double Form::innerHeight() const {
   return screenTwips(area.bottom);
 }
 
+// The window order cannot serve here: pages lie above their tab strip, but come after it when
+// the user tabs.
 void Form::focusNext(bool backwards) {
-  const HWND next = GetNextDlgTabItem(handle(), GetFocus(), backwards ? TRUE : FALSE);
-  if (next == nullptr) return;
-  SetFocus(next);
+  std::vector<HWND> stops;
+  std::size_t at = 0;
+  const HWND focus = GetFocus();
+  for (const ControlDesign& design : design_.controls) {
+    const HWND window = control(design.id).handle();
+    if (window == focus || IsChild(window, focus)) {
+      if (design.kind != ControlKind::container) at = stops.size();
+    }
+    const bool takes = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0 &&
+                       IsWindowVisible(window) && IsWindowEnabled(window);
+    if (takes || window == focus) stops.push_back(window);
+  }
+  if (stops.empty()) return;
+  const std::size_t next = focus == nullptr ? 0
+                           : backwards      ? (at + stops.size() - 1) % stops.size()
+                                            : (at + 1) % stops.size();
+  // Focus marks and access keys show from the first use of the keyboard on.
+  SendMessageA(handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+  focusOn(stops[next]);
+}
+
+void Form::focusOn(HWND window) {
+  SetFocus(window);
   // A box that the keyboard reaches is ready to be typed over, as in every dialog.
-  if ((SendMessageA(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 &&
-      (GetWindowLongA(next, GWL_STYLE) & ES_MULTILINE) == 0)
-    SendMessageA(next, EM_SETSEL, 0, -1);
+  if (isClass(window, "Edit") && !isMultilineBox(window)) SendMessageA(window, EM_SETSEL, 0, -1);
 }
 
 LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
@@ -251,6 +290,8 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
     if (notice == CBN_SELCHANGE) onSelect(id);
   } else if (notice == EN_CHANGE) {
     onChange(id);
+  } else {
+    onNotice(id, notice);
   }
   return 0;
 }
@@ -264,8 +305,11 @@ void Form::keepFocus(WPARAM wParam) {
 void Form::restoreFocus() {
   const bool usable = lastFocus_ != nullptr && IsChild(handle(), lastFocus_) &&
                       IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
-  const HWND wanted = usable ? lastFocus_ : GetNextDlgTabItem(handle(), nullptr, FALSE);
-  if (wanted != nullptr) SetFocus(wanted);
+  if (usable) {
+    SetFocus(lastFocus_);
+  } else {
+    focusNext(false);
+  }
 }
 
 LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -276,6 +320,16 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       auto& header = *reinterpret_cast<NMHDR*>(lParam);
       if (header.code == TCN_SELCHANGE) onTab(static_cast<int>(header.idFrom));
       return onNotify(header);
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORBTN: {
+      const auto sender = reinterpret_cast<HWND>(lParam);
+      const HBRUSH brush = onColour(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(sender));
+      if (brush != nullptr) return reinterpret_cast<LRESULT>(brush);
+      // A container answers for what lies on it.
+      if (GetParent(sender) != handle()) return 0;
+      break;
     }
     case WM_SIZE:
       if (wParam != SIZE_MINIMIZED) onSize();

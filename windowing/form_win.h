@@ -37,6 +37,7 @@ enum class ControlKind {
 /// One control of a form. The order of the rows is the tab order; a row's container stands
 /// before it. Places are twips at design resolution, from the container's top-left corner.
 struct ControlDesign {
+  const char* name;  ///< the control's name; controls of an array share one
   int id;
   ControlKind kind;
   const char* caption;
@@ -79,19 +80,28 @@ class Form : public Window {
 
   /// A control by its identifier; a null control when there is none.
   [[nodiscard]] Control control(int id) const;
+  /// A control by its name (the first of an array); raises when the form has none.
+  [[nodiscard]] Control control(std::string_view name) const;
 
   /// Outer place and size, twips; the state is 0 normal, 1 minimised, 2 maximised.
   [[nodiscard]] RECT outerPixels() const;
   void moveOuter(const RECT& pixels);
   [[nodiscard]] int windowState() const;
+  /// Has a hidden form appear maximised at its next showing; until then its outer rectangle
+  /// is the one it will be restored to.
+  void maximiseWhenShown();
   /// Size of the client area, twips.
   [[nodiscard]] double innerWidth() const;
   [[nodiscard]] double innerHeight() const;
 
   /// A key before any control sees it; true when the form took it.
   virtual bool handleKey(const MSG&) { return false; }
-  /// Moves the focus to the next or previous control that takes it.
+  /// Moves the focus to the next or previous control that takes it, in the design's order.
   void focusNext(bool backwards);
+  /// The control that has the focus when the form is shown or comes to the front next.
+  void setFirstFocus(const Control& wanted) { lastFocus_ = wanted.handle(); }
+  /// Gives a control the focus as the keyboard does: a box's text is selected.
+  static void focusOn(HWND window);
 
  protected:
   virtual void onLoad() {}
@@ -103,7 +113,19 @@ class Form : public Window {
   virtual void onClick(int id) { (void)id; }   ///< button, check box, option button
   virtual void onChange(int id) { (void)id; }  ///< text of a box
   virtual void onSelect(int id) { (void)id; }  ///< entry of a list, by the user
-  virtual void onTab(int id) { (void)id; }     ///< tab of a strip, by the user
+  /// Any other notice of a control.
+  virtual void onNotice(int id, int notice) {
+    (void)id;
+    (void)notice;
+  }
+  virtual void onTab(int id) { (void)id; }  ///< tab of a strip, by the user
+  /// Brush and colours (set in `dc`) of a control that has others than the system's; null for
+  /// the system's.
+  virtual HBRUSH onColour(HDC dc, int id) {
+    (void)dc;
+    (void)id;
+    return nullptr;
+  }
   virtual void onSize() {}
   virtual void onTimer(UINT_PTR timer) { (void)timer; }
   virtual LRESULT onNotify(NMHDR& header) {
@@ -126,6 +148,7 @@ class Form : public Window {
   void keepFocus(WPARAM wParam);
   void restoreFocus();
   void runModalLoop();
+  void appear();
 
   FormDesign design_;
   std::map<int, HWND> controls_;
@@ -133,6 +156,7 @@ class Form : public Window {
   std::unique_ptr<DisabledOthers> disabled_;
   HWND modalOwner_ = nullptr;
   bool modal_ = false;
+  bool appearMaximised_ = false;
 };
 
 /// The form whose window `window` is or lies in; null when it is none of the program's.

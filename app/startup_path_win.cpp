@@ -1,0 +1,69 @@
+#include "app/startup_path_win.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <array>
+
+#include "library/path_utilities.h"
+#include "library/proper_case_win.h"
+#include "windowing/handles_win.h"
+#include "windowing/user_locale_win.h"
+
+namespace app {
+namespace {
+
+std::string fullPathOf(const std::string& requested) {
+  std::array<char, MAX_PATH> buffer{};
+  const DWORD length = GetFullPathNameA(requested.c_str(), buffer.size(), buffer.data(), nullptr);
+  // A greater number is the size it would have needed.
+  return length != 0 && length < buffer.size() ? std::string(buffer.data(), length) : requested;
+}
+
+std::string folderOf(const std::string& path) {
+  std::string folder = library::folderWithBackslash(path, windowing::isLeadByte);
+  if (folder.empty()) return folder;
+  folder = library::PROPERCASEPATH(folder);
+  if (library::lastBackslash(folder, windowing::isLeadByte) != folder.size() - 1) folder += '\\';
+  return folder;
+}
+
+// Empty where the shell does not know the file.
+std::string shellDisplayName(const std::string& path) {
+  SHFILEINFOA info{};
+  static_assert(sizeof info == 352);
+  const DWORD_PTR known = SHGetFileInfoA(path.c_str(), 0, &info, sizeof info,
+                                         SHGFI_ICON | SHGFI_DISPLAYNAME | SHGFI_TYPENAME);
+  const windowing::IconHandle icon(info.hIcon);
+  if (known == 0) return {};
+  return library::TRIMNULL(std::string(info.szDisplayName, sizeof info.szDisplayName));
+}
+
+bool sameName(const std::string& a, const std::string& b) {
+  return lstrcmpiA(a.c_str(), b.c_str()) == 0;
+}
+
+// The name that the shell shows, with the extension that Explorer may be set to hide. A
+// translated name, or any other that is not the disk's, would open nothing or another file.
+std::string fileNameOf(const std::string& shown, const std::string& onDisk) {
+  if (sameName(shown, onDisk)) return shown;
+  const std::size_t dot = onDisk.find_last_of('.');
+  const std::string complete = dot == std::string::npos ? shown : shown + onDisk.substr(dot);
+  return sameName(complete, onDisk) ? complete : onDisk;
+}
+
+}  // namespace
+
+std::string documentPathOf(const std::string& tail) {
+  const std::string path = fullPathOf(tail);
+  const std::string folder = folderOf(path);
+  const std::string typed =
+      path.substr(library::folderWithBackslash(path, windowing::isLeadByte).size());
+  // A wildcard would find another file than the one that was named.
+  if (typed.empty() || library::hasWildcards(path)) return folder + typed;
+  const std::string onDisk = library::PROPERCASEPATH(folder + typed).substr(folder.size());
+  return folder + fileNameOf(shellDisplayName(path), onDisk);
+}
+
+}  // namespace app

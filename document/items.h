@@ -1,0 +1,59 @@
+// Items of comma- and line-delimited text, the grain of the document file.
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+
+namespace document {
+
+/// Reads one item after the other. Blanks before an item are skipped (blanks only: a tab is
+/// text). A quoted item runs to the next double quote, line breaks included, and the rest of
+/// its line is dropped up to a comma or the line end; an item without quotes runs to a comma
+/// or the line end. CR LF, CR and LF each end a line once. No other byte means anything, neither
+/// NUL nor 0x1A.
+class ItemScanner {
+ public:
+  explicit ItemScanner(std::string_view bytes, std::size_t start = 0)
+      : begin_(bytes.data()),
+        at_(start < bytes.size() ? begin_ + start : begin_ + bytes.size()),
+        end_(begin_ + bytes.size()) {}
+
+  [[nodiscard]] bool atEnd() const { return at_ == end_; }
+  [[nodiscard]] std::size_t position() const { return static_cast<std::size_t>(at_ - begin_); }
+
+  /// The next item into `item`, a view of the scanned bytes. False when the bytes were used up
+  /// before it began. A quote that is never closed takes the rest of the bytes, and the last
+  /// line counts without its line end too.
+  bool next(std::string_view& item) {
+    if (at_ == end_) return false;
+    while (*at_ == ' ')
+      if (++at_ == end_) {
+        item = {};
+        return true;
+      }
+    const bool quoted = *at_ == '"';
+    const char* const text = quoted ? at_ + 1 : at_;
+    if (quoted) {
+      const void* quote = std::memchr(text, '"', static_cast<std::size_t>(end_ - text));
+      const char* const close = quote != nullptr ? static_cast<const char*>(quote) : end_;
+      item = {text, static_cast<std::size_t>(close - text)};
+      if (close == end_) {
+        at_ = end_;
+        return true;
+      }
+      at_ = close + 1;
+    }
+    while (at_ != end_ && *at_ != ',' && *at_ != '\r' && *at_ != '\n') ++at_;
+    if (!quoted) item = {text, static_cast<std::size_t>(at_ - text)};
+    if (at_ != end_ && *at_++ == '\r' && at_ != end_ && *at_ == '\n') ++at_;
+    return true;
+  }
+
+ private:
+  const char* begin_;
+  const char* at_;
+  const char* end_;
+};
+
+}  // namespace document

@@ -1,0 +1,18 @@
+// The centring of the system's dialogs as a scope.
+#pragma once
+
+#include "library/clsLibrary_win.h"
+
+namespace library {
+
+/// Centres the next dialog of the system that opens in this scope. Open it right before the
+/// dialog; one whose dialog never came leaves nothing armed.
+class CentredDialog {
+ public:
+  CentredDialog() { LIBRARY().HOOKFRMLOAD(); }
+  CentredDialog(const CentredDialog&) = delete;
+  CentredDialog& operator=(const CentredDialog&) = delete;
+  ~CentredDialog() { LIBRARY().HOOKFRMUNLOAD(); }
+};
+
+}  // namespace library

@@ -1,0 +1,105 @@
+// Files, folders and the shell. Nothing here reports a failure of its own: the shell does.
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
+#include "library/path_utilities.h"
+#include "library/text_utilities.h"
+#include "windowing/application_win.h"
+#include "windowing/modal_win.h"
+#include "windowing/number_text.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+
+namespace library {
+namespace {
+
+// Attributes of what the path names, and nothing else: no match of a wildcard, no path cut
+// short at a NUL.
+DWORD attributesOf(const std::string& path) {
+  const bool plain = !path.empty() && !hasWildcards(path) && path.find('\0') == std::string::npos;
+  return plain ? GetFileAttributesA(path.c_str()) : INVALID_FILE_ATTRIBUTES;
+}
+
+bool isPlainTarget(const std::string& path) {
+  return isFullPath(path) && !hasWildcards(path) && path.find('\0') == std::string::npos;
+}
+
+// Without a full path the shell deletes for good instead of moving to the recycle bin. The
+// only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
+// its result is not looked at.
+void shellOperation(UINT function, const std::string& from, const std::string* to) {
+  if (!isSafeToDelete(from) || (to != nullptr && !isPlainTarget(*to))) return;
+  const std::string fromList = doubleNulList(from);
+  const std::string toList = to == nullptr ? std::string() : doubleNulList(*to);
+  SHFILEOPSTRUCTA operation{};
+  operation.hwnd = windowing::dialogOwner();
+  operation.wFunc = function;
+  operation.pFrom = fromList.data();
+  operation.pTo = to == nullptr ? nullptr : toList.data();
+  operation.fFlags = FOF_ALLOWUNDO;
+  const windowing::DisabledOthers others(operation.hwnd);
+  (void)SHFileOperationA(&operation);
+}
+
+}  // namespace
+
+std::string clsLibrary::FILECHK(const std::string& FILENAME) {
+  return fileCheck(FILENAME);
+}
+
+bool clsLibrary::FILEEXISTS(const std::string& FILEPATH) {
+  const DWORD attributes = attributesOf(FILEPATH);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool clsLibrary::FOLDEREXIST(const std::string& FILELOCATION) {
+  const DWORD attributes = attributesOf(FILELOCATION);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+void clsLibrary::FILEDELETE(const std::string& FILEPATH) {
+  shellOperation(FO_DELETE, FILEPATH, nullptr);
+}
+
+void clsLibrary::FILEMOVE(const std::string& FILELOCATION, const std::string& FILEDESTINATION) {
+  shellOperation(FO_MOVE, FILELOCATION, &FILEDESTINATION);
+}
+
+void clsLibrary::FILERENAME(const std::string& CURRENTFILENAME, const std::string& NEWFILENAME) {
+  shellOperation(FO_RENAME, CURRENTFILENAME, &NEWFILENAME);
+}
+
+bool clsLibrary::OVERWRITECHK(const std::string& CURRENTFILENAME) {
+  if (!LIBRARY().FILEEXISTS(CURRENTFILENAME)) return true;
+  return LIBRARY().MESSAGEBOXFCN(3, CURRENTFILENAME, "", "", "") == IDYES;
+}
+
+void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& CURRENTFLDRLOCATION,
+                              windowing::Form& MODALFORM) {
+  modLibrary().folderBrowseOwner = CURRENTFORM.handle();
+  modLibrary().folderBrowseFolder = CURRENTFLDRLOCATION;
+  try {
+    // A modal form is owned by the active window.
+    SetActiveWindow(CURRENTFORM.handle());
+    MODALFORM.showModal();
+  } catch (const windowing::RuntimeError&) {
+    // A form that cannot be shown leaves the folder as it was.
+  }
+}
+
+void clsLibrary::INTERNETACCESS(const std::string& HWNDTEXT, const std::string& LINKTYPESTR,
+                                const std::string& ADDRESS) {
+  if (ADDRESS.empty()) return;
+  const auto owner =
+      reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.')));
+  windowing::seams().shellOpen(owner, "Open", LINKTYPESTR + ADDRESS, windowing::programFolder());
+}
+
+std::string clsLibrary::HTMLFORMATCHECK(const std::string& ADDRESS) {
+  return htmlFormatCheck(ADDRESS);
+}
+
+}  // namespace library

@@ -1,0 +1,94 @@
+// Windows come back where the user left them, and standard buttons have their places.
+#include <string_view>
+
+#include "library/clsLibrary_win.h"
+#include "library/placement.h"
+#include "library/settings_text.h"
+#include "windowing/application_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/screen_win.h"
+#include "windowing/user_locale_win.h"
+
+namespace library {
+namespace {
+
+using windowing::screenPixels;
+using windowing::screenTwips;
+using windowing::Twips;
+
+std::string placementKey(const std::string& formName) {
+  return windowKey(windowing::companyName(), windowing::productName(), formName);
+}
+
+FormPlacement placementOf(const windowing::Form& form) {
+  const RECT outer = form.outerPixels();
+  return {static_cast<WindowState>(form.windowState()), Twips{screenTwips(outer.left)},
+          Twips{screenTwips(outer.top)}, Twips{screenTwips(outer.right - outer.left)},
+          Twips{screenTwips(outer.bottom - outer.top)}};
+}
+
+StoredPlacement storedPlacement(clsLibrary& library, const std::string& formName) {
+  // A default that is no number and stands for a value that is not there.
+  const std::string missing(1, '\0');
+  const std::string key = placementKey(formName);
+  const auto read = [&](std::string_view name) -> std::optional<std::string> {
+    std::string text = library.REGSTRREAD(currentUserRoot, key, std::string(name), missing);
+    if (text == missing) return std::nullopt;
+    return text;
+  };
+  namespace value = placement_value;
+  return {read(value::state), read(value::left), read(value::top), read(value::width),
+          read(value::height)};
+}
+
+void placeTop(const windowing::Control& button) {
+  button.place(button.left(), stripButtonTop.value, button.width(), button.height());
+}
+
+void placeLeft(const windowing::Control& button, Twips left) {
+  button.place(left.value, button.top(), button.width(), button.height());
+}
+
+}  // namespace
+
+void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTFORM, bool RESIZE) {
+  const FormPlacement placed = loadPlacement(
+      storedPlacement(*this, FORMNAME), placementOf(CURRENTFORM),
+      {windowing::screenWidth(), windowing::screenHeight()}, RESIZE, windowing::userDecimalSign());
+  const int left = screenPixels(placed.left.value);
+  const int top = screenPixels(placed.top.value);
+  CURRENTFORM.moveOuter({left, top, left + screenPixels(placed.width.value),
+                         top + screenPixels(placed.height.value)});
+  // "Minimised" is never stored by a program; a form that started so could not be found.
+  if (placed.state == WindowState::maximized) CURRENTFORM.maximiseWhenShown();
+}
+
+void clsLibrary::FORMSAVE(const std::string& FORMNAME, windowing::Form& CURRENTFORM, bool RESIZE) {
+  const std::string key = placementKey(FORMNAME);
+  for (const StoredValue& value :
+       placementToStore(placementOf(CURRENTFORM), RESIZE, windowing::userDecimalSign()))
+    REGSTRWRITE(currentUserRoot, key, std::string(value.name), value.text);
+}
+
+void clsLibrary::RESIZEBTNCLOSE(windowing::Form& CURRENTFORM) {
+  const windowing::Control close = CURRENTFORM.control("BTNCLOSE");
+  placeTop(close);
+  placeLeft(close, closeButtonLeft(Twips{CURRENTFORM.innerWidth()}, Twips{close.width()}));
+}
+
+void clsLibrary::RESIZEBTNSOKCANCEL(windowing::Form& CURRENTFORM) {
+  const windowing::Control ok = CURRENTFORM.control("BTNOK");
+  placeTop(ok);
+  try {
+    const windowing::Control cancel = CURRENTFORM.control("BTNCANCEL");
+    placeTop(cancel);
+    const OkCancelLefts lefts =
+        okCancelLefts(Twips{CURRENTFORM.innerWidth()}, Twips{cancel.width()});
+    placeLeft(cancel, lefts.cancel);
+    placeLeft(ok, lefts.ok);
+  } catch (const windowing::RuntimeError&) {
+    // A form without a Cancel button leaves OK where its design put it, deliberately.
+  }
+}
+
+}  // namespace library

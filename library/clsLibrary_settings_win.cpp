@@ -1,0 +1,166 @@
+// The settings store: every value goes to the registry and comes from it at the moment of need.
+#include <array>
+
+#include "library/clsLibrary_win.h"
+#include "library/path_utilities.h"
+#include "library/settings_text.h"
+#include "windowing/application_win.h"
+#include "windowing/handles_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+#include "windowing/user_locale_win.h"
+
+namespace library {
+namespace {
+
+using windowing::RegistryKey;
+
+constexpr char windowsVersionKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
+constexpr char filesLocation[] = "Files Location";
+
+HKEY rootKey(std::int32_t number) {
+  return windowing::seams().settingsRoot(reinterpret_cast<HKEY>(static_cast<LONG_PTR>(number)));
+}
+
+HKEY rootKey(const std::string& number) {
+  return rootKey(rootOfText(number));
+}
+
+RegistryKey createdKey(HKEY root, const std::string& path) {
+  SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
+  HKEY key = nullptr;
+  const LSTATUS result =
+      RegCreateKeyExA(root, path.c_str(), 0, nullptr, 0, KEY_WRITE, &inheritable, &key, nullptr);
+  return RegistryKey(result == ERROR_SUCCESS ? key : nullptr);
+}
+
+std::string readText(HKEY root, const std::string& path, const std::string& name,
+                     const std::string& otherwise) {
+  // Full access is asked for deliberately: settings that the user could not write count as
+  // absent.
+  HKEY opened = nullptr;
+  if (RegOpenKeyExA(root, path.c_str(), 0, KEY_ALL_ACCESS, &opened) != ERROR_SUCCESS)
+    return otherwise;
+  const RegistryKey key(opened);
+
+  std::array<char, settingBufferSize> buffer{};
+  buffer.fill(' ');
+  SettingRead read{false, REG_NONE, {buffer.data(), buffer.size()}, buffer.size()};
+  DWORD type = REG_NONE;
+  DWORD size = buffer.size();
+  read.succeeded = RegQueryValueExA(key.get(), name.c_str(), nullptr, &type,
+                                    reinterpret_cast<BYTE*>(buffer.data()), &size) == ERROR_SUCCESS;
+  read.type = type;
+  read.size = size;
+  return settingText(read, otherwise);
+}
+
+}  // namespace
+
+std::string clsLibrary::REGSTRREAD(const std::string& hKey, const std::string& SUBKEY,
+                                   const std::string& VALNAME, const std::string& SDEFAULT) {
+  try {
+    return readText(rootKey(hKey), SUBKEY, VALNAME, SDEFAULT);
+  } catch (const windowing::RuntimeError&) {
+    // Deliberately not the default, which stands for a value that is not there.
+    return {};
+  }
+}
+
+bool clsLibrary::REGSTRWRITE(const std::string& hKey, const std::string& SUBKEY,
+                             const std::string& VALNAME, const std::string& SDATAVAL) {
+  try {
+    RegistryKey key = createdKey(rootKey(hKey), SUBKEY);
+    if (!key) return false;
+    // The terminator is not counted, but stands behind the text: Windows looks for it there
+    // and stores it too.
+    const LSTATUS result = RegSetValueExA(key.get(), VALNAME.c_str(), 0, REG_SZ,
+                                          reinterpret_cast<const BYTE*>(SDATAVAL.c_str()),
+                                          static_cast<DWORD>(SDATAVAL.size()));
+    if (result == ERROR_SUCCESS) return true;
+    // A key that could not be written stays open, deliberately.
+    (void)key.release();
+    return false;
+  } catch (const windowing::RuntimeError&) {
+    return false;
+  }
+}
+
+bool clsLibrary::REGBINARYREAD(const std::string& hKey, const std::string& SUBKEY,
+                               const std::string& VALNAME, const std::vector<std::uint8_t>& DATA) {
+  try {
+    const RegistryKey key = createdKey(rootKey(hKey), SUBKEY);
+    return key && RegSetValueExA(key.get(), VALNAME.c_str(), 0, REG_BINARY, DATA.data(),
+                                 static_cast<DWORD>(DATA.size())) == ERROR_SUCCESS;
+  } catch (const windowing::RuntimeError&) {
+    return false;
+  }
+}
+
+void clsLibrary::REGBINARYWRITE() {
+  // Nothing in this program calls this; it is there for the other products.
+  REGBINARYREAD(currentUserRoot, toolbarKey(windowing::productName()), "Buttons",
+                {100, 0, 0, 0, 101});
+}
+
+std::int32_t clsLibrary::REGDWORDREAD(std::int32_t hKey, const std::string& SUBKEY,
+                                      const std::string& VALNAME, std::int32_t DATA) {
+  HKEY created = nullptr;
+  if (RegCreateKeyA(rootKey(hKey), SUBKEY.c_str(), &created) == ERROR_SUCCESS) {
+    const RegistryKey key(created);
+    RegSetValueExA(key.get(), VALNAME.c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(&DATA),
+                   sizeof DATA);
+  }
+  return 0;
+}
+
+std::string clsLibrary::FILESLOCATION() {
+  const std::string own = FILENAMELENCHK(windowing::programFolder());
+  const std::string preferences =
+      productKey(windowing::companyName(), windowing::productName(), "\\frmPrefs\\Items");
+  std::string folder = FILENAMELENCHK(REGSTRREAD(currentUserRoot, preferences, filesLocation, own));
+  if (!FOLDEREXIST(folder)) {
+    folder = own;
+    // Another key than the one read, deliberately: the fall-back is a note to the other
+    // products, and a folder that comes back is found again.
+    REGSTRWRITE(currentUserRoot, sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
+                filesLocation, folder);
+  }
+  return folder;
+}
+
+std::string clsLibrary::FILENAMELENCHK(const std::string& PATHSTR) {
+  return fileNameLengthCheck(PATHSTR, windowing::isLeadByte);
+}
+
+std::string clsLibrary::GETCOMPANYNAME() {
+  return REGSTRREAD(localMachineRoot, windowsVersionKey, "RegisteredOwner", "");
+}
+
+std::string clsLibrary::GETCOMPANYREG() {
+  // The organization is looked for under the user, unlike the owner. Deliberate.
+  return REGSTRREAD(currentUserRoot, windowsVersionKey, "RegisteredOrganization", "");
+}
+
+std::string clsLibrary::GETAPPNUMBER() {
+  const windowing::Version version = windowing::programVersion();
+  return versionText(version.major, version.minor);
+}
+
+std::string clsLibrary::GETWINDOWSDIR() {
+  std::array<char, 255> buffer{};
+  const UINT length = GetWindowsDirectoryA(buffer.data(), buffer.size());
+  // A greater number is the size it would have needed.
+  return length < buffer.size() ? std::string(buffer.data(), length) : std::string();
+}
+
+std::string clsLibrary::GETDESKTOPDIR() {
+  std::string folder = GETWINDOWSDIR() + "\\Desktop\\";
+  return FOLDEREXIST(folder) ? folder : windowing::programFolder();
+}
+
+std::string clsLibrary::GETFOLDERPATH(const std::string& PATHSTR) {
+  return folderPath(PATHSTR, windowing::isLeadByte);
+}
+
+}  // namespace library

@@ -1,0 +1,90 @@
+// Text and number helpers by their names in the family; the work is done by plain functions.
+#include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
+#include "library/text_utilities.h"
+#include "windowing/number_text.h"
+#include "windowing/user_locale_win.h"
+
+namespace library {
+namespace {
+
+// The combo box among its parent's children is known by its place.
+HWND childAtSamePlace(HWND combo) {
+  RECT wanted{};
+  GetWindowRect(combo, &wanted);
+  for (HWND child = GetWindow(GetParent(combo), GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    RECT place{};
+    GetWindowRect(child, &place);
+    if (place.left == wanted.left && place.top == wanted.top) return child;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool clsLibrary::CHARCHECK(const std::string& TEXT, char CHAR) {
+  return charCheck(TEXT, CHAR);
+}
+
+std::string clsLibrary::CURRENCYFMT(const std::string& TEXT) {
+  return currencyFormat(TEXT, windowing::userDecimalSign());
+}
+std::string clsLibrary::TEXTJUSTIFY(const std::string& TEXT) {
+  return textJustify(TEXT, windowing::userDecimalSign());
+}
+std::string clsLibrary::TEXTJUSTIFYCURRENCY(const std::string& TEXT) {
+  return textJustifyCurrency(TEXT, windowing::userDecimalSign());
+}
+
+std::string clsLibrary::TOKENLEFT(const std::string& SOURCE, const std::string& TOKEN) {
+  return tokenLeft(SOURCE, TOKEN);
+}
+double clsLibrary::PIECE(const std::string& TEXT, char SEPARATOR, std::int16_t PIECENO) {
+  return piece(TEXT, SEPARATOR, PIECENO);
+}
+std::int32_t clsLibrary::WORDCOUNT(const std::string& TEXT) {
+  return wordCount(TEXT);
+}
+
+std::string clsLibrary::GETHEXVAL(std::int32_t COLOR) {
+  return hexValue(COLOR);
+}
+std::string clsLibrary::HEX2STR(const std::string& INHEX) {
+  return hexToDecimal(INHEX);
+}
+std::string clsLibrary::GETCAPTION(const std::string& CAPTION) {
+  return shortCaption(CAPTION);
+}
+std::string clsLibrary::GETCOLORDEPTH(const std::string& DEPTH) {
+  return colorDepthText(DEPTH);
+}
+
+int clsLibrary::TXTCURRENCYLOCK(windowing::TextBox TXTBOX, int KEYASCIIVAL) {
+  return currencyKey(TXTBOX.text(), KEYASCIIVAL);
+}
+
+void clsLibrary::COMBOINIT(const std::string& HWNDTEXT, const std::string& ITEMCOUNT,
+                           windowing::ComboBox CBONAME, bool FLAT) {
+  ProgramVariables& variables = modLibrary();
+  ++variables.preparedCombos;
+  if (FLAT) {
+    variables.flatCombos.resize(static_cast<std::size_t>(variables.preparedCombos));
+    variables.flatCombos.back() = std::make_unique<FlatCombo>(CBONAME.handle());
+  }
+
+  const windowing::ComboBox combo(
+      reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.'))));
+  const int width = static_cast<int>(combo.send(CB_GETDROPPEDWIDTH));
+  const int height = comboListHeight(ITEMCOUNT, static_cast<int>(combo.send(CB_GETITEMHEIGHT)));
+  const HWND found = childAtSamePlace(combo.handle());
+  if (found == nullptr) return;
+  SetWindowPos(found, nullptr, 0, 0, width, height,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
+  SendMessageA(found, WM_NULL, static_cast<WPARAM>(-1), 0);
+  // Controls of the current look size their lists by rows and would open twice as many.
+  constexpr UINT setMinimumVisible = 0x1701;  // CB_SETMINVISIBLE
+  combo.send(setMinimumVisible, static_cast<WPARAM>(windowing::toInteger32(ITEMCOUNT, '.')));
+}
+
+}  // namespace library

@@ -1,0 +1,28 @@
+// A form with icon menus: it owns an ICOMNU and an image list besides its controls.
+#pragma once
+
+#include "windowing/form_win.h"
+#include "windowing/image_list_win.h"
+#include "windowing/runtime_error.h"
+
+namespace controls {
+class ICOMNU;
+}
+
+namespace library {
+
+class CommandForm : public windowing::Form {
+ public:
+  using windowing::Form::Form;
+  /// The form's icon menus and image list; each raises when the form has none.
+  [[nodiscard]] virtual controls::ICOMNU& iconMenus() { raiseMissing("ICOMNU"); }
+  [[nodiscard]] virtual const windowing::ImageList& imageList() const { raiseMissing("IMGLST"); }
+
+ private:
+  [[noreturn]] void raiseMissing(const char* what) const {
+    throw windowing::RuntimeError(windowing::ErrorNumber::objectMissing,
+                                  std::string(name()) + " has no " + what);
+  }
+};
+
+}  // namespace library

@@ -1,0 +1,32 @@
+// The flat look of a combo box: no sunken edge until the pointer or the focus is on it.
+#pragma once
+
+#include <windows.h>
+
+namespace library {
+
+/// Gives one combo box the flat look. It may outlive its window: it lets go when that dies.
+class FlatCombo {
+ public:
+  explicit FlatCombo(HWND combo);
+  FlatCombo(const FlatCombo&) = delete;
+  FlatCombo& operator=(const FlatCombo&) = delete;
+  ~FlatCombo();
+
+  /// The combo box; null once its window is gone.
+  [[nodiscard]] HWND combo() const { return combo_; }
+
+ private:
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                    UINT_PTR id, DWORD_PTR self);
+  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void followPointer();
+  void leavePointer();
+  void drawEdge() const;
+  void letGo();
+
+  HWND combo_ = nullptr;
+  bool hot_ = false;
+};
+
+}  // namespace library

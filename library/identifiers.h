@@ -1,0 +1,99 @@
+// Numbers of commands and controls. They are stable: menus, accelerators, dialogs and tests
+// that drive the program from outside name the same ones. None is 1 or 2, which belong to
+// Enter and Esc.
+#pragma once
+
+namespace library::id {
+
+// Commands of the main window, in menu order.
+constexpr int NEW = 40001;
+constexpr int OPEN = 40002;
+constexpr int SAVE = 40003;
+constexpr int SAVEAS = 40004;
+constexpr int PRINT = 40005;
+constexpr int PRINTPREVIEW = 40006;
+constexpr int PAGESETUP = 40007;
+constexpr int EXIT = 40008;
+constexpr int ADD = 40009;
+constexpr int REMOVE = 40010;
+constexpr int STANDARDBAR = 40011;
+constexpr int STATUSBAR = 40012;
+constexpr int HEADERFOOTER = 40013;
+constexpr int PROPERTIES = 40014;
+constexpr int FIRST = 40015;
+constexpr int PREVIOUS = 40016;
+constexpr int NEXT = 40017;
+constexpr int LAST = 40018;
+constexpr int WEBSITE = 40019;
+constexpr int ABOUT = 40020;
+
+// Commands of the print preview, in menu order, its two toolbar commands last. Captions and
+// names repeat those of the main window; the numbers do not.
+namespace preview {
+constexpr int PRINT = 40101;
+constexpr int CLOSE = 40102;
+constexpr int TOOLBAR = 40103;
+constexpr int STATUSBAR = 40104;
+constexpr int ZOOM200 = 40105;
+constexpr int ZOOM150 = 40106;
+constexpr int ZOOM100 = 40107;
+constexpr int ZOOM75 = 40108;
+constexpr int ZOOM50 = 40109;
+constexpr int ZOOM25 = 40110;
+constexpr int ZOOMPW = 40111;
+constexpr int ZOOMWP = 40112;
+constexpr int FIRST = 40113;
+constexpr int PREVIOUS = 40114;
+constexpr int NEXT = 40115;
+constexpr int LAST = 40116;
+constexpr int ABOUT = 40117;
+constexpr int ZOOMOUT = 40118;
+constexpr int ZOOMIN = 40119;
+}  // namespace preview
+
+// Controls of the main window.
+constexpr int TBARMAIN = 1001;
+constexpr int CBOTBARBOX = 1002;
+constexpr int PICMAINTBAR = 1003;
+constexpr int PICHEADER = 1004;
+constexpr int LBLDESC = 1005;
+constexpr int PICMAINBOX = 1006;
+constexpr int TABMAIN = 1007;
+constexpr int SBMAIN = 1008;
+constexpr int FRAMGENERAL = 1010;
+constexpr int FRAMADDRESS = 1011;
+constexpr int FRAMADDRESSWORK = 1012;
+constexpr int FRAMPERSONAL = 1013;  ///< group boxes on the pages
+constexpr int FRAMJOB = 1014;
+constexpr int FRAMEXTRAS = 1015;
+constexpr int FRAMHOMEADDRESS = 1016;
+constexpr int FRAMHOMECONTACT = 1017;
+constexpr int FRAMWORKADDRESS = 1018;
+constexpr int FRAMWORKCONTACT = 1019;
+constexpr int TXTITEMS = 1100;  ///< the first of the boxes; each is this and its index
+constexpr int textItemCount = 24;
+constexpr int CBOPEMAIL = 1130;
+constexpr int CBOPWORKEMAIL = 1131;
+constexpr int CBOPWEBSITE = 1132;
+constexpr int CBOPWORKWEBSITE = 1133;
+constexpr int labelOffset = 100;  ///< a box's label is the box and this
+
+/// Box `index` (0 to 23) of the text boxes.
+[[nodiscard]] constexpr int textItem(int index) {
+  return TXTITEMS + index;
+}
+/// Label of the box `control`.
+[[nodiscard]] constexpr int labelOf(int control) {
+  return control + labelOffset;
+}
+
+// First numbers of the other forms' controls; each form counts on from its own.
+constexpr int previewControls = 2000;
+constexpr int pageSetupControls = 3000;
+constexpr int propertiesControls = 4000;
+constexpr int aboutControls = 4500;
+
+static_assert(textItem(textItemCount - 1) < CBOPEMAIL);
+static_assert(CBOPWORKWEBSITE < labelOf(TXTITEMS) && labelOf(CBOPWORKWEBSITE) < previewControls);
+
+}  // namespace library::id

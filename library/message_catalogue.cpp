@@ -1,0 +1,131 @@
+#include "library/message_catalogue.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "windowing/number_text.h"
+
+namespace library {
+namespace {
+
+enum class Title { fixed, product, programFolder };
+
+// In a text, %1 to %3 stand for the caller's texts; %b and %c for the plural "s" that goes with
+// the second and third read as a number.
+struct Entry {
+  int number;
+  std::string_view text;
+  Title titleKind;
+  std::string_view title;
+  unsigned flags;
+  bool beep = false;
+};
+
+constexpr unsigned stop = 16, question = 32, exclamation = 48, information = 64;
+constexpr unsigned yesNoCancel = 3, yesNo = 4, secondIsDefault = 256;
+
+// Spelling, quotes and blanks are as users of the family know them ("loose", "have all been").
+constexpr Entry messages[] = {
+    {1, "Spell Checker has now finished checking your document.", Title::fixed, "Spell Checker",
+     information},
+    {3, "The text '%1' has been found '%2' time%b.", Title::fixed, "Find", information},
+    // The plural follows the third text, not the second.
+    {6, "The text '%1' have all been replaced by '%2' %3 time%c.", Title::fixed, "Replace",
+     information},
+    {9, "The line number entered is larger than the current %1 lines available.", Title::fixed,
+     "Go To", exclamation},
+    {10, "There is a problem saving the document '%1'. This is possibly a read-only document.",
+     Title::fixed, "Save", exclamation},
+    {12, "You cannot enter a value which leaves you with no room to print.", Title::fixed,
+     "Page Setup", exclamation},
+    // The program's folder as title is deliberate.
+    {13, "There is no printer installed. You will not be able to use the printer functions.",
+     Title::programFolder, "", stop, true},
+    {14, "There are problems reading %1 so the details will be only partly available.",
+     Title::fixed, "Properties", exclamation},
+    {15,
+     "%1 is either an invalid format or the document is corrupt. \r\n Try re-saving the image to "
+     "a different name from within a paint package and trying again.",
+     Title::product, "", stop, true},
+    {19, "The document '%1' cannot be reopened. The document may no longer exist.", Title::fixed,
+     "ReOpen", exclamation},
+    {22, "There is a problem with reading TGA 16 bit format, please try another format.",
+     Title::fixed, "Picture", exclamation},
+    // Names another product of the family, whichever shows it; deliberate.
+    {24,
+     "You have reached the limit of documents that can be opened in a session, sorry.\r\nYou "
+     "could always close Pressling and re-launch it.",
+     Title::product, "", stop, true},
+    {25, "The document %1 is no longer available and will now be removed from the list.",
+     Title::product, "", exclamation},
+};
+
+constexpr Entry questions[] = {
+    {2, "Are you really sure you want to delete '%1' to the Recycle Bin ?", Title::fixed,
+     "Clear Picture", yesNo | question | secondIsDefault},
+    {3, "The document '%1' already exists.\r\nDo you really want to overwrite this ?", Title::fixed,
+     "Save As", yesNo | question},
+    {5, "Continuing will loose any unsaved changes for the %1\r\nDo you want to continue ?",
+     Title::fixed, "ReOpen", yesNo | question},
+    {6, "Do you wish to save '%1' before you close ?", Title::product, "", yesNoCancel | question},
+    {8, "You have unsaved work, do you want to save first ?", Title::fixed, "New",
+     yesNoCancel | question},
+};
+static_assert(std::size(messages) == 13 && std::size(questions) == 5);
+
+std::string_view pluralOf(std::string_view count, const MessageInserts& inserts) {
+  return windowing::toNumber(count, inserts.decimalSign) == 1 ? "" : "s";
+}
+
+std::string_view insertFor(char mark, const MessageInserts& inserts) {
+  switch (mark) {
+    case '1':
+      return inserts.file1;
+    case '2':
+      return inserts.file2;
+    case '3':
+      return inserts.file3;
+    case 'b':
+      return pluralOf(inserts.file2, inserts);
+    default:
+      return pluralOf(inserts.file3, inserts);
+  }
+}
+
+std::string titleOf(const Entry& entry, const MessageInserts& inserts) {
+  switch (entry.titleKind) {
+    case Title::product:
+      return std::string(inserts.product);
+    case Title::programFolder:
+      return std::string(inserts.programFolder);
+    default:
+      return std::string(entry.title);
+  }
+}
+
+template <std::size_t count>
+Message compose(const Entry (&entries)[count], int number, const MessageInserts& inserts) {
+  const auto* entry = std::find_if(std::begin(entries), std::end(entries),
+                                   [&](const Entry& e) { return e.number == number; });
+  if (entry == std::end(entries)) return {};
+  Message message{{}, titleOf(*entry, inserts), entry->flags, entry->beep};
+  for (std::size_t i = 0; i < entry->text.size(); ++i) {
+    if (entry->text[i] == '%')
+      message.text += insertFor(entry->text[++i], inserts);
+    else
+      message.text += entry->text[i];
+  }
+  return message;
+}
+
+}  // namespace
+
+Message composeMessage(int number, const MessageInserts& inserts) {
+  return compose(messages, number, inserts);
+}
+
+Message composeQuestion(int number, const MessageInserts& inserts) {
+  return compose(questions, number, inserts);
+}
+
+}  // namespace library

@@ -1,0 +1,35 @@
+// What the library remembers for the whole program.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "library/clsLibrary_win.h"
+#include "library/flat_combo_win.h"
+#include "windowing/form_win.h"
+
+namespace library {
+
+/// Program-wide variables. They are never stored and belong to the user-interface thread.
+struct ProgramVariables {
+  std::string documentPath;  ///< current document; empty while it has no file
+  std::string documentKind;  ///< for the properties: "DOCUMENT", "UNTITLED", "PICTURE", "TEMPLATE"
+
+  HWND folderBrowseOwner = nullptr;  ///< form that asked for a folder; `formOf` gives it
+  std::string folderBrowseFolder;    ///< where the browsing starts
+
+  // Choices of the page setup, as decimal texts; empty until it was opened.
+  std::string orientation;  ///< "1" portrait, "2" landscape
+  std::string printerName;
+  std::string paperCode;
+
+  int preparedCombos = 0;                              ///< combo boxes prepared so far, flat or not
+  std::vector<std::unique_ptr<FlatCombo>> flatCombos;  ///< by that count less one
+};
+
+[[nodiscard]] ProgramVariables& modLibrary();
+
+}  // namespace library

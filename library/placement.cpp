@@ -1,0 +1,106 @@
+#include "library/placement.h"
+
+#include "windowing/checked.h"
+#include "windowing/number_text.h"
+
+namespace library {
+namespace {
+
+using windowing::Twips;
+
+// Stored places are rounded to seven digits, so a window that touches the screen's edge may
+// come back beyond it by less than this; no pixel is that small.
+constexpr Twips roundingSlack{0.5};
+
+Twips lengthOf(const std::optional<std::string>& stored, Twips otherwise, char decimalSign) {
+  return stored ? Twips{windowing::toNumber(*stored, decimalSign)} : otherwise;
+}
+
+Twips centre(Twips screen, Twips form) {
+  return {static_cast<double>(windowing::roundTo<std::int16_t>(((screen - form) / 2.0).value))};
+}
+
+WindowState stateOf(const std::optional<std::string>& stored, WindowState otherwise,
+                    char decimalSign) {
+  if (!stored) return otherwise;
+  const std::int16_t number = windowing::toInteger16(*stored, decimalSign);
+  if (number < 0 || number > static_cast<std::int16_t>(WindowState::maximized))
+    throw windowing::RuntimeError(windowing::ErrorNumber::invalidCall, "Invalid property value");
+  return static_cast<WindowState>(number);
+}
+
+/// The stored place on one axis, or the centre where it is missing or leaves the screen.
+/// The centre, not the nearest edge, also for a form larger than the screen; deliberate.
+Twips place(const std::optional<std::string>& stored, Twips middle, Twips size, Twips screen,
+            char decimalSign) {
+  Twips result = lengthOf(stored, middle, decimalSign);
+  if (result < Twips{0}) result = middle;
+  if (result + size > screen + roundingSlack) result = middle;
+  return result;
+}
+
+void loadRectangle(FormPlacement& form, const StoredPlacement& stored, const ScreenSize& screen,
+                   bool sizable, char decimalSign) {
+  if (sizable) {
+    form.height = lengthOf(stored.height, form.height, decimalSign);
+    form.width = lengthOf(stored.width, form.width, decimalSign);
+  }
+  const Twips middleX = centre(screen.width, form.width);
+  const Twips middleY = centre(screen.height, form.height);
+  form.left = place(stored.left, middleX, form.width, screen.width, decimalSign);
+  form.top = place(stored.top, middleY, form.height, screen.height, decimalSign);
+}
+
+}  // namespace
+
+FormPlacement loadPlacement(const StoredPlacement& stored, const FormPlacement& design,
+                            const ScreenSize& screen, bool sizable, char decimalSign) {
+  FormPlacement form = design;
+  if (sizable) form.state = stateOf(stored.state, design.state, decimalSign);
+  if (form.state == WindowState::normal || !sizable) {
+    loadRectangle(form, stored, screen, sizable, decimalSign);
+    return form;
+  }
+  // A maximised form is not moved, so what it would be restored to must not fail it either.
+  try {
+    FormPlacement restored = form;
+    loadRectangle(restored, stored, screen, sizable, decimalSign);
+    return restored;
+  } catch (const windowing::RuntimeError&) {
+    return form;
+  }
+}
+
+std::vector<StoredValue> placementToStore(const FormPlacement& current, bool sizable,
+                                          char decimalSign) {
+  namespace value = placement_value;
+  const auto length = [&](std::string_view name, Twips twips) {
+    return StoredValue{name, windowing::singleText(twips.value, decimalSign)};
+  };
+  if (current.state == WindowState::minimized) return {};
+  if (!sizable) return {length(value::left, current.left), length(value::top, current.top)};
+  const StoredValue state{value::state,
+                          windowing::integerText(static_cast<std::int16_t>(current.state))};
+  if (current.state == WindowState::maximized) return {state};
+  return {state, length(value::left, current.left), length(value::top, current.top),
+          length(value::width, current.width), length(value::height, current.height)};
+}
+
+Twips closeButtonLeft(Twips innerWidth, Twips buttonWidth) {
+  return innerWidth - stripButtonGap - buttonWidth;
+}
+
+OkCancelLefts okCancelLefts(Twips innerWidth, Twips cancelWidth) {
+  const Twips cancel = closeButtonLeft(innerWidth, cancelWidth);
+  return {cancel - stripButtonGap - cancelWidth, cancel};
+}
+
+windowing::Pixels screenPixels(Twips side, double twipsPerPixel) {
+  return {windowing::roundTo<std::int32_t>(side.value / twipsPerPixel)};
+}
+
+windowing::Pixels centred(windowing::Pixels screen, windowing::Pixels dialog) {
+  return {windowing::roundTo<std::int32_t>((screen - dialog).value / 2.0)};
+}
+
+}  // namespace library

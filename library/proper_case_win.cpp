@@ -1,0 +1,62 @@
+#include "library/proper_case_win.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "library/path_utilities.h"
+#include "windowing/handles_win.h"
+#include "windowing/user_locale_win.h"
+
+namespace library {
+namespace {
+
+std::size_t nextBackslash(const std::string& path, std::size_t from) {
+  for (std::size_t i = from; i < path.size(); ++i) {
+    if (windowing::isLeadByte(static_cast<unsigned char>(path[i])))
+      ++i;
+    else if (path[i] == '\\')
+      return i;
+  }
+  return path.size();
+}
+
+// Length of what is no name on a disk: "C:\", or "\\server\share\".
+std::size_t prefixLength(const std::string& path) {
+  if (path.compare(0, 2, "\\\\") != 0) return path.compare(1, 2, ":\\") == 0 ? 3 : 0;
+  std::size_t end = 2;
+  for (int part = 0; part < 2; ++part) end = std::min(nextBackslash(path, end) + 1, path.size());
+  return end;
+}
+
+std::string foundName(const std::string& folder, const std::string& part) {
+  const bool plain =
+      !hasWildcards(part) && part.find('\0') == std::string::npos && part != "." && part != "..";
+  if (!plain) return part;
+  WIN32_FIND_DATAA found{};
+  const windowing::FindHandle search(FindFirstFileA((folder + part).c_str(), &found));
+  // "?" in a found name stands for a character that the code page lacks: such a name would
+  // open nothing.
+  if (!search || hasWildcards(found.cFileName)) return part;
+  return found.cFileName;
+}
+
+}  // namespace
+
+std::string PROPERCASEPATH(const std::string& path) {
+  std::size_t at = prefixLength(path);
+  std::string result = path.substr(0, at);
+  while (at < path.size()) {
+    const std::size_t end = nextBackslash(path, at);
+    if (end > at) result += foundName(result, path.substr(at, end - at));
+    if (end < path.size()) result += '\\';
+    at = end + 1;
+  }
+  return result;
+}
+
+std::string TRIMNULL(const std::string& text) {
+  return trimNull(text);
+}
+
+}  // namespace library

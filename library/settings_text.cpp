@@ -1,0 +1,58 @@
+#include "library/settings_text.h"
+
+#include <algorithm>
+
+#include "windowing/number_text.h"
+
+namespace library {
+namespace {
+
+constexpr std::string_view software = "SOFTWARE\\";
+
+}  // namespace
+
+std::string productKey(std::string_view company, std::string_view product,
+                       std::string_view section) {
+  return std::string(software) + std::string(company) + '\\' + std::string(product) +
+         std::string(section);
+}
+
+std::string sharedKey(std::string_view company, std::string_view section) {
+  return std::string(software) + std::string(company) + std::string(section);
+}
+
+std::string windowKey(std::string_view company, std::string_view product,
+                      std::string_view formName) {
+  return productKey(company, product, '\\' + std::string(formName) + "\\Window");
+}
+
+std::string toolbarKey(std::string_view product) {
+  // The company's name is literal here and nowhere else; deliberate.
+  return productKey("Zandor Software Development", product, "\\frmMain\\Toolbar\\Standard");
+}
+
+std::string rootText(std::int32_t root) {
+  return windowing::integerText(root);
+}
+
+std::int32_t rootOfText(std::string_view text) {
+  return windowing::toInteger32(text, '.');
+}
+
+std::string settingText(const SettingRead& read, std::string_view defaultText) {
+  constexpr std::uint32_t text = 1, expandableText = 2;
+  if (!read.succeeded || (read.type != text && read.type != expandableText))
+    return std::string(defaultText);
+  // A value of no bytes is an empty text, not a missing one.
+  if (read.size == 0) return {};
+  // The last byte goes whatever it is, and NULs before it stay: the size is trusted, not the
+  // terminator, so that what was written comes back.
+  return std::string(
+      read.buffer.substr(0, std::min<std::size_t>(read.size, read.buffer.size()) - 1));
+}
+
+std::string versionText(int major, int minor) {
+  return windowing::integerText(major) + '.' + windowing::integerText(minor);
+}
+
+}  // namespace library

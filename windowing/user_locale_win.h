@@ -1,0 +1,15 @@
+// How the user of this Windows writes numbers, and which bytes of the ANSI code page begin a
+// two-byte character. Asked anew each time: the user may change it while the program runs.
+#pragma once
+
+namespace windowing {
+
+/// Sign between whole and decimal digits, and between groups of thousands. The group sign is
+/// NUL where the user has none.
+[[nodiscard]] char userDecimalSign();
+[[nodiscard]] char userGroupSeparator();
+
+/// Whether a byte begins a two-byte character of the ANSI code page.
+[[nodiscard]] bool isLeadByte(unsigned char byte);
+
+}  // namespace windowing
