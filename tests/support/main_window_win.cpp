@@ -30,7 +30,7 @@ MainWindowTest::MainWindowTest() {
 }
 
 MainWindowTest::~MainWindowTest() {
-  form.SETSAVE("False");
+  if (form.loaded()) form.SETSAVE("False");
   form.unload();
   const std::function<HKEY(HKEY)> root = windowing::seams().settingsRoot;
   windowing::seams() = real_;
