@@ -7,6 +7,8 @@ target_compile_definitions(tellary_options INTERFACE
   WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700 NOMINMAX WIN32_LEAN_AND_MEAN STRICT)
 target_compile_options(tellary_options INTERFACE
   -ffunction-sections -fdata-sections -fstack-protector-strong)
+# The linker has to be told as well: the guard lives in a library of its own here.
+target_link_options(tellary_options INTERFACE -fstack-protector-strong)
 
 add_library(tellary_windows STATIC ${windows_sources})
 target_link_libraries(tellary_windows PUBLIC tellary_core
@@ -16,8 +18,9 @@ add_executable(Tellary WIN32 app/entry_win.cpp app/tellary.rc)
 target_link_libraries(Tellary PRIVATE tellary_windows)
 target_link_options(Tellary PRIVATE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
   $<$<CONFIG:Release>:-s>)
+file(GLOB pictures CONFIGURE_DEPENDS app/icons/*.ico app/icons/*.bmp)
 set_source_files_properties(app/tellary.rc PROPERTIES OBJECT_DEPENDS
-  "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/app/app.manifest")
+  "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/library/resource_ids.h;${CMAKE_SOURCE_DIR}/app/app.manifest;${pictures}")
 
 if(EXISTS /usr/src/googletest)
   set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)

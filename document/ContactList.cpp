@@ -90,7 +90,7 @@ void ContactList::replace(Bytes bytes, const std::vector<std::size_t>& starts) {
     entries_.back().start = starts[i];
     entries_.emplace_back();
   }
-  bytes_ = std::move(bytes);
+  if (!starts.empty()) bytes_ = std::move(bytes);
 }
 
 bool ContactList::GoNext() {

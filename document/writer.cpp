@@ -6,7 +6,6 @@ namespace document {
 
 void write(const ContactList& list, const std::function<void(std::string_view)>& sink) {
   std::string piece;
-  piece.reserve(writeChunk + writeChunk / 4 + 4);  // one text and its quotes over
   const auto flush = [&] {
     if (!piece.empty()) sink(piece);
     piece.clear();

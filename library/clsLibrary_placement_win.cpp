@@ -16,8 +16,6 @@ using windowing::screenPixels;
 using windowing::screenTwips;
 using windowing::Twips;
 
-constexpr std::int32_t currentUser = static_cast<std::int32_t>(0x80000001);
-
 std::string placementKey(const std::string& formName) {
   return windowKey(windowing::companyName(), windowing::productName(), formName);
 }
@@ -34,7 +32,7 @@ StoredPlacement storedPlacement(clsLibrary& library, const std::string& formName
   const std::string missing(1, '\0');
   const std::string key = placementKey(formName);
   const auto read = [&](std::string_view name) -> std::optional<std::string> {
-    std::string text = library.REGSTRREAD(rootText(currentUser), key, std::string(name), missing);
+    std::string text = library.REGSTRREAD(currentUserRoot, key, std::string(name), missing);
     if (text == missing) return std::nullopt;
     return text;
   };
@@ -69,7 +67,7 @@ void clsLibrary::FORMSAVE(const std::string& FORMNAME, windowing::Form& CURRENTF
   const std::string key = placementKey(FORMNAME);
   for (const StoredValue& value :
        placementToStore(placementOf(CURRENTFORM), RESIZE, windowing::userDecimalSign()))
-    REGSTRWRITE(rootText(currentUser), key, std::string(value.name), value.text);
+    REGSTRWRITE(currentUserRoot, key, std::string(value.name), value.text);
 }
 
 void clsLibrary::RESIZEBTNCLOSE(windowing::Form& CURRENTFORM) {

@@ -15,9 +15,6 @@ namespace {
 
 using windowing::RegistryKey;
 
-// HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE as root keys travel.
-constexpr char currentUser[] = "-2147483647";
-constexpr char localMachine[] = "-2147483646";
 constexpr char windowsVersionKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
 constexpr char filesLocation[] = "Files Location";
 
@@ -102,7 +99,8 @@ bool clsLibrary::REGBINARYREAD(const std::string& hKey, const std::string& SUBKE
 
 void clsLibrary::REGBINARYWRITE() {
   // Nothing in this program calls this; it is there for the other products.
-  REGBINARYREAD(currentUser, toolbarKey(windowing::productName()), "Buttons", {100, 0, 0, 0, 101});
+  REGBINARYREAD(currentUserRoot, toolbarKey(windowing::productName()), "Buttons",
+                {100, 0, 0, 0, 101});
 }
 
 std::int32_t clsLibrary::REGDWORDREAD(std::int32_t hKey, const std::string& SUBKEY,
@@ -120,12 +118,12 @@ std::string clsLibrary::FILESLOCATION() {
   const std::string own = FILENAMELENCHK(windowing::programFolder());
   const std::string preferences =
       productKey(windowing::companyName(), windowing::productName(), "\\frmPrefs\\Items");
-  std::string folder = FILENAMELENCHK(REGSTRREAD(currentUser, preferences, filesLocation, own));
+  std::string folder = FILENAMELENCHK(REGSTRREAD(currentUserRoot, preferences, filesLocation, own));
   if (!FOLDEREXIST(folder)) {
     folder = own;
     // Another key than the one read, deliberately: the fall-back is a note to the other
     // products, and a folder that comes back is found again.
-    REGSTRWRITE(currentUser, sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
+    REGSTRWRITE(currentUserRoot, sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
                 filesLocation, folder);
   }
   return folder;
@@ -136,12 +134,12 @@ std::string clsLibrary::FILENAMELENCHK(const std::string& PATHSTR) {
 }
 
 std::string clsLibrary::GETCOMPANYNAME() {
-  return REGSTRREAD(localMachine, windowsVersionKey, "RegisteredOwner", "");
+  return REGSTRREAD(localMachineRoot, windowsVersionKey, "RegisteredOwner", "");
 }
 
 std::string clsLibrary::GETCOMPANYREG() {
   // The organization is looked for under the user, unlike the owner. Deliberate.
-  return REGSTRREAD(currentUser, windowsVersionKey, "RegisteredOrganization", "");
+  return REGSTRREAD(currentUserRoot, windowsVersionKey, "RegisteredOrganization", "");
 }
 
 std::string clsLibrary::GETAPPNUMBER() {

@@ -63,6 +63,13 @@ constexpr int SBMAIN = 1008;
 constexpr int FRAMGENERAL = 1010;
 constexpr int FRAMADDRESS = 1011;
 constexpr int FRAMADDRESSWORK = 1012;
+constexpr int FRAMPERSONAL = 1013;  ///< group boxes on the pages
+constexpr int FRAMJOB = 1014;
+constexpr int FRAMEXTRAS = 1015;
+constexpr int FRAMHOMEADDRESS = 1016;
+constexpr int FRAMHOMECONTACT = 1017;
+constexpr int FRAMWORKADDRESS = 1018;
+constexpr int FRAMWORKCONTACT = 1019;
 constexpr int TXTITEMS = 1100;  ///< the first of the boxes; each is this and its index
 constexpr int textItemCount = 24;
 constexpr int CBOPEMAIL = 1130;
@@ -85,6 +92,27 @@ constexpr int previewControls = 2000;
 constexpr int pageSetupControls = 3000;
 constexpr int propertiesControls = 4000;
 constexpr int aboutControls = 4500;
+
+// Controls of the about box.
+namespace about {
+constexpr int FRAMTITLE = aboutControls;
+constexpr int LBLPROGRAMNAME = 4501;
+constexpr int IMGLOGO = 4502;
+constexpr int IMGCURSOR = 4503;
+constexpr int LNTITLE1 = 4504;
+constexpr int LNTITLE2 = 4505;
+constexpr int LBLVERS = 4506;
+constexpr int LBLVERSNO = 4507;
+constexpr int LBLREGISTERED = 4508;
+constexpr int LBLREGNAME = 4509;
+constexpr int LBLREGCO = 4510;
+constexpr int LBLWRITTEN = 4511;
+constexpr int LBLCOPYRIGHT = 4512;
+constexpr int LBLTHANKS = 4513;
+constexpr int LBLWARNING = 4514;
+constexpr int TSEP2 = 4515;
+constexpr int BTNCLOSE = 4516;
+}  // namespace about
 
 static_assert(textItem(textItemCount - 1) < CBOPEMAIL);
 static_assert(CBOPWORKWEBSITE < labelOf(TXTITEMS) && labelOf(CBOPWORKWEBSITE) < previewControls);

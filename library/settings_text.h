@@ -22,6 +22,10 @@ namespace library {
 /// Key of the toolbar's stored buttons, which alone names the company literally.
 [[nodiscard]] std::string toolbarKey(std::string_view product);
 
+/// Root keys as the text they travel as: HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE.
+constexpr char currentUserRoot[] = "-2147483647";
+constexpr char localMachineRoot[] = "-2147483646";
+
 /// A root key travels as the decimal text of its signed 32-bit handle.
 [[nodiscard]] std::string rootText(std::int32_t root);
 /// The root key in `text`; raises type mismatch where it is no number, or overflow.

@@ -39,3 +39,39 @@ icon() {
 icon tellary 16 20 24 32 40 48 64 256
 icon contact 16 20 24 32 48
 icon document 16 20 24 32 40 48 64 256
+
+# The pictures of the commands in one row, in the order that library/images.h has.
+keys=$(sed -n '/imageKeys{/,/};/s/[^"]*"\([A-Z ]*\)"[^"]*/\1;/gp' "$here/../library/images.h" | tr -d '\n')
+strip() {
+  size=$1
+  count=0
+  set --
+  IFS=';'
+  for key in $keys; do
+    name=$(echo "$key" | tr 'A-Z ' 'a-z_')
+    # The drawings are made on a grid of 16; a size that is no multiple of it is fitted.
+    if [ -f "$icons/src/$name.$size.svg" ]; then
+      fitted=$icons/src/$name.$size.svg
+    else
+      fitted=$scratch/$name-$size.svg
+      perl "$here/picture_files.pl" fit "$size" "$icons/src/$name.svg" "$fitted"
+    fi
+    rsvg-convert -w "$size" -h "$size" "$fitted" -o "$scratch/$name-$size.png"
+    set -- "$@" "$scratch/$name-$size.png"
+    count=$((count + 1))
+  done
+  unset IFS
+  convert "$@" +append -depth 8 "RGBA:$scratch/strip.rgba"
+  perl "$here/picture_files.pl" bmp "$icons/toolbar$size.bmp" $((count * size)) "$size" 8 "$scratch/strip.rgba"
+}
+for size in 16 20 24 32; do strip "$size"; done
+
+# logo DPI WIDTH HEIGHT
+logo() {
+  rsvg-convert -w "$2" -h "$3" "$icons/src/logo.svg" -o "$scratch/logo.png"
+  convert "$scratch/logo.png" -depth 8 "RGBA:$scratch/logo.rgba"
+  perl "$here/picture_files.pl" bmp "$icons/logo$1.bmp" "$2" "$3" 4 "$scratch/logo.rgba"
+}
+logo 96 200 60
+logo 144 300 90
+logo 192 400 120

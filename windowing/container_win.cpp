@@ -1,14 +1,76 @@
 #include "windowing/container_win.h"
 
+#include <uxtheme.h>
+#include <vsstyle.h>
+
 #include "windowing/application_win.h"
+#include "windowing/handles_win.h"
 
 namespace windowing {
 namespace {
 
-// The background is kept in the window's extra bytes, plus one: zero is "not set".
-int colourOf(HWND window) {
-  const LONG kept = GetWindowLongA(window, 0);
-  return kept == 0 ? COLOR_BTNFACE : static_cast<int>(kept) - 1;
+// The colour in the middle of a tab strip's body. A theme may draw it as a picture, so it is
+// drawn once and looked at.
+COLORREF tabPageColour(HWND window) {
+  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+  if (!IsAppThemed()) return face;
+  const HTHEME theme = OpenThemeData(window, L"TAB");
+  if (theme == nullptr) return face;
+  const WindowDc screen(nullptr);
+  const MemoryDc memory(CreateCompatibleDC(screen.get()));
+  constexpr int side = 64;
+  const BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), side, side));
+  COLORREF colour = CLR_INVALID;
+  {
+    const Selected selected(memory.get(), bitmap.get());
+    const RECT area{0, 0, side, side};
+    FillRect(memory.get(), &area, GetSysColorBrush(COLOR_BTNFACE));
+    if (DrawThemeBackground(theme, memory.get(), TABP_BODY, 0, &area, nullptr) == S_OK)
+      colour = GetPixel(memory.get(), side / 2, side / 2);
+  }
+  CloseThemeData(theme);
+  return colour == CLR_INVALID ? face : colour;
+}
+
+// The brush of tab pages; made anew when the theme or the system's colours change.
+BrushHandle& tabPageBrush() {
+  static BrushHandle brush;
+  return brush;
+}
+
+Surface surfaceOf(HWND window) {
+  return static_cast<Surface>(GetWindowLongA(window, 0));
+}
+
+HBRUSH brushOf(HWND window) {
+  switch (surfaceOf(window)) {
+    case Surface::window:
+      return GetSysColorBrush(COLOR_WINDOW);
+    case Surface::tabPage:
+      if (!tabPageBrush()) tabPageBrush().reset(CreateSolidBrush(tabPageColour(window)));
+      return tabPageBrush().get();
+    case Surface::face:
+      break;
+  }
+  return GetSysColorBrush(COLOR_BTNFACE);
+}
+
+// Labels, boxes to tick and group boxes lie on their container's own surface; a text box that
+// takes no input is grey whatever it lies on.
+LRESULT colourStatic(HWND window, HDC dc, HWND control) {
+  const bool box = (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0;
+  if (box) {
+    SetBkColor(dc, GetSysColor(COLOR_BTNFACE));
+    SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+  }
+  const HBRUSH brush = brushOf(window);
+  LOGBRUSH facts{};
+  GetObjectA(brush, sizeof facts, &facts);
+  SetBkColor(dc, facts.lbColor);
+  SetTextColor(
+      dc, GetSysColor(surfaceOf(window) == Surface::window ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));
+  return reinterpret_cast<LRESULT>(brush);
 }
 
 LRESULT CALLBACK containerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -19,30 +81,27 @@ LRESULT CALLBACK containerProcedure(HWND window, UINT message, WPARAM wParam, LP
     case WM_MEASUREITEM:
     case WM_HSCROLL:
     case WM_VSCROLL:
-      return SendMessageA(GetParent(window), message, wParam, lParam);
+      return SendMessageA(GetAncestor(window, GA_ROOT), message, wParam, lParam);
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORBTN: {
-      const LRESULT answered = SendMessageA(GetParent(window), message, wParam, lParam);
-      if (answered != 0 || message != WM_CTLCOLORSTATIC) {
-        if (answered != 0) return answered;
-        break;
-      }
-      // Labels lie on the container's own colour.
-      const auto dc = reinterpret_cast<HDC>(wParam);
-      const bool box =
-          (GetWindowLongA(reinterpret_cast<HWND>(lParam), GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0;
-      const int colour = box ? COLOR_BTNFACE : colourOf(window);
-      SetBkColor(dc, GetSysColor(colour));
-      SetTextColor(dc, GetSysColor(colour == COLOR_WINDOW ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));
-      return reinterpret_cast<LRESULT>(GetSysColorBrush(colour));
+      // The form may have a colour of its own for the control.
+      const LRESULT answered = SendMessageA(GetAncestor(window, GA_ROOT), message, wParam, lParam);
+      if (answered != 0) return answered;
+      if (message == WM_CTLCOLOREDIT) break;
+      return colourStatic(window, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
     }
     case WM_ERASEBKGND: {
       RECT area{};
       GetClientRect(window, &area);
-      FillRect(reinterpret_cast<HDC>(wParam), &area, GetSysColorBrush(colourOf(window)));
+      FillRect(reinterpret_cast<HDC>(wParam), &area, brushOf(window));
       return 1;
     }
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE:
+      tabPageBrush().reset();
+      InvalidateRect(window, nullptr, TRUE);
+      break;
     case WM_CLOSE:
       // Boxes of several lines ask their parent to close at Esc; a container never does.
       return 0;
@@ -69,8 +128,8 @@ const char* containerClass() {
   return name;
 }
 
-void setContainerColour(HWND container, int systemColour) {
-  SetWindowLongA(container, 0, systemColour + 1);
+void setSurface(HWND container, Surface surface) {
+  SetWindowLongA(container, 0, static_cast<LONG>(surface));
   InvalidateRect(container, nullptr, TRUE);
 }
 

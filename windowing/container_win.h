@@ -1,4 +1,4 @@
-// A window that only holds other controls and passes what they report on to its parent.
+// A window that only holds other controls and passes what they report on to the form.
 #pragma once
 
 #include <windows.h>
@@ -8,7 +8,12 @@ namespace windowing {
 /// Window class of containers; registered at first use.
 [[nodiscard]] const char* containerClass();
 
-/// Sets the background of a container: a system colour, by default the button face.
-void setContainerColour(HWND container, int systemColour);
+/// What a container looks like.
+enum class Surface {
+  face,     ///< the button face; as a container is made
+  window,   ///< the background of windows
+  tabPage,  ///< the inside of a tab strip, which themes paint in a colour of its own
+};
+void setSurface(HWND container, Surface surface);
 
 }  // namespace windowing

@@ -290,6 +290,8 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
     if (notice == CBN_SELCHANGE) onSelect(id);
   } else if (notice == EN_CHANGE) {
     onChange(id);
+  } else {
+    onNotice(id, notice);
   }
   return 0;
 }
@@ -318,6 +320,16 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       auto& header = *reinterpret_cast<NMHDR*>(lParam);
       if (header.code == TCN_SELCHANGE) onTab(static_cast<int>(header.idFrom));
       return onNotify(header);
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORBTN: {
+      const auto sender = reinterpret_cast<HWND>(lParam);
+      const HBRUSH brush = onColour(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(sender));
+      if (brush != nullptr) return reinterpret_cast<LRESULT>(brush);
+      // A container answers for what lies on it.
+      if (GetParent(sender) != handle()) return 0;
+      break;
     }
     case WM_SIZE:
       if (wParam != SIZE_MINIMIZED) onSize();

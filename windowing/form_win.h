@@ -98,6 +98,8 @@ class Form : public Window {
   virtual bool handleKey(const MSG&) { return false; }
   /// Moves the focus to the next or previous control that takes it, in the design's order.
   void focusNext(bool backwards);
+  /// The control that has the focus when the form is shown or comes to the front next.
+  void setFirstFocus(const Control& wanted) { lastFocus_ = wanted.handle(); }
   /// Gives a control the focus as the keyboard does: a box's text is selected.
   static void focusOn(HWND window);
 
@@ -111,7 +113,19 @@ class Form : public Window {
   virtual void onClick(int id) { (void)id; }   ///< button, check box, option button
   virtual void onChange(int id) { (void)id; }  ///< text of a box
   virtual void onSelect(int id) { (void)id; }  ///< entry of a list, by the user
-  virtual void onTab(int id) { (void)id; }     ///< tab of a strip, by the user
+  /// Any other notice of a control.
+  virtual void onNotice(int id, int notice) {
+    (void)id;
+    (void)notice;
+  }
+  virtual void onTab(int id) { (void)id; }  ///< tab of a strip, by the user
+  /// Brush and colours (set in `dc`) of a control that has others than the system's; null for
+  /// the system's.
+  virtual HBRUSH onColour(HDC dc, int id) {
+    (void)dc;
+    (void)id;
+    return nullptr;
+  }
   virtual void onSize() {}
   virtual void onTimer(UINT_PTR timer) { (void)timer; }
   virtual LRESULT onNotify(NMHDR& header) {

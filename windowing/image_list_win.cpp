@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "windowing/application_win.h"
+#include "windowing/picture_resource_win.h"
 #include "windowing/screen_win.h"
 
 namespace windowing {
@@ -56,8 +57,7 @@ ImageList::ImageList(std::span<const ImageStrip> strips) {
     size_ = strip.size;
     resource = strip.resource;
   }
-  const BitmapHandle strip(static_cast<HBITMAP>(LoadImageA(
-      programInstance(), MAKEINTRESOURCEA(resource), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  const BitmapHandle strip(loadPicture(programInstance(), resource, Alpha::straight));
   DIBSECTION section{};
   if (!strip || GetObjectA(strip.get(), sizeof section, &section) != sizeof section ||
       section.dsBm.bmBitsPixel != 32)

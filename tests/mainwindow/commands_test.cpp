@@ -54,10 +54,11 @@ TEST(Availability, FollowsCountAndPosition) {
     CommandState state;
     const char* available;  // name box, remove, print, preview, first, previous, next, last, save
   } rows[] = {
-      {{0, 0, false}, "---------"}, {{0, 0, true}, "--------S"},
-      {{1, 0, false}, "BRPV-----"}, {{2, 0, false}, "BRPV--NL-"},
-      {{2, 1, true}, "BRPVfp--S"},  {{3, 1, false}, "BRPVfpNL-"},
-      {{3, 2, false}, "BRPVfp---"}, {{32767, 32766, false}, "BRPVfp---"},
+      {{0, 0, false}, "---------"},         {{0, 0, true}, "--------S"},
+      {{1, 0, false}, "BRPV-----"},         {{1, 1, false}, "BRPV-----"},
+      {{2, 0, false}, "BRPV--NL-"},         {{2, 1, true}, "BRPVfp--S"},
+      {{3, 1, false}, "BRPVfpNL-"},         {{3, 2, false}, "BRPVfp---"},
+      {{32767, 32766, false}, "BRPVfp---"},
   };
   for (const auto& row : rows) {
     std::string seen = nameBoxAvailable(row.state) ? "B" : "-";

@@ -1,0 +1,35 @@
+#include "app/modMain_win.h"
+
+#include <exception>
+
+#include "app/modAssociate_win.h"
+#include "app/startup_path_win.h"
+#include "library/modLibrary_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "windowing/application_win.h"
+
+namespace app {
+namespace {
+
+// Runs a step of the start; what fails is skipped, and the next step runs.
+template <typename Step>
+void ignoringErrors(Step step) {
+  try {
+    step();
+  } catch (const std::exception&) {
+    // Nothing is told while the program starts: the window shows what came of it.
+  }
+}
+
+}  // namespace
+
+int Main() {
+  static mainwindow::frmMain form;
+  const std::string requested = windowing::commandLineTail();
+  if (!requested.empty()) ignoringErrors([&] { form.openNamedAtStart(documentPathOf(requested)); });
+  ignoringErrors([] { Associate("tly", windowing::productName() + " Document", "2"); });
+  form.show();
+  return windowing::runMessageLoop();
+}
+
+}  // namespace app

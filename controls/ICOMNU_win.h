@@ -1,0 +1,123 @@
+// The menus of a form, with pictures: they are drawn by the program, and look and behave like
+// the system's own beside them.
+#pragma once
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "windowing/handles_win.h"
+#include "windowing/image_list_win.h"
+
+namespace controls {
+
+/// One per form. Items are known by numbers of the caller's choice (not 0); items with parent 0
+/// are the titles of the menu bar, which the system draws.
+class ICOMNU {
+ public:
+  ICOMNU() = default;
+  ICOMNU(const ICOMNU&) = delete;
+  ICOMNU& operator=(const ICOMNU&) = delete;
+
+  /// Adds an item at the end of its parent's menu. An item whose number is there already takes
+  /// the new caption and command where it stands; its state stays.
+  /// NUMBER: the item's number. PARENT: number of the item in whose menu it stands, 0 for the
+  /// bar; raises when there is no such item. CAPTION: "&" marks the access key, a shortcut's
+  /// text follows a tab. ENABLED, CHECKED: its state, unless it is kept from before a `clear`.
+  /// COMMAND: identifier sent when the item is chosen. SEPARATOR: a line, which has no caption.
+  /// POPUP: opens a menu of its own; an item becomes one when another names it as its parent.
+  void AddItem(int NUMBER, int PARENT, const std::string& CAPTION, bool ENABLED, bool CHECKED,
+               int COMMAND, bool SEPARATOR, bool POPUP);
+
+  /// Caption of an item. All that follow raise for a number that is not there.
+  [[nodiscard]] const std::string& CAPTION(int NUMBER) const;
+  void CAPTION(int NUMBER, const std::string& TEXT);
+  /// Index of an item's picture in the image list, -1 for none.
+  [[nodiscard]] int ItemIcon(int NUMBER) const;
+  void ItemIcon(int NUMBER, int IMAGE);
+
+  [[nodiscard]] bool isEnabled(int number) const;
+  void setEnabled(int number, bool enabled);
+  [[nodiscard]] bool isChecked(int number) const;
+  void setChecked(int number, bool checked);
+
+  /// Number of the item with a command, or with a picture; 0 for none.
+  [[nodiscard]] int numberOf(int command) const;
+  [[nodiscard]] int numberWithIcon(int image) const;
+
+  /// Removes all items to build them anew. What was enabled and checked is kept: an item that
+  /// is added again has it.
+  void clear();
+
+  /// Where the pictures are taken from; must outlive the menus.
+  void setImages(const windowing::ImageList& images);
+
+  /// The menu bar, for the form's window.
+  [[nodiscard]] HMENU bar();
+  /// The menu that an item opens; null when it opens none.
+  [[nodiscard]] HMENU popup(int number) const;
+
+  /// Called with an item's number when it is highlighted, by mouse or keyboard, available or
+  /// not; with 0 when a title, a separator or nothing is highlighted and when the menu ends.
+  std::function<void(int number)> onHighlight;
+  /// Called with the SC_ code of a highlighted command of the system menu.
+  std::function<void(std::uint32_t code)> onSystemHighlight;
+
+  /// Answers the messages that concern the menus; the form passes every message through here
+  /// first. True when `result` is the answer.
+  bool handleMessage(HWND form, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+
+ private:
+  // Windows and screen readers hold its address as the item's data: it begins with what the
+  // latter look for, and never moves.
+  struct Item {
+    MSAAMENUINFO accessible{};
+    std::wstring spoken;
+    int number = 0;
+    int parent = 0;
+    std::string caption;
+    bool enabled = true;
+    bool checked = false;
+    int command = 0;
+    bool separator = false;
+    int image = -1;
+    HMENU menu = nullptr;  // the menu it opens; belongs to the bar
+  };
+  struct State {
+    bool enabled;
+    bool checked;
+  };
+
+  [[nodiscard]] Item& item(int number);
+  [[nodiscard]] const Item& item(int number) const;
+  [[nodiscard]] const Item* itemOfData(ULONG_PTR data) const;
+  [[nodiscard]] const Item* itemAt(HMENU menu, int position) const;
+  [[nodiscard]] HMENU menuOf(const Item& child);
+  [[nodiscard]] int positionOf(const Item& wanted) const;
+  void insert(Item& added);
+  void apply(const Item& changed);
+  void becomePopup(Item& changed);
+  void setText(Item& changed, const std::string& text);
+  void fontChanged();
+  void redrawBar() const;
+  void forget();
+
+  void highlight(WPARAM wParam, LPARAM lParam);
+  bool chooseItem(WPARAM wParam, LPARAM lParam, LRESULT& result) const;
+  bool measure(MEASUREITEMSTRUCT& measured) const;
+  bool draw(const DRAWITEMSTRUCT& drawing) const;
+
+  std::map<int, Item> items_;
+  std::map<int, State> kept_;
+  windowing::MenuHandle bar_;
+  HWND form_ = nullptr;
+  const windowing::ImageList* images_ = nullptr;
+};
+
+}  // namespace controls

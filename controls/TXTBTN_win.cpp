@@ -1,0 +1,366 @@
+#include "controls/TXTBTN_win.h"
+
+#include <commctrl.h>
+#include <uxtheme.h>
+#include <windowsx.h>
+
+#include "controls/drawing_win.h"
+#include "controls/subclass_win.h"
+#include "windowing/application_win.h"
+#include "windowing/screen_win.h"
+#include "windowing/system_error_win.h"
+
+namespace controls {
+namespace {
+
+using windowing::scaled;
+
+constexpr UINT_PTR tipId = 1;
+constexpr LPARAM repeatedKey = 1 << 30;
+
+// The button of one box. It lies in the box's frame, outside of the area that holds the text,
+// so the text never runs under it.
+class ButtonOfBox : public Subclass {
+ public:
+  ~ButtonOfBox() override;
+
+  void setButton(const windowing::ImageList& images, int image, const std::string& tip);
+  [[nodiscard]] RECT place() const;
+  [[nodiscard]] bool enabled() const;
+  void reserve();
+
+ protected:
+  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  [[nodiscard]] int border() const;
+  [[nodiscard]] bool contains(LPARAM screenPoint) const;
+  [[nodiscard]] bool isPressingKey(UINT message, WPARAM key) const;
+  bool handleMouse(UINT message, LPARAM lParam);
+  bool handleKey(UINT message, WPARAM wParam, LPARAM lParam);
+  void afterStandard(UINT message, WPARAM wParam);
+  void setHot(bool hot);
+  void setDown(bool down);
+  void press();
+  void release(bool inside);
+  void paint() const;
+  void draw(HDC dc, const RECT& button) const;
+  void relayToTip() const;
+  void moveTip() const;
+  [[nodiscard]] TTTOOLINFOA tool() const;
+
+  const windowing::ImageList* images_ = nullptr;
+  int image_ = -1;
+  std::string tipText_;
+  HWND tip_ = nullptr;
+  bool hot_ = false;       // the pointer is over the button
+  bool down_ = false;      // drawn pressed
+  bool pressing_ = false;  // the mouse went down on the button and is still down
+};
+
+ButtonOfBox::~ButtonOfBox() {
+  if (tip_ != nullptr) DestroyWindow(tip_);
+}
+
+// Themed boxes draw a border of one pixel, others an edge of two.
+int ButtonOfBox::border() const {
+  return IsAppThemed() ? 1 : GetSystemMetrics(SM_CXEDGE);
+}
+
+RECT ButtonOfBox::place() const {
+  RECT box{};
+  GetWindowRect(window(), &box);
+  InflateRect(&box, -border(), -border());
+  box.left = box.right - heightOf(box);
+  return box;
+}
+
+bool ButtonOfBox::enabled() const {
+  return IsWindowEnabled(window()) && (GetWindowLongA(window(), GWL_STYLE) & ES_READONLY) == 0;
+}
+
+bool ButtonOfBox::contains(LPARAM screenPoint) const {
+  const RECT button = place();
+  return PtInRect(&button, {GET_X_LPARAM(screenPoint), GET_Y_LPARAM(screenPoint)}) != FALSE;
+}
+
+// The box computes its frame anew, now with the button.
+void ButtonOfBox::reserve() {
+  SetWindowPos(window(), nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void ButtonOfBox::setButton(const windowing::ImageList& images, int image, const std::string& tip) {
+  images_ = &images;
+  image_ = image;
+  tipText_ = tip;
+  if (tip_ == nullptr && !tip.empty()) {
+    tip_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr,
+                           WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                           CW_USEDEFAULT, CW_USEDEFAULT, GetAncestor(window(), GA_ROOT), nullptr,
+                           windowing::programInstance(), nullptr);
+    TTTOOLINFOA added = tool();
+    SendMessageA(tip_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&added));
+  } else if (tip_ != nullptr) {
+    TTTOOLINFOA changed = tool();
+    SendMessageA(tip_, TTM_UPDATETIPTEXTA, 0, reinterpret_cast<LPARAM>(&changed));
+  }
+  paint();
+}
+
+TTTOOLINFOA ButtonOfBox::tool() const {
+  TTTOOLINFOA made{};
+  made.cbSize = TTTOOLINFOA_V2_SIZE;
+  made.hwnd = window();
+  made.uId = tipId;
+  made.rect = place();
+  MapWindowPoints(HWND_DESKTOP, window(), reinterpret_cast<POINT*>(&made.rect), 2);
+  made.lpszText = const_cast<char*>(tipText_.c_str());
+  return made;
+}
+
+void ButtonOfBox::moveTip() const {
+  if (tip_ == nullptr) return;
+  TTTOOLINFOA moved = tool();
+  SendMessageA(tip_, TTM_NEWTOOLRECTA, 0, reinterpret_cast<LPARAM>(&moved));
+}
+
+// A tooltip watches the area that holds the text only; it is told of the rest.
+void ButtonOfBox::relayToTip() const {
+  if (tip_ == nullptr) return;
+  MSG moved{};
+  moved.hwnd = window();
+  moved.message = WM_MOUSEMOVE;
+  GetCursorPos(&moved.pt);
+  POINT point = moved.pt;
+  ScreenToClient(window(), &point);
+  moved.lParam = MAKELPARAM(point.x, point.y);
+  SendMessageA(tip_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&moved));
+}
+
+void ButtonOfBox::setHot(bool hot) {
+  if (hot_ == hot) return;
+  hot_ = hot;
+  if (hot) {
+    TRACKMOUSEEVENT wanted{sizeof wanted, TME_LEAVE | TME_NONCLIENT, window(), 0};
+    TrackMouseEvent(&wanted);
+  }
+  paint();
+}
+
+void ButtonOfBox::setDown(bool down) {
+  if (down_ == down) return;
+  down_ = down;
+  paint();
+}
+
+void ButtonOfBox::press() {
+  if (!enabled()) return;
+  // Whoever presses the button has left the control before; that may refuse or change things.
+  if (GetFocus() != window()) SetFocus(window());
+  if (!enabled()) return;
+  if (tip_ != nullptr) SendMessageA(tip_, TTM_POP, 0, 0);
+  pressing_ = true;
+  SetCapture(window());
+  setDown(true);
+}
+
+void ButtonOfBox::release(bool inside) {
+  const HWND sender = window();
+  pressing_ = false;
+  setDown(false);
+  if (GetCapture() == sender) ReleaseCapture();
+  if (inside && enabled()) notify(sender, TXTBTN::clicked);
+}
+
+bool ButtonOfBox::handleMouse(UINT message, LPARAM lParam) {
+  switch (message) {
+    case WM_NCMOUSEMOVE:
+      setHot(contains(lParam));
+      relayToTip();
+      return false;
+    case WM_NCMOUSELEAVE:
+      setHot(false);
+      return false;
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONDBLCLK:
+      if (!contains(lParam)) return false;
+      press();
+      return true;
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONUP: {
+      if (!pressing_) {
+        setHot(false);
+        return false;
+      }
+      POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+      ClientToScreen(window(), &point);
+      const bool inside = contains(MAKELPARAM(point.x, point.y));
+      if (message == WM_MOUSEMOVE) {
+        setDown(inside);
+      } else {
+        release(inside);
+      }
+      return true;
+    }
+    case WM_CAPTURECHANGED:
+      if (!pressing_) return false;
+      pressing_ = false;
+      setDown(false);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool ButtonOfBox::isPressingKey(UINT message, WPARAM key) const {
+  if (message == WM_SYSKEYDOWN) return key == VK_DOWN;
+  if (message != WM_KEYDOWN) return false;
+  return key == VK_F4 || (key == VK_RETURN && GetKeyState(VK_CONTROL) < 0);
+}
+
+bool ButtonOfBox::handleKey(UINT message, WPARAM wParam, LPARAM lParam) {
+  constexpr WPARAM charOfCtrlEnter = '\n';
+  if (message == WM_CHAR) return wParam == charOfCtrlEnter;
+  if (!isPressingKey(message, wParam)) return false;
+  // A held key opens the link once.
+  if ((lParam & repeatedKey) == 0 && enabled()) notify(window(), TXTBTN::clicked);
+  return true;
+}
+
+// What follows from messages that the box itself has answered.
+void ButtonOfBox::afterStandard(UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_SIZE:
+      moveTip();
+      break;
+    case WM_ENABLE:
+    case EM_SETREADONLY:
+      if (!enabled() && pressing_) release(false);
+      paint();
+      break;
+    case WM_NCPAINT:
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE:
+      paint();
+      break;
+    case WM_KILLFOCUS: {
+      const auto to = reinterpret_cast<HWND>(wParam);
+      const HWND form = GetAncestor(window(), GA_ROOT);
+      // The form itself takes the focus only to hand it on.
+      if (to != nullptr && to != window() && to != form && GetAncestor(to, GA_ROOT) == form)
+        notify(window(), TXTBTN::left);
+      break;
+    }
+    default:
+      break;
+  }
+}
+
+LRESULT ButtonOfBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_NCCALCSIZE: {
+      const LRESULT answer = standard(message, wParam, lParam);
+      auto& inner = *reinterpret_cast<RECT*>(lParam);
+      // The message speaks of the size to come, not of the one that `place` is taken from.
+      const int side = heightOf(inner) + 2 * (GetSystemMetrics(SM_CYEDGE) - border());
+      if (widthOf(inner) > side) inner.right -= side;
+      return answer;
+    }
+    case WM_NCHITTEST:
+      if (contains(lParam)) return HTOBJECT;
+      break;
+    case WM_GETDLGCODE: {
+      const LRESULT answer = standard(message, wParam, lParam);
+      const auto* key = reinterpret_cast<const MSG*>(lParam);
+      const bool ours = key != nullptr && isPressingKey(key->message, key->wParam);
+      return ours ? answer | DLGC_WANTMESSAGE : answer;
+    }
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_CHAR:
+      if (handleKey(message, wParam, lParam)) return 0;
+      break;
+    default:
+      if (handleMouse(message, lParam)) return 0;
+      break;
+  }
+  const LRESULT answer = standard(message, wParam, lParam);
+  afterStandard(message, wParam);
+  return answer;
+}
+
+void ButtonOfBox::paint() const {
+  RECT box{};
+  GetWindowRect(window(), &box);
+  RECT button = place();
+  OffsetRect(&button, -box.left, -box.top);
+  const HDC dc = GetWindowDC(window());
+  if (dc == nullptr) return;
+  {
+    const Buffered buffer(dc, button);
+    draw(buffer.dc(), button);
+  }
+  ReleaseDC(window(), dc);
+}
+
+void ButtonOfBox::draw(HDC dc, const RECT& button) const {
+  // The form decides what lies behind the text; the button lies on the same.
+  const UINT asked = enabled() ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC;
+  auto behind = reinterpret_cast<HBRUSH>(SendMessageA(GetParent(window()), asked,
+                                                      reinterpret_cast<WPARAM>(dc),
+                                                      reinterpret_cast<LPARAM>(window())));
+  if (behind == nullptr) behind = GetSysColorBrush(enabled() ? COLOR_WINDOW : COLOR_BTNFACE);
+  FillRect(dc, &button, behind);
+
+  if (enabled() && (hot_ || down_)) {
+    fill(dc, button, mixedColour(COLOR_WINDOW, COLOR_HIGHLIGHT, down_ ? 35 : 15));
+    frame(dc, button, mixedColour(COLOR_WINDOW, COLOR_HIGHLIGHT, down_ ? 100 : 60), scaled(1));
+  } else {
+    RECT line = button;
+    line.right = line.left + scaled(1);
+    InflateRect(&line, 0, -scaled(2));
+    fill(dc, line, mixedColour(enabled() ? COLOR_WINDOW : COLOR_BTNFACE, COLOR_BTNSHADOW, 50));
+  }
+  if (images_ == nullptr) return;
+  const int shift = down_ ? scaled(1) : 0;
+  const int x = button.left + (widthOf(button) - images_->size() + 1) / 2 + shift;
+  const int y = button.top + (heightOf(button) - images_->size() + 1) / 2 + shift;
+  images_->draw(dc, x, y, image_, enabled());
+}
+
+ButtonOfBox* buttonOf(HWND box) {
+  return dynamic_cast<ButtonOfBox*>(Subclass::of(box));
+}
+
+}  // namespace
+
+TXTBTN TXTBTN::create(HWND container, int id, const RECT& place) {
+  const HWND box = CreateWindowExA(
+      WS_EX_CLIENTEDGE, "EDIT", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_LEFT | ES_AUTOHSCROLL,
+      place.left, place.top, widthOf(place), heightOf(place), container,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), windowing::programInstance(), nullptr);
+  if (box == nullptr) windowing::raiseLastError();
+  TXTBTN made(box);
+  made.setLimit(0);
+  Subclass::attach(box, std::make_unique<ButtonOfBox>());
+  if (auto* button = buttonOf(box)) button->reserve();
+  return made;
+}
+
+void TXTBTN::setButton(const windowing::ImageList& images, int image,
+                       const std::string& tip) const {
+  if (auto* button = buttonOf(handle())) button->setButton(images, image, tip);
+}
+
+RECT TXTBTN::buttonPlace() const {
+  const auto* button = buttonOf(handle());
+  return button != nullptr ? button->place() : RECT{};
+}
+
+bool TXTBTN::buttonEnabled() const {
+  const auto* button = buttonOf(handle());
+  return button != nullptr && button->enabled();
+}
+
+}  // namespace controls

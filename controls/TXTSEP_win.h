@@ -1,0 +1,19 @@
+// A separator line between groups of controls.
+#pragma once
+
+#include <windows.h>
+
+#include "windowing/control_win.h"
+
+namespace controls {
+
+/// An etched line through the middle of the control's place: lying in a place that is wider
+/// than high, else standing. It takes neither focus nor mouse.
+class TXTSEP : public windowing::Control {
+ public:
+  using Control::Control;
+  /// Makes the line in `container` at `place` (pixels). Raises when Windows refuses.
+  static TXTSEP create(HWND container, int id, const RECT& place);
+};
+
+}  // namespace controls

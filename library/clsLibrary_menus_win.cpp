@@ -1,0 +1,91 @@
+// Menus of a form and the descriptions of its commands.
+#include "controls/ICOMNU_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/command_descriptions.h"
+#include "library/command_form_win.h"
+#include "library/images.h"
+#include "windowing/application_win.h"
+
+namespace library {
+namespace {
+
+using windowing::ErrorNumber;
+using windowing::RuntimeError;
+
+// Toolbar buttons without a menu item of their own.
+struct ToolbarCaption {
+  std::string_view key;
+  std::string_view caption;
+};
+constexpr ToolbarCaption toolbarCaptions[] = {{"ZOOM IN", "&Zoom In"}, {"ZOOM OUT", "&Zoom Out"}};
+
+int imageOfKey(const std::string& key) {
+  const int index = imageIndex(key);
+  if (index < 0) throw RuntimeError(ErrorNumber::outOfRange, "There is no picture \"" + key + "\"");
+  return index;
+}
+
+// The shared pop-up menu and the preview describe the menus of the form that shows the text.
+bool itemIsOfStatusForm(const windowing::Form& form) {
+  const std::string_view name = form.name();
+  return name == "frmPopup" || name == "frmPPrev";
+}
+
+void describe(clsLibrary& shared, CommandForm& form, std::string_view caption,
+              const std::string& noun) {
+  const std::string product = windowing::productName();
+  const DescriptionContext context{noun, product, std::string_view(form.name()) == "frmPPrev"};
+  const auto description = commandDescription(caption, context);
+  // A caption that nothing is known of shows nothing new.
+  if (description) shared.STATUSBARCAPTION(form, *description, false);
+}
+
+}  // namespace
+
+void clsLibrary::MENUCREATE(CommandForm& ICOMNUFORM, CommandForm& IMGLSTFORM,
+                            const std::string& CAPTION, const std::string& ICONKEY, int PARENT,
+                            bool ENABLED, bool CHECKED, int MENUNUMBER) {
+  // An item's number is the command it sends. A line has no caption, and the bar holds menus.
+  const bool separator = CAPTION.empty();
+  const bool title = PARENT == 0;
+  ICOMNUFORM.iconMenus().AddItem(MENUNUMBER, PARENT, CAPTION, ENABLED, CHECKED, MENUNUMBER,
+                                 separator, title);
+  ICOMNUSETUP(ICOMNUFORM, IMGLSTFORM, MENUNUMBER, ICONKEY);
+}
+
+void clsLibrary::ICOMNUSETUP(CommandForm& ICOMNUFORM, CommandForm& IMGLSTFORM, int MENUNUMBER,
+                             const std::string& IMAGEKEY) {
+  if (IMAGEKEY.empty()) return;
+  const int image = imageOfKey(IMAGEKEY);
+  controls::ICOMNU& menus = ICOMNUFORM.iconMenus();
+  menus.setImages(IMGLSTFORM.imageList());
+  menus.ItemIcon(MENUNUMBER, image);
+}
+
+void clsLibrary::STATUSTEXTDESC(CommandForm& ICOMNUFORM, CommandForm& SBFORM, int MENUNUMBER,
+                                bool SHOWVAL, const std::string& NOUN) {
+  CommandForm& owner = itemIsOfStatusForm(ICOMNUFORM) ? SBFORM : ICOMNUFORM;
+  const controls::ICOMNU& menus = owner.iconMenus();
+  // Deliberate: the flag that is called "show" clears. It comes without an item when a menu ends.
+  if (SHOWVAL) {
+    STATUSBARCAPTION(SBFORM, "", false);
+  } else {
+    describe(*this, SBFORM, menus.CAPTION(MENUNUMBER), NOUN);
+  }
+}
+
+void clsLibrary::GETTBARDESCRIPTIONS(CommandForm& FORM, const std::string& BUTTONKEY,
+                                     const std::string& NOUN) {
+  for (const auto& [key, caption] : toolbarCaptions) {
+    if (key == BUTTONKEY) {
+      describe(*this, FORM, caption, NOUN);
+      return;
+    }
+  }
+  // A button and its menu item share one picture.
+  const controls::ICOMNU& menus = FORM.iconMenus();
+  const int number = menus.numberWithIcon(imageIndex(BUTTONKEY));
+  if (number != 0) describe(*this, FORM, menus.CAPTION(number), NOUN);
+}
+
+}  // namespace library

@@ -1,0 +1,262 @@
+// Menus, toolbar, shortcuts and what each command does.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "controls/ICOMNU_win.h"
+#include "dialogs/frmAbout_win.h"
+#include "library/clsLibrary_win.h"
+#include "mainwindow/availability.h"
+#include "mainwindow/commands.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "windowing/application_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+
+namespace mainwindow {
+
+using library::LIBRARY;
+namespace id = library::id;
+
+namespace {
+
+/// A key that runs a command from anywhere in the window.
+struct Shortcut {
+  WPARAM key;
+  bool control;
+  int command;
+  bool repeats;     ///< a held key runs it again and again
+  bool ownInBox;    ///< a text box uses the key itself
+  bool ownInLines;  ///< a box of several lines uses it
+  bool ownInList;   ///< the name box uses it
+};
+
+constexpr Shortcut shortcuts[] = {
+    {VK_INSERT, false, id::ADD, false, false, false, false},
+    {VK_DELETE, true, id::REMOVE, false, true, true, false},
+    {VK_HOME, false, id::FIRST, true, true, true, true},
+    {VK_PRIOR, false, id::PREVIOUS, true, false, true, true},
+    {VK_NEXT, false, id::NEXT, true, false, true, true},
+    {VK_END, false, id::LAST, true, true, true, true},
+};
+
+// The document noun that descriptions insert.
+constexpr char documentNoun[] = "tellary";
+
+// Numbers of menu titles and separators; items have the number of their command.
+constexpr int firstTitle = 1;
+constexpr int firstSeparator = 101;
+
+constexpr UINT_PTR TMR1 = 1;         // watches for the pointer leaving the toolbar
+constexpr UINT timerInterval = 100;  // milliseconds
+
+constexpr LPARAM wasDown = 1 << 30;  // of a key message: the key was down before
+
+bool keyBelongsToFocus(const Shortcut& shortcut, HWND focus) {
+  char name[16] = {};
+  GetClassNameA(focus, name, sizeof name);
+  if (lstrcmpiA(name, "ComboBox") == 0) return shortcut.ownInList;
+  if (lstrcmpiA(name, "Edit") != 0) return false;
+  const bool lines = (GetWindowLongA(focus, GWL_STYLE) & ES_MULTILINE) != 0;
+  return lines ? shortcut.ownInLines : shortcut.ownInBox;
+}
+
+}  // namespace
+
+bool frmMain::handleKey(const MSG& message) {
+  const bool control = GetKeyState(VK_CONTROL) < 0;
+  if (message.message != WM_KEYDOWN || GetKeyState(VK_SHIFT) < 0) return false;
+  for (const Shortcut& shortcut : shortcuts) {
+    if (shortcut.key != message.wParam || shortcut.control != control) continue;
+    if (keyBelongsToFocus(shortcut, message.hwnd)) return false;
+    // A key held down would remove, or add, contact after contact.
+    const bool repeated = (message.lParam & wasDown) != 0;
+    if (!repeated || shortcut.repeats) runCommand(shortcut.command);
+    return true;
+  }
+  return false;
+}
+
+void frmMain::runCommand(int command) {
+  if (findCommand(command) == nullptr || !commandEnabled(command)) return;
+  switch (command) {
+    case id::NEW:
+      return newDocument();
+    case id::OPEN:
+      return openDocument();
+    case id::SAVE:
+      static_cast<void>(SaveDocument());
+      return;
+    case id::SAVEAS:
+      static_cast<void>(saveAs());
+      return;
+    case id::EXIT:
+      static_cast<void>(unload());
+      return;
+    case id::ADD:
+      return addByUser();
+    case id::REMOVE:
+      return RemoveContact();
+    case id::STANDARDBAR:
+    case id::STATUSBAR:
+      return toggleBar(command);
+    case id::FIRST:
+      return move(&frmMain::GoFirst);
+    case id::PREVIOUS:
+      return move(&frmMain::GoPrevious);
+    case id::NEXT:
+      return move(&frmMain::GoNext);
+    case id::LAST:
+      return move(&frmMain::GoLast);
+    case id::WEBSITE:
+      return openMakerSite();
+    case id::ABOUT:
+      return dialogs::frmAbout().showModal();
+    default:
+      return;
+  }
+}
+
+void frmMain::addByUser() {
+  if (list_.count() == document::ContactList::maxCount) {
+    windowing::seams().messageBox(
+        handle(), "The document is full: it holds 32,767 contacts, and no more can be added.",
+        windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
+    return;
+  }
+  AddContact();
+  focusFirstField();
+}
+
+void frmMain::RefreshCommands() {
+  const CommandState state{list_.count(), list_.current(), modified()};
+  for (const Command& command : commands) {
+    // Save follows the modified state, which is nothing but its own.
+    if (command.id == id::SAVE) continue;
+    setCommandEnabled(command.id, commandAvailable(command.id, state));
+  }
+  CBOTBARBOX().setEnabled(nameBoxAvailable(state));
+}
+
+bool frmMain::modified() const {
+  return commandEnabled(id::SAVE);
+}
+
+void frmMain::setCommandEnabled(int command, bool enabled) {
+  ICOMNU->setEnabled(command, enabled);
+  const Command* known = findCommand(command);
+  if (known != nullptr && known->onToolbar) TBARMAIN().setButtonEnabled(command, enabled);
+}
+
+bool frmMain::commandEnabled(int command) const {
+  return ICOMNU->isEnabled(command);
+}
+
+void frmMain::setCommandChecked(int command, bool checked) {
+  ICOMNU->setChecked(command, checked);
+}
+
+bool frmMain::commandChecked(int command) const {
+  return ICOMNU->isChecked(command);
+}
+
+controls::ICOMNU& frmMain::iconMenus() {
+  return *ICOMNU;
+}
+
+void frmMain::ICONMENUS() {
+  ICOMNU->clear();
+  ICOMNU->setImages(IMGLST);
+  int title = firstTitle;
+  int separator = firstSeparator;
+  for (const Menu& menu : menus) {
+    LIBRARY().MENUCREATE(*this, *this, std::string(menu.caption), "", 0, true, false, title);
+    for (std::size_t i = menu.first; i < menu.first + menu.count; ++i) {
+      const Command* command = findCommand(menuLines[i].command);
+      if (command == nullptr) {
+        LIBRARY().MENUCREATE(*this, *this, "", "", title, true, false, separator++);
+      } else {
+        LIBRARY().MENUCREATE(*this, *this, menuCaption(*command), "", title, true, false,
+                             command->id);
+      }
+    }
+    ++title;
+  }
+  for (const Command& command : commands)
+    LIBRARY().ICOMNUSETUP(*this, *this, command.id, std::string(command.key));
+  SetMenu(handle(), ICOMNU->bar());
+}
+
+// Descriptions stay as long as the pointer is on what they describe. The position of the
+// contact, which they cover, comes back with the next change of the state.
+void frmMain::describe(int command) {
+  LIBRARY().STATUSTEXTDESC(*this, *this, command, false, documentNoun);
+  described_ = SBMAIN().panel();
+}
+
+void frmMain::endDescription() {
+  KillTimer(handle(), TMR1);
+  if (!described_.empty() && SBMAIN().panel() == described_)
+    LIBRARY().STATUSBARCAPTION(*this, "", false);
+  described_.clear();
+}
+
+void frmMain::onTimer(UINT_PTR timer) {
+  if (timer != TMR1) return;
+  // The family's figures for the watched area (1, 533, 44, 65) belong to one theme at one
+  // resolution; the toolbar itself says where it is.
+  POINT origin{};
+  MapWindowPoints(TBARMAIN().handle(), handle(), &origin, 1);
+  RECT area{};
+  GetClientRect(TBARMAIN().handle(), &area);
+  OffsetRect(&area, origin.x, origin.y);
+  if (!LIBRARY().MOUSEMOVE(*this, area.left, area.right, area.top, area.bottom)) endDescription();
+}
+
+LRESULT frmMain::onNotify(NMHDR& header) {
+  if (header.code == TBN_HOTITEMCHANGE) {
+    const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
+    const Command* command = (hot.dwFlags & HICF_LEAVING) != 0 ? nullptr : findCommand(hot.idNew);
+    if (command != nullptr) {
+      LIBRARY().GETTBARDESCRIPTIONS(*this, std::string(command->key), documentNoun);
+      described_ = SBMAIN().panel();
+      SetTimer(handle(), TMR1, timerInterval, nullptr);
+    }
+  }
+  if (header.code == TTN_GETDISPINFOA) {
+    auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
+    const Command* command = findCommand(static_cast<int>(header.idFrom));
+    if (command != nullptr) {
+      std::string text(command->caption);
+      std::erase(text, '&');
+      while (text.ends_with('.')) text.pop_back();
+      lstrcpynA(tip.szText, text.c_str(), sizeof tip.szText);
+    }
+  }
+  return 0;
+}
+
+LRESULT frmMain::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT answer = 0;
+  if (ICOMNU->handleMessage(handle(), message, wParam, lParam, answer)) return answer;
+  switch (message) {
+    case WM_QUERYENDSESSION:
+      // The one question of a shutdown; what is answered "No" stays until the session ends.
+      return mayEndSession() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) onUnload();
+      return 0;
+    case WM_DESTROY: {
+      const LRESULT result = CommandForm::handleMessage(message, wParam, lParam);
+      PostQuitMessage(0);
+      return result;
+    }
+    default:
+      return CommandForm::handleMessage(message, wParam, lParam);
+  }
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,237 @@
+// The contact on screen: showing, storing, stepping, adding, removing.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "mainwindow/status_text.h"
+#include "windowing/number_text.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+
+namespace mainwindow {
+
+using document::Slot;
+using windowing::PaintingSuspended;
+namespace id = library::id;
+
+namespace {
+
+// Sets a flag for the length of a scope.
+class While {
+ public:
+  explicit While(bool& flag) : flag_(flag), old_(flag) { flag_ = true; }
+  While(const While&) = delete;
+  While& operator=(const While&) = delete;
+  ~While() { flag_ = old_; }
+
+ private:
+  bool& flag_;
+  bool old_;
+};
+
+// Whether a box gives a text back as it was put in: control characters may be dropped or end
+// the text, and a double-byte code page has bytes that stand for nothing.
+bool survivesABox(std::string_view text) {
+  static const bool singleBytes = [] {
+    CPINFO info{};
+    return GetCPInfo(CP_ACP, &info) != FALSE && info.MaxCharSize == 1;
+  }();
+  return std::all_of(text.begin(), text.end(), [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= ' ' && (singleBytes || byte < 0x80);
+  });
+}
+
+}  // namespace
+
+// Filling the boxes raises their change notices; that is no editing.
+void frmMain::ShowCurrent() {
+  if (list_.current() < 0) return;
+  const While filling(filling_);
+  const document::ContactList::Texts texts = list_.texts(list_.current());
+  for (const document::Field& field : document::fields) {
+    const auto slot = static_cast<std::size_t>(field.slot);
+    const windowing::Control box = control(design::boxId(field));
+    std::string& shown = shown_[slot];
+    shown.assign(texts[slot]);
+    box.setText(shown);
+    if (!survivesABox(shown)) shown = box.text();
+  }
+  CBOTBARBOX().select(list_.current() < list_.count() ? list_.current() : -1);
+}
+
+void frmMain::StoreCurrent() {
+  if (list_.current() < 0) return;
+  for (const document::Field& field : document::fields) {
+    const auto slot = static_cast<std::size_t>(field.slot);
+    std::string text = control(design::boxId(field)).text();
+    if (text == shown_[slot]) continue;
+    list_.store(list_.current(), field.slot, text);
+    shown_[slot] = std::move(text);
+  }
+}
+
+void frmMain::AddContact() {
+  // The list grows before anything else is touched: a full one leaves all as it was.
+  if (!list_.append()) windowing::raiseOverflow();
+  list_.ClearLastRecord();
+  // The contact still on screen keeps the edits made to it.
+  StoreCurrent();
+  CBOTBARBOX().add(list_.nameEntry(list_.count() - 1));
+  list_.setCurrent(static_cast<std::int16_t>(list_.count() - 1));
+  // Shown twice on purpose: the family's windows always have.
+  ShowCurrent();
+  ShowCurrent();
+  RefreshCommands();
+  SETSAVE("TRUE");
+}
+
+void frmMain::RemoveContact() {
+  const std::int16_t removed = list_.current();
+  if (list_.count() == 0 || removed < 0) return;
+  CBOTBARBOX().remove(removed);
+  list_.remove(removed);
+  SETSAVE("TRUE");
+  ShowCurrent();
+  if (list_.count() < 1 || list_.current() != list_.count()) {
+    RefreshCommands();
+    return;
+  }
+  // The last contact went: current stands on the spare element behind the new last one.
+  const bool wasModified = modified();
+  StoreCurrent();
+  GoLast();
+  SETSAVE(windowing::textOfBoolean(wasModified));
+  RefreshCommands();
+}
+
+// Leaves one contact for another: edits are kept, and the modified state with them, since
+// moving is never a modification.
+void frmMain::move(void (frmMain::*step)()) {
+  StoreCurrent();
+  const bool wasModified = modified();
+  (this->*step)();
+  SETSAVE(windowing::textOfBoolean(wasModified));
+}
+
+// The steps check no bounds: the commands are not offered at the ends.
+void frmMain::GoFirst() {
+  list_.GoFirst();
+  ShowCurrent();
+  RefreshCommands();
+}
+
+void frmMain::GoLast() {
+  list_.GoLast();
+  ShowCurrent();
+  RefreshCommands();
+}
+
+void frmMain::GoNext() {
+  if (!list_.GoNext()) windowing::raiseOverflow();
+  ShowCurrent();
+  RefreshCommands();
+}
+
+void frmMain::GoPrevious() {
+  if (!list_.GoPrevious()) windowing::raiseOverflow();
+  ShowCurrent();
+  RefreshCommands();
+}
+
+void frmMain::goTo(int index) {
+  if (index < 0) return;
+  const bool wasModified = modified();
+  StoreCurrent();
+  list_.setCurrent(static_cast<std::int16_t>(index));
+  ShowCurrent();
+  RefreshCommands();
+  SETSAVE(windowing::textOfBoolean(wasModified));
+}
+
+void frmMain::fillNameBox() {
+  const windowing::ComboBox names = CBOTBARBOX();
+  const PaintingSuspended suspended(names.handle());
+  names.clear();
+  for (int i = 0; i < list_.count(); ++i) names.add(list_.nameEntry(i));
+}
+
+void frmMain::emptyFields() {
+  const While filling(filling_);
+  for (const document::Field& field : document::fields) {
+    control(design::boxId(field)).setText("");
+    shown_[static_cast<std::size_t>(field.slot)].clear();
+  }
+}
+
+// The name box follows what is typed; the entry of no contact is never touched.
+void frmMain::rewriteNameEntry() {
+  const int current = list_.current();
+  if (current < 0 || current >= list_.count()) return;
+  const PaintingSuspended suspended(CBOTBARBOX().handle());
+  CBOTBARBOX().replace(current, TXTITEMS(1).text() + " " + TXTITEMS(0).text());
+}
+
+void frmMain::onChange(int changed) {
+  if (filling_) return;
+  SETSAVE("TRUE");
+  if (changed == id::TXTITEMS || changed == id::TXTITEMS + 1) rewriteNameEntry();
+}
+
+void frmMain::onSelect(int list) {
+  if (list == id::CBOTBARBOX) goTo(CBOTBARBOX().selected());
+}
+
+void frmMain::onTab(int) {
+  showPage(TABMAIN().selected());
+}
+
+// Exactly one page is visible; the focus does not stay behind on a hidden one.
+void frmMain::showPage(int index) {
+  constexpr std::array pages{id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK};
+  const HWND focus = GetFocus();
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    const windowing::Control page = control(pages[i]);
+    const bool wanted = static_cast<int>(i) == index;
+    if (!wanted && IsChild(page.handle(), focus)) TABMAIN().focus();
+    page.setVisible(wanted);
+  }
+}
+
+// Where a user goes on after a new contact or document came up: its first names.
+void frmMain::focusFirstField() {
+  TABMAIN().select(0);
+  showPage(0);
+  const windowing::TextBox names = TXTITEMS(1);
+  if (names.enabled()) focusOn(names.handle());
+}
+
+void frmMain::refreshFieldState() {
+  const bool any = list_.count() > 0;
+  if (TXTITEMS(0).enabled() == any) return;
+  const HWND focus = GetFocus();
+  for (const document::Field& field : document::fields) {
+    const windowing::Control box = control(design::boxId(field));
+    box.setEnabled(any);
+    box.repaint();
+    // A disabled control that kept the focus would leave the keyboard dead.
+    if (!any && box.handle() == focus) TABMAIN().focus();
+  }
+}
+
+void frmMain::refreshStatusText() {
+  described_.clear();
+  SBMAIN().setPanel(statusText(list_.count(), list_.current()));
+}
+
+void frmMain::SETSAVE(const std::string& flag) {
+  setCommandEnabled(id::SAVE, windowing::flagIsTrue(flag));
+  refreshFieldState();
+  refreshStatusText();
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,253 @@
+// The document: reading, writing, and the commands that act on it as a whole.
+#include <windows.h>
+
+#include <commdlg.h>
+
+#include "document/reader.h"
+#include "document/writer.h"
+#include "library/centred_dialog_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
+#include "library/own_keys_win.h"
+#include "library/path_utilities.h"
+#include "mainwindow/document_file_win.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "mainwindow/status_text.h"
+#include "windowing/application_win.h"
+#include "windowing/modal_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/safe_file_win.h"
+#include "windowing/seams_win.h"
+
+namespace mainwindow {
+
+using library::LIBRARY;
+using windowing::ErrorNumber;
+using windowing::RuntimeError;
+namespace id = library::id;
+
+namespace {
+
+constexpr char filter[] = "Tellary Document (*.tly)|*.tly";
+constexpr char extension[] = "tly";
+// Hide-read-only, long names, Explorer style.
+constexpr DWORD openFlags = OFN_EXPLORER | OFN_LONGNAMES | OFN_HIDEREADONLY;
+static_assert(openFlags == 0x280004);
+constexpr int askSaveBeforeClose = 6;
+constexpr int askSaveFirst = 8;
+constexpr int problemSaving = 10;
+
+constexpr char openFolderValue[] = "CMD Open Folder";
+constexpr char saveFolderValue[] = "CMD Save Folder";
+
+bool sameFile(const std::string& one, const std::string& other) {
+  return lstrcmpiA(one.c_str(), other.c_str()) == 0;
+}
+
+}  // namespace
+
+void frmMain::FILELOAD(const std::string& path) {
+  CBOTBARBOX().clear();
+  list_.clear();
+  std::exception_ptr failure;
+  readWhole_ = false;
+  try {
+    const document::ReadOutcome outcome = document::read(readFile(path, *fileCalls_), list_);
+    readWhole_ = outcome.result == document::ReadResult::whole;
+    if (outcome.result == document::ReadResult::overflow) windowing::raiseOverflow();
+    if (!readWhole_) throw RuntimeError(ErrorNumber::inputPastEnd, "Input past end of file");
+  } catch (const RuntimeError& error) {
+    // A name that no file has yet loses nothing when it is written to.
+    if (error.number() == ErrorNumber::fileNotFound) readWhole_ = true;
+    failure = std::current_exception();
+  } catch (const std::bad_alloc&) {
+    list_.clear();
+    failure = std::make_exception_ptr(RuntimeError(ErrorNumber::outOfMemory, "Out of memory"));
+  }
+  fillNameBox();
+  list_.setCurrent(0);
+  ShowCurrent();
+  SETSAVE("FALSE");
+  RefreshCommands();
+  if (failure) std::rethrow_exception(failure);
+}
+
+void frmMain::FILESAVEAS(const std::string& path) {
+  StoreCurrent();
+  windowing::replaceFile(
+      path, [this](const windowing::FileSink& sink) { document::write(list_, sink); }, *fileCalls_);
+  SETSAVE("FALSE");
+}
+
+void frmMain::SETTITLE(const std::string& path) {
+  control(id::LBLDESC).setText(titleText(windowing::productName(), path));
+}
+
+void frmMain::setDocumentPath(const std::string& path) {
+  CMD1.fileName = path;
+  library::modLibrary().documentPath = path;
+}
+
+std::string frmMain::rememberedFolder(const char* value) const {
+  const std::string folder =
+      LIBRARY().REGSTRREAD(library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value,
+                           LIBRARY().FILESLOCATION());
+  return library::bareDriveToRoot(folder);
+}
+
+void frmMain::rememberFolder(const char* value, const std::string& file) {
+  LIBRARY().REGSTRWRITE(library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value,
+                        LIBRARY().GETFOLDERPATH(file));
+}
+
+// The steps that opening from a dialog and from the command line share. Raises what the file
+// could not be read for, after everything else was brought in step.
+void frmMain::openPath(const std::string& path) {
+  setDocumentPath(path);
+  rememberFolder(openFolderValue, path);
+  std::exception_ptr failure;
+  try {
+    FILELOAD(path);
+  } catch (const RuntimeError&) {
+    failure = std::current_exception();
+  }
+  SETTITLE(path);
+  SETSAVE("False");
+  if (failure) std::rethrow_exception(failure);
+}
+
+void frmMain::openNamedAtStart(const std::string& path) {
+  load();
+  try {
+    openPath(path);
+  } catch (const RuntimeError&) {
+    // Start-up tells nothing: the title names the file, and what was read is on screen.
+  }
+}
+
+// Whether the document on screen may be given up: it is unmodified, or the user says so.
+bool frmMain::mayDiscard(int question) {
+  if (!modified()) return true;
+  const std::string name = LIBRARY().FILECHK(CMD1.fileName);
+  const int answer = LIBRARY().MESSAGEBOXFCN(question, name, "", "", "");
+  if (answer == IDCANCEL) return false;
+  return answer != IDYES || SaveDocument();
+}
+
+void frmMain::newDocument() {
+  if (!mayDiscard(askSaveFirst)) return;
+  startNewDocument();
+  focusFirstField();
+}
+
+void frmMain::startNewDocument() {
+  list_.clear();
+  setDocumentPath("");
+  readWhole_ = true;
+  SETTITLE("");
+  emptyFields();
+  CBOTBARBOX().clear();
+  // A new document always starts with one empty contact.
+  AddContact();
+  RefreshCommands();
+  SETSAVE("False");
+}
+
+void frmMain::openDocument() {
+  if (!mayDiscard(askSaveFirst)) return;
+  windowing::FileDialog dialog;
+  dialog.title = "Open";
+  dialog.filter = filter;
+  dialog.folder = rememberedFolder(openFolderValue);
+  dialog.flags = openFlags;
+  std::optional<std::string> chosen;
+  {
+    const library::CentredDialog centred;
+    chosen = windowing::seams().fileDialog(windowing::dialogOwner(), dialog);
+  }
+  if (!chosen) return;
+  try {
+    openPath(*chosen);
+  } catch (const RuntimeError& error) {
+    tellUnread(*chosen, error.what());
+  }
+  focusFirstField();
+}
+
+void frmMain::tellUnread(const std::string& path, const std::string& reason) {
+  const std::string read = std::to_string(list_.count());
+  std::string text = "The document '" + path + "' could not be read completely.\r\n" + read +
+                     (list_.count() == 1 ? " contact was read." : " contacts were read.") +
+                     "\r\n\r\n" + reason;
+  if (!text.ends_with('.')) text += '.';
+  windowing::seams().messageBox(windowing::dialogOwner(), text, "Open", MB_OK | MB_ICONEXCLAMATION);
+}
+
+// Writes the document; what keeps it from being written is told here.
+bool frmMain::saveTo(const std::string& path) {
+  try {
+    FILESAVEAS(path);
+    return true;
+  } catch (const RuntimeError&) {
+    LIBRARY().MESSAGEBOX(problemSaving, path, "", "", "");
+    return false;
+  }
+}
+
+bool frmMain::SaveDocument() {
+  // What a broken file still holds beyond the contacts read must not be written over.
+  if (CMD1.fileName.empty() || !readWhole_) return saveAs();
+  return saveTo(CMD1.fileName);
+}
+
+bool frmMain::saveAs() {
+  std::string chosen;
+  for (;;) {
+    windowing::FileDialog dialog;
+    dialog.save = true;
+    dialog.title = "Save As";
+    dialog.filter = filter;
+    dialog.folder = rememberedFolder(saveFolderValue);
+    dialog.fileName = fileNameOf(CMD1.fileName);
+    dialog.extension = extension;
+    dialog.flags = openFlags;
+    std::optional<std::string> answer;
+    {
+      const library::CentredDialog centred;
+      answer = windowing::seams().fileDialog(windowing::dialogOwner(), dialog);
+    }
+    if (!answer) return false;
+    chosen = library::withDefaultExtension(*answer, std::string(".") + extension);
+    rememberFolder(saveFolderValue, chosen);
+    if (!readWhole_ && sameFile(chosen, CMD1.fileName)) {
+      windowing::seams().messageBox(windowing::dialogOwner(),
+                                    "The document '" + chosen +
+                                        "' was not read completely and is kept as it is.\r\n"
+                                        "Please save under another name.",
+                                    "Save As", MB_OK | MB_ICONEXCLAMATION);
+      continue;
+    }
+    if (LIBRARY().OVERWRITECHK(chosen)) break;
+  }
+  if (!saveTo(chosen)) return false;
+  setDocumentPath(chosen);
+  readWhole_ = true;
+  SETTITLE(chosen);
+  SETSAVE("False");
+  return true;
+}
+
+bool frmMain::onQueryUnload() {
+  return mayDiscard(askSaveBeforeClose);
+}
+
+bool frmMain::mayEndSession() {
+  return mayDiscard(askSaveBeforeClose);
+}
+
+void frmMain::onUnload() {
+  LIBRARY().FORMSAVE(name(), *this, false);
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,209 @@
+// The main window's load handler, its bars and its layout.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "controls/ICOMNU_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/images.h"
+#include "library/own_keys_win.h"
+#include "library/resource_ids.h"
+#include "mainwindow/commands.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "mainwindow/status_text.h"
+#include "windowing/application_win.h"
+#include "windowing/container_win.h"
+#include "windowing/fonts_win.h"
+#include "windowing/number_text.h"
+#include "windowing/screen_win.h"
+
+namespace mainwindow {
+
+using library::LIBRARY;
+namespace id = library::id;
+
+namespace {
+
+constexpr windowing::ImageStrip imageStrips[] = {
+    {16, IDB_TOOLBAR16}, {20, IDB_TOOLBAR20}, {24, IDB_TOOLBAR24}, {32, IDB_TOOLBAR32}};
+constexpr char standardToolbarValue[] = "Standard Toolbar";
+constexpr char statusBarValue[] = "Status Bar";
+
+// Toolbar buttons that begin a new group.
+constexpr int groupStarts[] = {id::PRINT, id::ADD, id::HEADERFOOTER, id::FIRST};
+
+std::string viewKey() {
+  return library::ownKey("\\frmMain\\View");
+}
+
+// A stored text that is no truth value must not keep the window from loading: both bars are
+// shown then, as on the first start.
+bool storedView(const char* value) {
+  const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot, viewKey(), value, "True");
+  try {
+    return windowing::booleanOfText(text);
+  } catch (const windowing::RuntimeError&) {
+    return true;
+  }
+}
+
+void storeView(const char* value, bool shown) {
+  LIBRARY().REGSTRWRITE(library::currentUserRoot, viewKey(), value,
+                        windowing::textOfBoolean(shown));
+}
+
+}  // namespace
+
+frmMain::frmMain()
+    : CommandForm(design::form), IMGLST(imageStrips), ICOMNU(std::make_unique<controls::ICOMNU>()) {
+  ICOMNU->onHighlight = [this](int number) {
+    if (number == 0) {
+      endDescription();
+    } else {
+      describe(number);
+    }
+  };
+  ICOMNU->onSystemHighlight = [this](std::uint32_t code) {
+    LIBRARY().SYSTEMMENUDESC(*this, code);
+    described_ = SBMAIN().panel();
+  };
+}
+
+frmMain::~frmMain() = default;
+
+windowing::ComboBox frmMain::CBOTBARBOX() const {
+  return windowing::ComboBox(control(id::CBOTBARBOX).handle());
+}
+windowing::StatusBar frmMain::SBMAIN() const {
+  return windowing::StatusBar(control(id::SBMAIN).handle());
+}
+windowing::ToolBar frmMain::TBARMAIN() const {
+  return windowing::ToolBar(control(id::TBARMAIN).handle());
+}
+windowing::TabStrip frmMain::TABMAIN() const {
+  return windowing::TabStrip(control(id::TABMAIN).handle());
+}
+windowing::TextBox frmMain::TXTITEMS(int index) const {
+  return windowing::TextBox(control(id::textItem(index)).handle());
+}
+
+void frmMain::onLoad() {
+  windowing::setMainWindow(handle());
+  SetWindowTextA(handle(), windowing::productName().c_str());
+  for (const WPARAM size : {ICON_BIG, ICON_SMALL}) {
+    const bool big = size == ICON_BIG;
+    SendMessageA(handle(), WM_SETICON, size,
+                 reinterpret_cast<LPARAM>(
+                     LoadImageA(windowing::programInstance(), MAKEINTRESOURCEA(IDI_PROGRAM),
+                                IMAGE_ICON, GetSystemMetrics(big ? SM_CXICON : SM_CXSMICON),
+                                GetSystemMetrics(big ? SM_CYICON : SM_CYSMICON), LR_SHARED)));
+  }
+  windowing::setSurface(control(id::PICHEADER).handle(), windowing::Surface::window);
+  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10, true));
+  for (const char* caption : {"General", "Home Address", "Work Address"}) TABMAIN().add(caption);
+  for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL}) {
+    const HWND frame = control(page).handle();
+    windowing::setSurface(frame, windowing::Surface::tabPage);
+    SetWindowPos(frame, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+  showPage(0);
+  buildToolbar();
+  prepareLinks();
+
+  LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(CBOTBARBOX().handle())), "15",
+                      CBOTBARBOX(), true);
+  ICONMENUS();
+  try {
+    LIBRARY().FORMLOAD(name(), *this, false);
+  } catch (const windowing::RuntimeError&) {
+    // A stored place that is none: the window stays where its design put it.
+  }
+  applyView();
+  SETSAVE("False");
+  startNewDocument();
+  layOut();
+  setFirstFocus(TXTITEMS(1));
+}
+
+void frmMain::buildToolbar() {
+  const windowing::ToolBar bar = TBARMAIN();
+  bar.setImages(IMGLST);
+  for (const Command& command : commands) {
+    if (!command.onToolbar) continue;
+    for (const int start : groupStarts)
+      if (command.id == start) bar.addSeparator();
+    bar.add(command.id, library::imageIndex(command.key));
+  }
+  // The buttons stand in the middle of the strip, the name box at its right end.
+  const int strip = windowing::screenPixels(design::toolbarHeight);
+  const int height = bar.naturalHeight();
+  const int left = windowing::screenPixels(60);
+  bar.placePixels({left, (strip - height) / 2, left + bar.naturalWidth(), (strip + height) / 2});
+}
+
+void frmMain::applyView() {
+  const bool toolbar = storedView(standardToolbarValue);
+  setCommandChecked(id::STANDARDBAR, toolbar);
+  control(id::PICMAINTBAR).setVisible(toolbar);
+  const bool statusBar = storedView(statusBarValue);
+  SBMAIN().setVisible(statusBar);
+  setCommandChecked(id::STATUSBAR, statusBar);
+}
+
+void frmMain::toggleBar(int command) {
+  const bool shown = !commandChecked(command);
+  setCommandChecked(command, shown);
+  if (command == id::STANDARDBAR) {
+    if (!shown && CBOTBARBOX().focused()) TABMAIN().focus();
+    control(id::PICMAINTBAR).setVisible(shown);
+  } else {
+    SBMAIN().setVisible(shown);
+  }
+  storeView(standardToolbarValue, commandChecked(id::STANDARDBAR));
+  storeView(statusBarValue, commandChecked(id::STATUSBAR));
+  layOut();
+}
+
+// The window's height follows from the heights of its parts as they were designed.
+void frmMain::layOut() {
+  LayoutHeights heights;
+  heights.toolbar = {design::toolbarHeight};
+  heights.header = {design::headerHeight};
+  heights.tabs = {design::tabHeight};
+  heights.statusBar = {design::statusHeight};
+  heights.toolbarShown = commandChecked(id::STANDARDBAR);
+  heights.statusBarShown = commandChecked(id::STATUSBAR);
+  RECT place = outerPixels();
+  place.bottom = place.top + windowing::screenPixels(windowHeight(heights));
+  moveOuter(place);
+  arrange();
+}
+
+// Strips from the top, the status bar at the foot, the body in what is left.
+void frmMain::arrange() {
+  const bool toolbar = commandChecked(id::STANDARDBAR);
+  RECT client{};
+  GetClientRect(handle(), &client);
+  SBMAIN().dock();
+  const int top = toolbar ? windowing::screenPixels(design::toolbarHeight) : 0;
+  const int header = windowing::screenPixels(design::headerHeight);
+  const int foot = commandChecked(id::STATUSBAR) ? SBMAIN().pixels().top : client.bottom;
+  if (toolbar) control(id::PICMAINTBAR).placePixels({0, 0, client.right, top});
+  control(id::PICHEADER).placePixels({0, top, client.right, top + header});
+  control(id::PICMAINBOX).placePixels({0, top + header, client.right, foot});
+
+  // Captions and menus of today take more than the height allows for; the tab strip gives way,
+  // into the room below its frames.
+  const int inset = windowing::screenPixels(design::bodyMargin);
+  const int body = foot - top - header;
+  const int tabs = std::min(windowing::screenPixels(design::tabHeight), body - 2 * inset);
+  TABMAIN().placePixels({inset, inset, client.right - inset, inset + tabs});
+  for (const int page : {id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK}) {
+    RECT frame = control(page).pixels();
+    OffsetRect(&frame, 0, inset + windowing::screenPixels(design::framesTop) - frame.top);
+    control(page).placePixels(frame);
+  }
+}
+
+}  // namespace mainwindow

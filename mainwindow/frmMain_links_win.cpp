@@ -1,0 +1,82 @@
+// The e-mail and web boxes: text boxes whose button opens what they hold.
+#include <array>
+
+#include "controls/TXTBTN_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/images.h"
+#include "library/maker_site.h"
+#include "library/text_utilities.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+
+namespace mainwindow {
+
+using controls::TXTBTN;
+using library::LIBRARY;
+namespace id = library::id;
+
+namespace {
+
+struct Link {
+  int id;
+  bool web;
+};
+constexpr std::array<Link, document::linkCount> links{{{id::CBOPEMAIL, false},
+                                                       {id::CBOPWORKEMAIL, false},
+                                                       {id::CBOPWEBSITE, true},
+                                                       {id::CBOPWORKWEBSITE, true}}};
+
+bool isWeb(int box) {
+  for (const Link& link : links)
+    if (link.id == box) return link.web;
+  return false;
+}
+
+// Windows travel through the library as the decimal text of their handles.
+std::string handleText(HWND window) {
+  return std::to_string(static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(window)));
+}
+
+}  // namespace
+
+HWND frmMain::createCustom(const windowing::ControlDesign& design, HWND container,
+                           const RECT& place) {
+  const TXTBTN box = TXTBTN::create(container, design.id, place);
+  box.setLimit(0);
+  return box.handle();
+}
+
+void frmMain::prepareLinks() {
+  for (const Link& link : links)
+    TXTBTN(control(link.id).handle())
+        .setButton(IMGLST, library::imageIndex(link.web ? "WEB" : "MAIL"),
+                   link.web ? "Open the web site (F4)" : "Send an e-mail (F4)");
+}
+
+void frmMain::onNotice(int box, int notice) {
+  if (notice == TXTBTN::left && isWeb(box)) checkWebAddress(box);
+  if (notice == TXTBTN::clicked) openLink(box);
+}
+
+// An address that is typed without its scheme gets one. Only a text that differs is written
+// back: the same text would count as an edit.
+void frmMain::checkWebAddress(int box) {
+  const windowing::Control address = control(box);
+  const std::optional<std::string> checked = library::webAddressOnLeave(address.text());
+  if (checked) address.setText(*checked);
+}
+
+void frmMain::openLink(int box) {
+  if (isWeb(box)) {
+    checkWebAddress(box);
+    LIBRARY().INTERNETACCESS(handleText(handle()), "", control(box).text());
+  } else {
+    LIBRARY().INTERNETACCESS(handleText(handle()), "mailto:", control(box).text());
+  }
+}
+
+void frmMain::openMakerSite() {
+  LIBRARY().INTERNETACCESS(handleText(handle()), "", library::makerSite);
+}
+
+}  // namespace mainwindow

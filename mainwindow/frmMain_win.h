@@ -1,0 +1,151 @@
+// The main window: one contact at a time on three pages, the document it belongs to, and all
+// commands.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "document/ContactList.h"
+#include "library/command_form_win.h"
+#include "windowing/file_calls_win.h"
+#include "windowing/form_win.h"
+#include "windowing/toolbar_win.h"
+
+namespace mainwindow {
+
+class frmMain : public library::CommandForm {
+ public:
+  frmMain();
+  ~frmMain() override;
+
+  /// Replaces the list with a file's contacts. Raises what keeps the file from being read to
+  /// its end; the complete contacts before that place are in the list and on screen then.
+  /// Changes neither the title nor a remembered folder.
+  void FILELOAD(const std::string& path);
+  /// Writes the whole list to a file, the edits on screen included. Raises what keeps the file
+  /// from being written; it is as it was then, and the document still modified.
+  void FILESAVEAS(const std::string& path);
+  /// Sets the modified state, which is the enabled state of the Save command and nothing else.
+  /// `flag` is a truth value as text, in any case. Refreshes field colours and status text.
+  void SETSAVE(const std::string& flag);
+  /// Shows the document's path, or that it has none, in the header band.
+  void SETTITLE(const std::string& path);
+  /// Builds the icon menus; called again, it builds them anew.
+  void ICONMENUS();
+
+  /// Opens a document named at start: remembers its path and folder, reads it, shows its title.
+  /// Nothing is told when it cannot be read.
+  void openNamedAtStart(const std::string& path);
+
+  [[nodiscard]] const document::ContactList& contacts() const { return list_; }
+  [[nodiscard]] const std::string& documentPath() const { return CMD1.fileName; }
+  [[nodiscard]] bool modified() const;
+  /// Runs the command with this identifier, if it is offered; any other does nothing.
+  void runCommand(int id);
+
+  /// The calls through which documents are written; a test lets them fail.
+  void setFileCalls(windowing::FileCalls& calls) { fileCalls_ = &calls; }
+
+  [[nodiscard]] controls::ICOMNU& iconMenus() override;
+  [[nodiscard]] const windowing::ImageList& imageList() const override { return IMGLST; }
+
+  bool handleKey(const MSG& message) override;
+
+ protected:
+  void onLoad() override;
+  bool onQueryUnload() override;
+  void onUnload() override;
+  void onCommand(int id) override { runCommand(id); }
+  void onChange(int id) override;
+  void onSelect(int id) override;
+  void onNotice(int id, int notice) override;
+  void onTab(int id) override;
+  void onTimer(UINT_PTR timer) override;
+  LRESULT onNotify(NMHDR& header) override;
+  HWND createCustom(const windowing::ControlDesign& design, HWND container,
+                    const RECT& place) override;
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  /// The file dialog that Open and Save As share: its file name is the document's path.
+  struct FileDialogState {
+    std::string fileName;
+  };
+
+  // Contacts on screen (frmMain_contacts_win.cpp).
+  void ShowCurrent();
+  void StoreCurrent();
+  void AddContact();
+  void RemoveContact();
+  void move(void (frmMain::*step)());
+  void GoFirst();
+  void GoPrevious();
+  void GoNext();
+  void GoLast();
+  void goTo(int index);
+  void fillNameBox();
+  void emptyFields();
+  void rewriteNameEntry();
+  void refreshFieldState();
+  void refreshStatusText();
+  void showPage(int index);
+  void focusFirstField();
+
+  // Links (frmMain_links_win.cpp).
+  void prepareLinks();
+  void checkWebAddress(int id);
+  void openLink(int id);
+  void openMakerSite();
+
+  // The document (frmMain_document_win.cpp).
+  void newDocument();
+  void openDocument();
+  void startNewDocument();
+  bool SaveDocument();
+  bool saveAs();
+  bool mayDiscard(int question);
+  bool mayEndSession();
+  bool saveTo(const std::string& path);
+  void openPath(const std::string& path);
+  void setDocumentPath(const std::string& path);
+  void tellUnread(const std::string& path, const std::string& reason);
+  [[nodiscard]] std::string rememberedFolder(const char* value) const;
+  void rememberFolder(const char* value, const std::string& file);
+
+  // Commands, bars and layout (frmMain_commands_win.cpp, frmMain_layout_win.cpp).
+  void RefreshCommands();
+  void setCommandEnabled(int id, bool enabled);
+  [[nodiscard]] bool commandEnabled(int id) const;
+  void setCommandChecked(int id, bool checked);
+  [[nodiscard]] bool commandChecked(int id) const;
+  void addByUser();
+  void buildToolbar();
+  void toggleBar(int id);
+  void applyView();
+  void layOut();
+  void arrange();
+  void describe(int id);
+  void endDescription();
+
+  [[nodiscard]] windowing::ComboBox CBOTBARBOX() const;
+  [[nodiscard]] windowing::StatusBar SBMAIN() const;
+  [[nodiscard]] windowing::ToolBar TBARMAIN() const;
+  [[nodiscard]] windowing::TabStrip TABMAIN() const;
+  [[nodiscard]] windowing::TextBox TXTITEMS(int index) const;
+
+  document::ContactList list_;
+  /// Text of each box, by slot, as the box gave it back after it was filled: only what differs
+  /// from it was edited, and bytes that a box cannot carry survive a visit.
+  std::array<std::string, document::fieldCount> shown_;
+  FileDialogState CMD1;
+  windowing::ImageList IMGLST;
+  std::unique_ptr<controls::ICOMNU> ICOMNU;
+  windowing::FileCalls realFileCalls_;
+  windowing::FileCalls* fileCalls_ = &realFileCalls_;
+  bool filling_ = false;   ///< the program itself changes the boxes
+  bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
+  std::string described_;  ///< description in the status bar, as shown there
+};
+
+}  // namespace mainwindow

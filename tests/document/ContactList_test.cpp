@@ -1,0 +1,193 @@
+#include "document/ContactList.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "document/reader.h"
+
+namespace document {
+namespace {
+
+/// Appends contacts with the given surnames.
+void add(ContactList& list, const std::vector<std::string>& surnames) {
+  for (const std::string& surname : surnames) {
+    ASSERT_TRUE(list.append());
+    list.ClearLastRecord();
+    list.store(list.count() - 1, Slot::Surname, surname);
+  }
+}
+
+/// The surnames, the spare element's in brackets.
+std::string surnames(const ContactList& list) {
+  std::string all;
+  for (int i = 0; i < list.count(); ++i) all += std::string(list.field(i, Slot::Surname)) + " ";
+  return all + "[" + std::string(list.field(list.count(), Slot::Surname)) + "]";
+}
+
+/// Loads contacts with the given surnames from a file's bytes, so that none of them is changed.
+void load(ContactList& list, const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += "\"" + name + "\"" + std::string(28, '\n');
+  ASSERT_EQ(read(text, list).contacts, static_cast<int>(names.size()));
+}
+
+TEST(ContactList, StartsEmptyWithASpareElement) {
+  ContactList list;
+  EXPECT_EQ(list.count(), 0);
+  EXPECT_EQ(list.current(), 0);
+  list.ClearLastRecord();
+  list.remove(0);
+  EXPECT_EQ(list.count(), 0);
+  list.store(0, Slot::Company, "kept in the spare element");
+  EXPECT_EQ(list.field(0, Slot::Company), "kept in the spare element");
+  EXPECT_EQ(list.nameEntry(0), " ");
+}
+
+TEST(ContactList, IndexesOutsideReadEmptyAndStoreNothing) {
+  ContactList list;
+  load(list, {"a", "b"});
+  for (const int index : {-32768, -1, 3, 4, 32767}) {
+    list.store(index, Slot::Surname, "x");
+    EXPECT_EQ(list.field(index, Slot::Surname), "");
+    EXPECT_EQ(list.record(index), ContactRecord{});
+    EXPECT_EQ(list.nameEntry(index), " ");
+    list.remove(index);
+  }
+  list.remove(2);  // the spare element is no contact
+  EXPECT_EQ(surnames(list), "a b []");
+}
+
+TEST(ContactList, AppendMakesTheSpareElementTheLastContact) {
+  ContactList list;
+  list.store(0, Slot::Surname, "left over");
+  ASSERT_TRUE(list.append());
+  EXPECT_EQ(surnames(list), "left over []");
+  list.ClearLastRecord();
+  EXPECT_EQ(surnames(list), " []");
+  add(list, {"b"});
+  EXPECT_EQ(surnames(list), " b []");
+}
+
+TEST(ContactList, Remove) {
+  struct Case {
+    const char* what;
+    std::vector<std::string> names;
+    int current, index;
+    const char* left;
+    int currentAfter;
+  };
+  const std::vector<Case> cases{
+      {"middle of three", {"a", "b", "c"}, 1, 1, "a c []", 1},
+      {"first of three", {"a", "b", "c"}, 0, 0, "b c []", 0},
+      {"last of three", {"a", "b", "c"}, 2, 2, "a b []", 2},
+      {"last of two", {"a", "b"}, 1, 1, "a []", 0},
+      {"only one", {"a"}, 0, 0, "[]", 0},
+      {"none", {}, 0, 0, "[]", 0},
+      {"below", {"a", "b"}, 1, -1, "a b []", 1},
+  };
+  for (const Case& c : cases)
+    for (const bool changed : {false, true}) {
+      SCOPED_TRACE(c.what);
+      ContactList list;
+      if (changed)
+        add(list, c.names);
+      else
+        load(list, c.names);
+      list.setCurrent(static_cast<std::int16_t>(c.current));
+      list.store(list.count(), Slot::Surname, c.names.empty() ? "" : "spare");
+      list.remove(c.index);
+      const bool removed = c.index >= 0 && !c.names.empty();
+      EXPECT_EQ(surnames(list), removed || c.names.empty() ? c.left : "a b [spare]");
+      EXPECT_EQ(list.current(), c.currentAfter);
+    }
+}
+
+TEST(ContactList, StepsCheckNoBounds) {
+  ContactList list;
+  load(list, {"a", "b", "c"});
+  list.GoLast();
+  EXPECT_EQ(list.current(), 2);
+  list.GoNext();
+  list.GoNext();
+  EXPECT_EQ(list.current(), 4);
+  list.GoFirst();
+  list.GoPrevious();
+  EXPECT_EQ(list.current(), -1);
+  EXPECT_EQ(list.record(list.current()), ContactRecord{});
+  list.clear();
+  EXPECT_EQ(list.current(), 0);
+  list.GoLast();
+  EXPECT_EQ(list.current(), -1);
+
+  list.setCurrent(32767);
+  EXPECT_FALSE(list.GoNext());
+  EXPECT_EQ(list.current(), 32767);
+  list.setCurrent(-32768);
+  EXPECT_FALSE(list.GoPrevious());
+  EXPECT_EQ(list.current(), -32768);
+}
+
+TEST(ContactList, StoreChangesOneTextOfOneContact) {
+  ContactList list;
+  load(list, {"a", "b"});
+  const char* const inFile = list.field(0, Slot::Surname).data();
+  const std::string equal = "a";
+  list.store(0, Slot::Surname, equal);
+  EXPECT_EQ(list.field(0, Slot::Surname).data(), inFile) << "an equal text is not copied";
+
+  const std::string odd("NUL \0 quote \" break \r\n end", 26);
+  list.store(0, Slot::Comments, odd);
+  EXPECT_EQ(list.field(0, Slot::Comments), odd);
+  EXPECT_EQ(surnames(list), "a b []");
+  EXPECT_EQ(list.field(1, Slot::Comments), "");
+  // A text may come from the very contact it goes to.
+  list.store(0, Slot::Comments, list.field(0, Slot::Comments).substr(4));
+  EXPECT_EQ(list.field(0, Slot::Comments), odd.substr(4));
+  list.store(1, Slot::Company, list.field(1, Slot::Surname));
+  EXPECT_EQ(list.field(1, Slot::Company), "b");
+  for (int i = 0; i <= list.count(); ++i)
+    for (const Field& field : fields)
+      EXPECT_EQ(list.field(i, field.slot), list.record(i)[field.slot]);
+}
+
+TEST(ContactList, NameEntryIsNeverTrimmed) {
+  const struct {
+    const char *first, *last, *entry;
+  } cases[] = {{"", "", " "},
+               {"Imogen", "", "Imogen "},
+               {"", "Farthingay", " Farthingay"},
+               {" A ", " B", " A   B"}};
+  ContactList list;
+  add(list, {""});
+  for (const auto& c : cases) {
+    list.store(0, Slot::FirstNames, c.first);
+    list.store(0, Slot::Surname, c.last);
+    EXPECT_EQ(list.nameEntry(0), c.entry);
+  }
+}
+
+TEST(ContactList, FullListTakesNoMore) {
+  ContactList list;
+  for (int i = 0; i < 32800 && list.append(); ++i)
+    list.store(i, Slot::Surname, std::to_string(i + 1));
+  ASSERT_EQ(list.count(), 32767);
+  EXPECT_FALSE(list.append());
+  EXPECT_EQ(list.count(), 32767);
+  EXPECT_EQ(list.field(32766, Slot::Surname), "32767");
+  EXPECT_EQ(list.field(32767, Slot::Surname), "");
+
+  // Removing costs next to nothing, or this would last for minutes.
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = 0; i < 10000; ++i) list.remove(100);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  EXPECT_EQ(list.count(), 22767);
+  EXPECT_EQ(list.field(99, Slot::Surname), "100");
+  EXPECT_EQ(list.field(100, Slot::Surname), "10101");
+  EXPECT_TRUE(list.append());
+}
+
+}  // namespace
+}  // namespace document

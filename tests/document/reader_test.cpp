@@ -1,0 +1,190 @@
+#include "document/reader.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "document/items.h"
+
+namespace document {
+namespace {
+
+using namespace std::string_literals;
+using namespace std::string_view_literals;
+
+std::string repeated(std::string_view text, std::size_t times) {
+  std::string all;
+  all.reserve(text.size() * times);
+  while (times-- > 0) all += text;
+  return all;
+}
+
+/// A record as the writer makes it; each text names its file position, with a line break inside.
+std::string lines(int count, std::string_view prefix = "") {
+  std::string text;
+  for (int i = 1; i <= count; ++i)
+    text.append("\"").append(prefix).append(std::to_string(i)).append("\r\n, x\"\r\n");
+  return text;
+}
+
+TEST(Reader, Items) {
+  struct Case {
+    std::string_view bytes;
+    std::vector<std::string_view> items;
+  };
+  const std::vector<Case> cases{
+      {"", {}},
+      {"\"\"", {""}},
+      {"\"a\"\r\n\"b\"\r\n", {"a", "b"}},
+      {"\"a\"\n\"b\"\r\"c\"\n\r\"d\"", {"a", "b", "c", "", "d"}},  // each end counts once
+      {"\r\r\n\n", {"", "", ""}},
+      {"  \" kept \"  ", {" kept "}},
+      {"\t\"tab is text\"", {"\t\"tab is text\""}},
+      {"\"two\r\nlines\r\n\"\r\n", {"two\r\nlines\r\n"}},
+      {"\"Smi\"th\"\r\n\"next\"", {"Smi", "next"}},
+      {"\"a\"rest, b\r\nc", {"a", "b", "c"}},
+      {"\"a,b\",\"c\"", {"a,b", "c"}},
+      {"plain \"text\"  \r\nx", {"plain \"text\"  ", "x"}},
+      {"a,,b,", {"a", "", "b"}},
+      {",\r\n,", {"", "", ""}},
+      {"   ", {""}},
+      {"  \r\n  x", {"", "x"}},
+      {"\"never closed\r\n\"", {"never closed\r\n"}},
+      {"\"open\r\n1,2", {"open\r\n1,2"}},
+      {"\"", {""}},
+      {"\"\"\"\"\r\nx", {"", "x"}},
+      {"a\0b\x1A"
+       "c\r\n\"\0\"\0\r\nz"sv,
+       {"a\0b\x1A"
+        "c"sv,
+        "\0"sv, "z"}},
+      {"\xE9\xFF\x80", {"\xE9\xFF\x80"}},
+  };
+  for (const Case& c : cases) {
+    ItemScanner scanner(c.bytes);
+    std::vector<std::string_view> items;
+    for (std::string_view item; scanner.next(item);) items.push_back(item);
+    EXPECT_EQ(items, c.items) << testing::PrintToString(c.bytes);
+    EXPECT_TRUE(scanner.atEnd());
+  }
+}
+
+TEST(Reader, PutsEachItemIntoItsField) {
+  ContactList list;
+  const ReadOutcome outcome = read(lines(28) + lines(28, "second "), list);
+  EXPECT_EQ(outcome.result, ReadResult::whole);
+  ASSERT_EQ(outcome.contacts, 2);
+  for (const Field& field : fields) {
+    const std::string text = std::to_string(field.filePosition) + "\r\n, x";
+    EXPECT_EQ(list.field(0, field.slot), text);
+    EXPECT_EQ(list.field(1, field.slot), "second " + text);
+    EXPECT_EQ(list.field(2, field.slot), "");
+  }
+}
+
+TEST(Reader, ReplacesTheList) {
+  ContactList list;
+  ASSERT_EQ(read(lines(28 * 3), list).contacts, 3);
+  list.setCurrent(2);
+  list.store(2, Slot::Company, "changed");
+  EXPECT_EQ(read(""sv, list).result, ReadResult::whole);
+  EXPECT_EQ(list.count(), 0);
+  EXPECT_EQ(list.current(), 0);
+  EXPECT_EQ(list.record(0), ContactRecord{});
+  // From its own bytes, too.
+  ASSERT_EQ(read(lines(28), list).contacts, 1);
+  EXPECT_EQ(read(list.field(0, Slot::Surname), list).result, ReadResult::inputPastEnd);
+  EXPECT_EQ(list.count(), 0);
+}
+
+TEST(Reader, KeepsCompleteContactsOfABrokenFile) {
+  const std::string whole = repeated("\"\"\r\n", 28);
+  for (const int contacts : {0, 1, 3})
+    for (int extra = 1; extra < 28; ++extra) {
+      ContactList list;
+      const ReadOutcome outcome = read(lines(28 * contacts + extra), list);
+      EXPECT_EQ(outcome.result, ReadResult::inputPastEnd) << extra;
+      EXPECT_EQ(outcome.contacts, contacts);
+      EXPECT_EQ(list.record(contacts), ContactRecord{}) << "nothing of the broken one is left";
+    }
+  for (const char* tail : {"\r\n", " ", ",", "\x1A", "\"", "\0"}) {
+    ContactList list;
+    EXPECT_EQ(read(whole + (*tail == 0 ? "\0"s : tail), list).result, ReadResult::inputPastEnd);
+    EXPECT_EQ(list.count(), 1);
+  }
+}
+
+TEST(Reader, CutAtEveryByte) {
+  const std::string first = lines(28, "first ");
+  const std::string both = first + lines(28, "second ");
+  for (std::size_t size = 0; size <= both.size(); ++size) {
+    // In storage of exactly that size, for the sanitizer to see one byte too many.
+    ContactList list;
+    const ReadOutcome outcome = read(Bytes(std::string_view(both).substr(0, size)), list);
+    // A record is complete from its last item's first byte on; its quote need not be closed.
+    const auto lastItem = [](std::size_t end) { return end - "\"second 28\r\n, x\"\r\n"sv.size(); };
+    const std::size_t firstDone = first.size() - "\"first 28\r\n, x\"\r\n"sv.size();
+    const int complete = size > lastItem(both.size()) ? 2 : size > firstDone ? 1 : 0;
+    ASSERT_EQ(outcome.contacts, complete) << size;
+    // The line feed of a record's last line end is not needed, but belongs to it.
+    const bool atBoundary = size == 0 || complete == 2 || (complete == 1 && size <= first.size());
+    ASSERT_EQ(outcome.result, atBoundary ? ReadResult::whole : ReadResult::inputPastEnd) << size;
+    ASSERT_EQ(list.field(0, Slot::Surname), complete > 0 ? "first 1\r\n, x" : "");
+    ASSERT_EQ(list.field(complete, Slot::FirstNames), "");
+  }
+}
+
+TEST(Reader, TakesAnyLineEnd) {
+  for (const char* end : {"\r\n", "\r", "\n", ","}) {
+    ContactList list;
+    EXPECT_EQ(read(repeated("\"x\""s + end, 28 * 2), list).result, ReadResult::whole);
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.nameEntry(1), "x x");
+  }
+}
+
+TEST(Reader, StopsAtTheFullList) {
+  const std::string record = repeated("\"\"\r\n", 27) + "\"c\"\r\n";
+  const struct {
+    std::size_t records;
+    const char* tail;
+    ReadResult result;
+  } cases[] = {{32767, "", ReadResult::whole},
+               {32767, "\"\"\r\n", ReadResult::inputPastEnd},
+               {32768, "", ReadResult::overflow},
+               {40000, "\"", ReadResult::overflow}};
+  for (const auto& c : cases) {
+    ContactList list;
+    const ReadOutcome outcome = read(repeated(record, c.records) + c.tail, list);
+    EXPECT_EQ(outcome.result, c.result);
+    EXPECT_EQ(outcome.contacts, 32767);
+    EXPECT_EQ(list.field(32766, Slot::Company), "c");
+    EXPECT_EQ(list.field(32767, Slot::Company), "");
+  }
+}
+
+TEST(Reader, HugeFilesOfOneLineOrOneByte) {
+  constexpr std::size_t size = std::size_t{200} << 20;
+  const struct {
+    char byte;
+    int contacts;
+    ReadResult result;
+  } cases[] = {{'x', 0, ReadResult::inputPastEnd}, {' ', 0, ReadResult::inputPastEnd},
+               {'"', 0, ReadResult::inputPastEnd}, {'\0', 0, ReadResult::inputPastEnd},
+               {',', 32767, ReadResult::overflow}, {'\r', 32767, ReadResult::overflow}};
+  for (const auto& c : cases) {
+    Bytes bytes(size);
+    std::fill_n(bytes.data(), size, c.byte);
+    ContactList list;
+    const ReadOutcome outcome = read(std::move(bytes), list);
+    EXPECT_EQ(outcome.result, c.result) << int{c.byte};
+    EXPECT_EQ(outcome.contacts, c.contacts) << int{c.byte};
+  }
+}
+
+}  // namespace
+}  // namespace document

@@ -1,0 +1,124 @@
+#include "document/writer.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+
+#include "document/reader.h"
+
+namespace document {
+namespace {
+
+std::string written(const ContactList& list) {
+  std::string text;
+  write(list, [&](std::string_view piece) {
+    EXPECT_FALSE(piece.empty());
+    text += piece;
+  });
+  return text;
+}
+
+std::string sample(const std::string& name) {
+  const char* const folder = std::getenv("TELLARY_SAMPLES");
+  const std::string path = std::string(folder != nullptr ? folder : "samples") + "/" + name;
+  std::string text;
+  std::FILE* const file = std::fopen(path.c_str(), "rb");
+  EXPECT_NE(file, nullptr) << path;
+  if (file == nullptr) return text;
+  for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) text += static_cast<char>(c);
+  std::fclose(file);
+  return text;
+}
+
+TEST(Writer, BytesOfTheFormat) {
+  ContactList list;
+  EXPECT_EQ(written(list), "");
+  ASSERT_TRUE(list.append());
+  std::string empty;
+  for (int i = 0; i < 28; ++i) empty += "\"\"\r\n";
+  EXPECT_EQ(written(list), empty);
+
+  list.store(0, Slot::Surname, "Smi\"th");      // not doubled
+  list.store(0, Slot::Comments, "a\r\nb\nc,");  // not escaped
+  list.store(0, Slot::Company, "last");
+  list.store(1, Slot::Surname, "the spare element is no contact");
+  EXPECT_EQ(written(list),
+            "\"Smi\"th\"\r\n" + empty.substr(0, 25 * 4) + "\"a\r\nb\nc,\"\r\n\"last\"\r\n");
+
+  ContactList again;
+  ASSERT_EQ(read(written(list), again).result, ReadResult::whole);
+  EXPECT_EQ(again.field(0, Slot::Surname), "Smi") << "the format loses what follows the quote";
+  EXPECT_EQ(again.field(0, Slot::FirstNames), "");
+  EXPECT_EQ(again.field(0, Slot::Comments), "a\r\nb\nc,");
+  EXPECT_EQ(again.field(0, Slot::Company), "last");
+}
+
+TEST(Writer, FileOrderAndEditedContacts) {
+  ContactList list;
+  std::string text;
+  for (int i = 1; i <= 56; ++i) text.append("\"").append(std::to_string(i)).append("\"\r\n");
+  ASSERT_EQ(read(text, list).contacts, 2);
+  list.store(1, Slot::WorkEmail, "changed");  // position 23 of the second contact
+  text.replace(text.find("\"51\"") + 1, 2, "changed");
+  EXPECT_EQ(written(list), text);
+}
+
+TEST(Writer, LargeTextsAndListsComeInPieces) {
+  ContactList list;
+  const std::string large(3 * writeChunk, 'x');
+  for (int i = 0; i < 3000; ++i) {
+    ASSERT_TRUE(list.append());
+    for (const Field& field : fields)
+      list.store(i, field.slot, std::to_string(i) + std::string(field.name));
+  }
+  list.store(1500, Slot::Comments, large);
+  std::size_t pieces = 0;
+  std::size_t longest = 0;
+  write(list, [&](std::string_view piece) {
+    ++pieces;
+    if (piece != large) longest = std::max(longest, piece.size());
+  });
+  EXPECT_GT(pieces, 5U);
+  EXPECT_LT(longest, 2 * writeChunk);
+
+  ContactList again;
+  ASSERT_EQ(read(written(list), again).result, ReadResult::whole);
+  ASSERT_EQ(again.count(), 3000);
+  for (int i = 0; i < again.count(); ++i) ASSERT_EQ(again.record(i), list.record(i)) << i;
+}
+
+TEST(Writer, LetsTheErrorsOfTheSinkPass) {
+  ContactList list;
+  ASSERT_TRUE(list.append());
+  EXPECT_THROW(write(list, [](std::string_view) { throw std::runtime_error("disk full"); }),
+               std::runtime_error);
+}
+
+TEST(Writer, SamplesComeBackByteForByte) {
+  const struct {
+    const char* name;
+    int contacts;
+  } samples[] = {{"empty.tly", 0}, {"one.tly", 1}, {"friends.tly", 12}, {"thousand.tly", 1000}};
+  for (const auto& c : samples) {
+    SCOPED_TRACE(c.name);
+    const std::string text = sample(c.name);
+    ContactList list;
+    EXPECT_EQ(read(text, list).result, ReadResult::whole);
+    EXPECT_EQ(list.count(), c.contacts);
+    EXPECT_EQ(written(list), text);
+    // Once more with every contact holding its texts itself.
+    for (int i = 0; i < list.count(); ++i) {
+      const std::string company(list.field(i, Slot::Company));
+      list.store(i, Slot::Company, company + "!");
+      list.store(i, Slot::Company, company);
+    }
+    EXPECT_EQ(written(list), text);
+  }
+}
+
+}  // namespace
+}  // namespace document
