@@ -93,7 +93,8 @@ void AppTest::SetUp() {
   RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey.c_str());
   const std::string all = temporaryFolder() + "\\Tellary tests";
   CreateDirectoryA(all.c_str(), nullptr);
-  folder_ = all + "\\" + testing::UnitTest::GetInstance()->current_test_info()->name();
+  folder_ = testing::UnitTest::GetInstance()->current_test_info()->name();
+  folder_ = all + "\\" + folder_.substr(folder_.rfind('/') + 1);
   removeFolder(folder_);
   if (!CreateDirectoryA(folder_.c_str(), nullptr))
     throw std::runtime_error("no scratch folder " + folder_);
