@@ -114,6 +114,11 @@ void Program::hover(int commandId) const {
   settle();
 }
 
+void Program::pointAway() const {
+  SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+  settle();
+}
+
 void Program::clickTab(int index) const {
   const HWND tabs = control(id::TABMAIN);
   const RemoteBuffer place(processId_, sizeof(RECT));
