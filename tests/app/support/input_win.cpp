@@ -55,6 +55,7 @@ void Program::chooseName(int index) const {
 void Program::focusOn(int controlId) const {
   bringToFront();
   send(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control(controlId)), TRUE);
+  settle();
   if (focus() != controlId)
     throw std::runtime_error("the focus does not go to " + std::to_string(controlId));
 }

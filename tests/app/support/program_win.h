@@ -123,6 +123,9 @@ class Program {
   std::map<int, HWND> controls_;
 };
 
+/// Waits for a main window of the program, whoever started it.
+[[nodiscard]] HWND waitForMainWindow();
+
 /// Path of the program under test as Windows names it.
 [[nodiscard]] std::string programUnderTest();
 /// `path` of this machine as Windows names it; paths that are Windows' already stay.
