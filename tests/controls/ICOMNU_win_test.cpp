@@ -249,13 +249,16 @@ TEST(MenuDrawing, ShowsPictureCheckMarkShortcutAndArrow) {
 
 TEST(MenuDrawing, StatesLookDifferent) {
   const windowing::ImageList images(strips);
-  const MenuItemLook look{"&Open", false, false, library::imageIndex("OPEN")};
+  MenuItemLook look{"&Open", false, false, library::imageIndex("OPEN")};
   constexpr UINT noAccessKeys = 0x0100;
   const UINT states[] = {0,           ODS_SELECTED, ODS_GRAYED, ODS_GRAYED | ODS_SELECTED,
                          ODS_CHECKED, noAccessKeys};
-  for (const UINT a : states)
-    for (const UINT b : states)
-      if (a != b) EXPECT_NE(Painted(look, a, images), Painted(look, b, images)) << a << ' ' << b;
+  for (const int image : {look.image, -1}) {
+    look.image = image;
+    for (const UINT a : states)
+      for (const UINT b : states)
+        EXPECT_EQ(Painted(look, a, images) == Painted(look, b, images), a == b) << a << ' ' << b;
+  }
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "tests/controls/control_form_win.h"
 #include "windowing/seams_win.h"
 #include "windowing/user_locale_win.h"
