@@ -119,6 +119,7 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] bool commandEnabled(int id) const;
   void setCommandChecked(int id, bool checked);
   [[nodiscard]] bool commandChecked(int id) const;
+  void showProperties();
   void addByUser();
   void buildToolbar();
   void toggleBar(int id);
