@@ -143,6 +143,7 @@ void frmProps::fillGeneral() {
     control(id::TXTFILENAME).setText(LIBRARY().FILECHK(document));
     return;
   }
+  control(id::TXTFILENAME).setText(fileNameOf(document));
   try {
     const std::string path = PROPERCASEPATH(fullPath(document));
     const std::string name = fileNameOf(path);

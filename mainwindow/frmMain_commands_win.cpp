@@ -7,9 +7,7 @@
 
 #include "controls/ICOMNU_win.h"
 #include "dialogs/frmAbout_win.h"
-#include "dialogs/frmProps_win.h"
 #include "library/clsLibrary_win.h"
-#include "library/modLibrary_win.h"
 #include "mainwindow/availability.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
@@ -122,14 +120,6 @@ void frmMain::runCommand(int command) {
     default:
       return;
   }
-}
-
-// The figures are those of the contact on screen, edits included. The text that the menu's Print
-// prints stays as it was composed last.
-void frmMain::showProperties() {
-  library::modLibrary().documentKind = CMD1.fileName.empty() ? "UNTITLED" : "DOCUMENT";
-  dialogs::frmProps properties;
-  properties.showModal();
 }
 
 void frmMain::addByUser() {
