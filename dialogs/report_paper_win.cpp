@@ -6,7 +6,6 @@
 #include "library/own_keys_win.h"
 #include "windowing/handles_win.h"
 #include "windowing/number_text.h"
-#include "windowing/printer_win.h"
 #include "windowing/text_format.h"
 #include "windowing/units.h"
 #include "windowing/user_locale_win.h"
@@ -27,8 +26,7 @@ double margin(const char* section, const char* value) {
 
 }  // namespace
 
-ReportPaper reportPaper() {
-  windowing::Printer& printer = windowing::printer();
+ReportPaper reportPaper(windowing::Printer& printer) {
   const HDC dc = printer.dc();
   const int dpi = GetDeviceCaps(dc, LOGPIXELSY);
   const windowing::FontHandle font(

@@ -1,19 +1,19 @@
 // The paper that a report would be printed on.
 #pragma once
 
-#include <string>
+#include "windowing/printer_win.h"
 
 namespace dialogs {
 
-/// Paper of the current printer and the report's type on it, twips.
+/// Paper of a printer and the report's type on it, twips.
 struct ReportPaper {
   double width = 0;
   double height = 0;
   double lineHeight = 0;
 };
 
-/// Raises a printer error where no printer is installed.
-[[nodiscard]] ReportPaper reportPaper();
+/// Paper in `printer`. Raises a printer error where no printer is installed.
+[[nodiscard]] ReportPaper reportPaper(windowing::Printer& printer);
 
 /// The margins of printed pages as they are stored, inches.
 struct ReportMargins {

@@ -4,13 +4,16 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "library/identifiers.h"
 #include "library/modLibrary_win.h"
+#include "tests/support/printers_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
+#include "windowing/richtextbox_win.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
@@ -289,6 +292,58 @@ TEST_F(Properties, FiguresOfTheDocumentsText) {
   ScratchRegistry::putText(registry_.user(), misspeltKey, "Page Margin 0", "4");
   form_.UPDATEINFO();
   EXPECT_GT(std::stoi(text(id::TXTDOCLINES)), lines);
+}
+
+// Pages of a text as the print engine has them laid out, with margins of an inch.
+int laidOutPages(windowing::Printer& printer, const std::string& text) {
+  const HWND window =
+      CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+  int pages = 0;
+  {
+    windowing::RichTextBox box("RTF3");
+    box.create(window, 1, {0, 0, 9, 9});
+    box.setPlain(text);
+    const auto width = static_cast<LONG>(printer.width());
+    const auto height = static_cast<LONG>(printer.height());
+    FORMATRANGE range{printer.dc(), printer.dc(), {}, {0, 0, width, height}, {0, -1}};
+    while (range.chrg.cpMin < box.length() || pages == 0) {
+      range.rc = {1440, 1440, width - 1440, height - 1440};
+      range.chrg.cpMin =
+          static_cast<LONG>(box.send(EM_FORMATRANGE, FALSE, reinterpret_cast<LPARAM>(&range)));
+      ++pages;
+    }
+  }
+  DestroyWindow(window);
+  return pages;
+}
+
+TEST_F(Properties, PagesAreThosePrinted) {
+  const support::TestPrinters printers;
+  windowing::Printer printer;
+  form_.setPaper([&] { return reportPaper(printer); });
+  std::string report;
+  form_.setDocumentText([&] { return report; });
+  const std::string sentence = "Comments that are longer than a line of the page, so they wrap. ";
+  const auto lines = [](int count, const std::string& line) {
+    std::string text = line;
+    for (int i = 1; i < count; ++i) text += "\r\n" + line;
+    return text;
+  };
+  for (const char* name : {support::TestPrinters::letter, support::TestPrinters::a4}) {
+    printer.select(name);
+    int highest = 0;
+    for (int count = 50; count < 70; ++count) {
+      report = lines(count, "line");
+      show("", "UNTITLED");
+      const int pages = laidOutPages(printer, report);
+      EXPECT_EQ(text(id::TXTDOCPAGES), std::to_string(pages)) << count << " lines on " << name;
+      highest = std::max(highest, pages);
+    }
+    EXPECT_EQ(highest, 2) << name;
+    report = lines(40, sentence + sentence + sentence);
+    show("", "UNTITLED");
+    EXPECT_EQ(text(id::TXTDOCPAGES), std::to_string(laidOutPages(printer, report))) << name;
+  }
 }
 
 TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
