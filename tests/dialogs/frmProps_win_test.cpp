@@ -422,8 +422,7 @@ TEST_F(Properties, KeepsNoHandles) {
   const auto handles = [] {
     DWORD count = 0;
     GetProcessHandleCount(GetCurrentProcess(), &count);
-    return static_cast<int>(count + GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS) +
-                            GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
+    return static_cast<int>(count);
   };
   const auto openings = [&](int count) {
     for (int i = 0; i < count; ++i) {
@@ -434,7 +433,17 @@ TEST_F(Properties, KeepsNoHandles) {
   openings(5);
   const int before = handles();
   openings(50);
-  EXPECT_LT(handles(), before + 25);
+  EXPECT_LT(handles(), before + 10);
+
+  show(path);
+  const auto icon =
+      reinterpret_cast<HICON>(form_.control(id::PICICON).send(STM_GETIMAGE, IMAGE_ICON));
+  ICONINFO facts{};
+  ASSERT_TRUE(GetIconInfo(icon, &facts));
+  const windowing::BitmapHandle mask(facts.hbmMask);
+  const windowing::BitmapHandle colour(facts.hbmColor);
+  show("");
+  EXPECT_FALSE(GetIconInfo(icon, &facts));
 }
 
 }  // namespace

@@ -122,7 +122,7 @@ TEST(ImageHeader, BelievesNoLies) {
       jpegStart + frame(0xC0, 800, 600, 5),
       jpegStart + frame(0xC0, 800, 600, 3, 99),
       jpegStart + frame(0xC8, 800, 600, 3),
-      jpegStart + "\xFF\xDA" + frame(0xC0, 800, 600, 3),
+      jpegStart + segment(0xDA, "scan") + frame(0xC0, 800, 600, 3),
       jpegStart + "\xFF\xD9" + frame(0xC0, 800, 600, 3),
       jpegStart + std::string("\xFF\xE0\0\1", 4) + frame(0xC0, 800, 600, 3),
       jpegStart + std::string("\xFF\xE0\0\0", 4) + frame(0xC0, 800, 600, 3),
