@@ -249,11 +249,6 @@ LRESULT frmMain::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ENDSESSION:
       if (wParam != FALSE) onUnload();
       return 0;
-    case WM_DESTROY: {
-      const LRESULT result = CommandForm::handleMessage(message, wParam, lParam);
-      PostQuitMessage(0);
-      return result;
-    }
     default:
       return CommandForm::handleMessage(message, wParam, lParam);
   }
