@@ -10,6 +10,14 @@ target_compile_options(tellary_options INTERFACE
 # The linker has to be told as well: the guard lives in a library of its own here.
 target_link_options(tellary_options INTERFACE -fstack-protector-strong)
 
+# Size matters everywhere but in the document, which is read and written at the disk's pace.
+string(REPLACE "-O3" "-Os" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
+foreach(source IN LISTS plain_sources)
+  if(source MATCHES "/document/[^/]*$")
+    set_property(SOURCE ${source} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O3>)
+  endif()
+endforeach()
+
 add_library(tellary_windows STATIC ${windows_sources})
 target_link_libraries(tellary_windows PUBLIC tellary_core
   comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 winspool version msimg32 uxtheme)
