@@ -215,15 +215,7 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
     } else {
       top += boxPitch + labelPitch - fieldPitch;
     }
-    const bool comments = shown.slot == Slot::Comments;
-    made[at++] = {boxName(shown.box),
-                  boxId(shown),
-                  comments ? ControlKind::multilineBox : ControlKind::textBox,
-                  "",
-                  left,
-                  top,
-                  width,
-                  height,
+    made[at++] = {boxName(shown.box), boxId(shown), boxKind(shown), "", left, top, width, height,
                   container};
     top += fieldPitch - labelPitch;
   };

@@ -1,0 +1,129 @@
+#include "pagesetup/header_footer.h"
+
+#include "windowing/checked.h"
+
+namespace pagesetup {
+namespace {
+
+using windowing::checkedAdd;
+using windowing::checkedCast;
+using windowing::checkedMultiply;
+using windowing::checkedSubtract;
+
+// Distances in twips. Texts are placed by an estimate of their width and by fixed distances,
+// and rules begin left of the margin: that is how the product family's pages look.
+constexpr std::int16_t ruleOutdent = 200;
+constexpr std::int16_t headerRuleRise = 300;
+constexpr std::int16_t headerTextRise = 700;
+constexpr std::int16_t dateIndent = 200;
+constexpr std::int32_t timeFromRight = 2500;
+constexpr std::int16_t footerRuleDrop = 200;
+constexpr std::int16_t footerTextDrop = 360;
+constexpr std::int16_t field1Indent = 300;
+constexpr std::int32_t characterWidth = 170;
+
+// Where the preview differs from the printer, on purpose.
+struct Offsets {
+  double title;
+  std::int32_t field2FromRight;
+};
+constexpr Offsets onPrinter{400, 4000};
+constexpr Offsets inPreview{700, 5000};
+
+constexpr const Offsets& offsetsOf(Surface surface) {
+  return surface == Surface::preview ? inPreview : onPrinter;
+}
+
+// Left edge of a text that is centred by its number of characters.
+double centred(std::int32_t width, const std::string& text) {
+  const std::int32_t estimated = checkedMultiply(
+      checkedCast<std::int32_t>(static_cast<std::int64_t>(text.size())), characterWidth);
+  return checkedSubtract(width, estimated) / 2.0;
+}
+
+class Drawing {
+ public:
+  explicit Drawing(const Page& page) : page_(page) {}
+
+  void rule(std::int16_t y) {
+    const double left = checkedSubtract(page_.margins.left, ruleOutdent);
+    const double right = checkedSubtract(page_.width, std::int32_t{page_.margins.right});
+    commands.push_back({DrawCommand::Kind::line, left, static_cast<double>(y), right, {}});
+  }
+  void text(double x, std::int16_t y, const std::string& text) {
+    commands.push_back({DrawCommand::Kind::text, x, static_cast<double>(y), 0, text});
+  }
+
+  std::vector<DrawCommand> commands;
+
+ private:
+  const Page& page_;
+};
+
+void drawHeader(Drawing& drawing, const HeaderFooterOptions& options, const Page& page) {
+  const Margins& margins = page.margins;
+  const auto line = [&] { return checkedSubtract(margins.top, headerTextRise); };
+  if (options.on(Option::headerRule)) drawing.rule(checkedSubtract(margins.top, headerRuleRise));
+  if (options.on(Option::date))
+    drawing.text(checkedAdd(margins.left, dateIndent), line(), page.date);
+  if (options.on(Option::time))
+    drawing.text(checkedSubtract(page.width, timeFromRight), line(), page.time);
+  if (options.on(Option::title)) {
+    const std::string& title = options[Option::titleText];
+    drawing.text(centred(page.width, title) + offsetsOf(page.surface).title, line(), title);
+  }
+}
+
+void drawFooter(Drawing& drawing, const HeaderFooterOptions& options, const Page& page) {
+  const Margins& margins = page.margins;
+  const auto base =
+      checkedCast<std::int16_t>(checkedSubtract(page.height, std::int32_t{margins.bottom}));
+  const auto line = [&] { return checkedAdd(base, footerTextDrop); };
+  if (options.on(Option::footerRule)) drawing.rule(checkedAdd(base, footerRuleDrop));
+  if (options.on(Option::field1))
+    drawing.text(checkedAdd(margins.left, field1Indent), line(), options[Option::field1Text]);
+  if (options.on(Option::field2))
+    drawing.text(checkedSubtract(page.width, offsetsOf(page.surface).field2FromRight), line(),
+                 options[Option::field2Text]);
+  if (options.on(Option::pageNumber))
+    drawing.text(centred(page.width, page.number), line(), page.number);
+}
+
+std::string digits(int value, std::size_t count) {
+  std::string text = std::to_string(value);
+  if (text.size() < count) text.insert(0, count - text.size(), '0');
+  return text;
+}
+
+}  // namespace
+
+std::string defaultText(Default kind, const DefaultTexts& texts) {
+  switch (kind) {
+    case Default::reportTitle:
+      return texts.product + " Report.";
+    case Default::owner:
+      return texts.owner;
+    case Default::documentName:
+      return texts.documentName.empty() ? "Untitled" : texts.documentName;
+    case Default::on:
+      break;
+  }
+  return "1";
+}
+
+std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options, const Page& page) {
+  Drawing drawing(page);
+  if (options.on(Option::header)) drawHeader(drawing, options, page);
+  if (options.on(Option::footer)) drawFooter(drawing, options, page);
+  return drawing.commands;
+}
+
+std::string dateText(int year, int month, int day) {
+  return digits(day, 2) + '/' + digits(month, 2) + '/' + digits(year, 4);
+}
+
+std::string timeText(int hour, int minute, int second) {
+  return std::to_string(hour) + ':' + digits(minute, 2) + ':' + digits(second, 2);
+}
+
+}  // namespace pagesetup

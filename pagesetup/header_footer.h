@@ -1,0 +1,146 @@
+// Header and footer of a page: which settings decide about them, and where each item stands.
+// All of it is arithmetic over plain data; printer and preview draw what comes out.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pagesetup {
+
+/// The thirteen stored settings: what is drawn, and its texts.
+enum class Option : int {
+  header,
+  title,
+  headerRule,
+  date,
+  time,
+  titleText,
+  footer,
+  field1,
+  field2,
+  footerRule,
+  pageNumber,
+  field1Text,
+  field2Text,
+};
+constexpr std::size_t optionCount = 13;
+
+/// What a setting is when nothing is stored.
+enum class Default { on, reportTitle, owner, documentName };
+
+struct StoredOption {
+  Option option;
+  const char* section;  ///< of the product's own settings
+  const char* valueName;
+  Default otherwise;
+};
+
+constexpr char headerSection[] = "\\frmPPrev\\Items\\Header";
+constexpr char footerSection[] = "\\frmPPrev\\Items\\Footer";
+
+// clang-format off
+constexpr std::array<StoredOption, optionCount> storedOptions{{
+  {Option::header,     headerSection, "Checked",   Default::on},
+  {Option::title,      headerSection, "chkTitle",  Default::on},
+  {Option::headerRule, headerSection, "chkHLine",  Default::on},
+  {Option::date,       headerSection, "chkDate",   Default::on},
+  {Option::time,       headerSection, "chkTime",   Default::on},
+  {Option::titleText,  headerSection, "txtTitle",  Default::reportTitle},
+  {Option::footer,     footerSection, "Checked",   Default::on},
+  {Option::field1,     footerSection, "chkField1", Default::on},
+  {Option::field2,     footerSection, "chkField2", Default::on},
+  {Option::footerRule, footerSection, "chkFLine",  Default::on},
+  {Option::pageNumber, footerSection, "chkPgNo",   Default::on},
+  {Option::field1Text, footerSection, "txtField1", Default::owner},
+  {Option::field2Text, footerSection, "txtField2", Default::documentName},
+}};
+// clang-format on
+
+/// Row of the table for `option`.
+[[nodiscard]] constexpr const StoredOption& storedOption(Option option) {
+  return storedOptions[static_cast<std::size_t>(option)];
+}
+
+namespace detail {
+constexpr bool optionsAreInOrder() {
+  for (std::size_t i = 0; i < storedOptions.size(); ++i)
+    if (static_cast<std::size_t>(storedOptions[i].option) != i) return false;
+  return true;
+}
+}  // namespace detail
+static_assert(detail::optionsAreInOrder());
+
+/// What the defaults are made of.
+struct DefaultTexts {
+  std::string product;
+  std::string owner;         ///< registered owner of this Windows
+  std::string documentName;  ///< its file's name; empty while it has no file
+};
+
+/// Text of a setting when nothing is stored: "1" for a switch.
+[[nodiscard]] std::string defaultText(Default kind, const DefaultTexts& texts);
+
+/// The settings as texts, by option.
+class HeaderFooterOptions {
+ public:
+  [[nodiscard]] std::string& operator[](Option option) {
+    return values_[static_cast<std::size_t>(option)];
+  }
+  [[nodiscard]] const std::string& operator[](Option option) const {
+    return values_[static_cast<std::size_t>(option)];
+  }
+  /// Whether a switch is on: only exactly "1" is.
+  [[nodiscard]] bool on(Option option) const { return (*this)[option] == "1"; }
+
+ private:
+  std::array<std::string, optionCount> values_;
+};
+
+/// Margins in twips, in the order in which the page routines take them. The print engine hands
+/// over left, top, right, bottom, so that its right margin stands in `bottom` here and its
+/// bottom margin in `right`. That crossing is deliberate.
+struct Margins {
+  std::int16_t left = 0;
+  std::int16_t top = 0;
+  std::int16_t bottom = 0;
+  std::int16_t right = 0;
+};
+
+enum class Surface { printer, preview };
+
+/// One page as its header and footer see it. Width and height are those of the surface, twips.
+struct Page {
+  Surface surface = Surface::printer;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  Margins margins;
+  std::string number;
+  std::string date;
+  std::string time;
+};
+
+/// A line from (x, y) to (toX, y), or a text whose first line has its top at y. Fractional
+/// twips from the surface's top-left corner; they may be negative.
+struct DrawCommand {
+  enum class Kind { line, text };
+  Kind kind = Kind::line;
+  double x = 0;
+  double y = 0;
+  double toX = 0;
+  std::string text;
+};
+
+/// What to draw on a page, in order. Raises overflow where an offset from a margin leaves 16
+/// bits or a distance leaves 32.
+[[nodiscard]] std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options,
+                                                       const Page& page);
+
+/// "DD/MM/YYYY" and "h:mm:ss" (24 hours, no leading zero on the hour), whatever the locale.
+[[nodiscard]] std::string dateText(int year, int month, int day);
+[[nodiscard]] std::string timeText(int hour, int minute, int second);
+
+}  // namespace pagesetup

@@ -1,0 +1,91 @@
+#include "printing/report.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace printing {
+namespace {
+
+using document::ContactRecord;
+using document::Slot;
+
+constexpr std::size_t addressParts = 5;
+
+// A line of the report: a field under its own label, or the address that begins with a field.
+struct Line {
+  Slot field;
+  std::string_view addressLabel{};  // empty for a line of one field
+};
+
+constexpr std::array<Line, 18> lines{{
+    {Slot::DateOfBirth},
+    {Slot::JobTitle},
+    {Slot::MobilePhone},
+    {Slot::Pager},
+    {Slot::Other1},
+    {Slot::Other2},
+    {Slot::Comments},
+    {Slot::HomeAddress1, "Address: "},
+    {Slot::HomePhone},
+    {Slot::HomeFax},
+    {Slot::Company},
+    {Slot::WorkAddress1, "Work Address: "},
+    {Slot::WorkPhone},
+    {Slot::WorkFax},
+    {Slot::HomeEmail},
+    {Slot::WorkEmail},
+    {Slot::HomeWebsite},
+    {Slot::WorkWebsite},
+}};
+
+constexpr bool everyLineHasALabel() {
+  return std::all_of(lines.begin(), lines.end(), [](const Line& line) {
+    return line.addressLabel.empty() != document::fieldOf(line.field).reportLabel.empty();
+  });
+}
+static_assert(everyLineHasALabel());
+
+// The parts of an address follow each other as fields do: street twice, city, country, code.
+std::string addressFrom(const ContactRecord& values, Slot street) {
+  std::string address;
+  const auto first = values.fields.begin() + static_cast<std::ptrdiff_t>(street);
+  std::for_each(first, first + addressParts, [&](const std::string& part) {
+    if (part.empty()) return;
+    if (!address.empty()) address += ", ";
+    address += part;
+  });
+  return address;
+}
+
+std::string nameOf(const ContactRecord& values) {
+  const std::string name = values[Slot::FirstNames] + ' ' + values[Slot::Surname];
+  constexpr std::size_t shortestName = 2;  // one character and the blank
+  return name.size() < shortestName ? std::string() : name;
+}
+
+}  // namespace
+
+std::vector<ReportStep> reportOf(const ContactRecord& values) {
+  using Kind = ReportStep::Kind;
+  std::vector<ReportStep> steps{{Kind::lineBreak, {}}, {Kind::boldText, nameOf(values)}};
+  for (const Line& line : lines) {
+    const bool address = !line.addressLabel.empty();
+    const std::string value =
+        address ? addressFrom(values, line.field) : std::string(values[line.field]);
+    if (value.empty()) continue;
+    const std::string label(address ? line.addressLabel
+                                    : document::fieldOf(line.field).reportLabel);
+    steps.push_back({Kind::lineBreak, {}});
+    // Label and number of the work fax are deliberately two insertions, unlike all others.
+    if (line.field == Slot::WorkFax) {
+      steps.push_back({Kind::text, label});
+      steps.push_back({Kind::text, value});
+    } else {
+      steps.push_back({Kind::text, label + value});
+    }
+  }
+  return steps;
+}
+
+}  // namespace printing

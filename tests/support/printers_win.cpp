@@ -1,0 +1,205 @@
+#include "tests/support/printers_win.h"
+
+#include <windows.h>
+
+#include <winspool.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace support {
+namespace {
+
+struct Paper {
+  const char* name;
+  short code;
+  int width;  // points
+  int height;
+};
+
+struct Device {
+  const char* name;
+  const char* driver;
+  const char* file;  // of its description and its output, without extension
+  int dpi;
+  int left;  // unprintable strips, points
+  int right;
+  int top;
+  int bottom;
+  Paper first;
+  Paper second;
+};
+
+constexpr Paper letterPaper{"Letter", DMPAPER_LETTER, 612, 792};
+constexpr Paper a4Paper{"A4", DMPAPER_A4, 595, 842};
+constexpr Device devices[] = {
+    {TestPrinters::letter, "Tellary Letter driver", "letter", 600, 18, 24, 36, 30, letterPaper,
+     a4Paper},
+    {TestPrinters::a4, "Tellary A4 driver", "a4", 300, 10, 14, 12, 20, a4Paper, letterPaper},
+};
+
+std::string folder() {
+  char path[MAX_PATH] = "";
+  GetTempPathA(MAX_PATH, path);
+  return path;
+}
+
+std::string outputOf(const Device& device) {
+  return folder() + "tellary_" + device.file + ".ps";
+}
+
+void writeFile(const std::string& path, const std::string& text) {
+  const HANDLE file =
+      CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  DWORD written = 0;
+  WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+  CloseHandle(file);
+}
+
+std::string readFile(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                  nullptr, OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return {};
+  std::string text(GetFileSize(file, nullptr), '\0');
+  DWORD read = 0;
+  ReadFile(file, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
+  CloseHandle(file);
+  return text;
+}
+
+std::string numbers(int a, int b) {
+  return std::to_string(a) + ' ' + std::to_string(b);
+}
+
+std::string description(const Device& device) {
+  std::string sizes;
+  std::string regions;
+  std::string areas;
+  std::string dimensions;
+  for (const Paper& paper : {device.first, device.second}) {
+    const std::string name = paper.name;
+    const std::string size = numbers(paper.width, paper.height);
+    const std::string set = "\"<</PageSize[" + size + "]/ImagingBBox null>>setpagedevice\"\n";
+    sizes += "*PageSize " + name + ": " + set;
+    regions += "*PageRegion " + name + ": " + set;
+    areas += "*ImageableArea " + name + ": \"" + numbers(device.left, device.bottom) + ' ' +
+             numbers(paper.width - device.right, paper.height - device.top) + "\"\n";
+    dimensions += "*PaperDimension " + name + ": \"" + size + "\"\n";
+  }
+  const std::string standard = device.first.name;
+  const std::string choice = "PickOne\n*OrderDependency: 10 AnySetup *";
+  return "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+         "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"TEST.PPD\"\n"
+         "*Product: \"(Test)\"\n*PSVersion: \"(3010.000) 0\"\n*Manufacturer: \"Test\"\n"
+         "*ModelName: \"" +
+         std::string(device.driver) + "\"\n*ShortNickName: \"" + device.driver +
+         "\"\n*NickName: \"" + device.driver +
+         "\"\n*LanguageLevel: \"3\"\n*ColorDevice: True\n"
+         "*DefaultColorSpace: RGB\n*FileSystem: False\n*TTRasterizer: Type42\n"
+         "*LandscapeOrientation: Plus90\n*DefaultResolution: " +
+         std::to_string(device.dpi) + "dpi\n*OpenUI *PageSize: " + choice +
+         "PageSize\n*DefaultPageSize: " + standard + '\n' + sizes +
+         "*CloseUI: *PageSize\n*OpenUI *PageRegion: " + choice +
+         "PageRegion\n*DefaultPageRegion: " + standard + '\n' + regions +
+         "*CloseUI: *PageRegion\n*DefaultImageableArea: " + standard + '\n' + areas +
+         "*DefaultPaperDimension: " + standard + '\n' + dimensions +
+         "*DefaultFont: Courier\n*Font Courier: Standard \"(001.000)\" Standard ROM\n"
+         "*Font Helvetica: Standard \"(001.000)\" Standard ROM\n";
+}
+
+void check(BOOL done, const char* step) {
+  if (!done && GetLastError() != ERROR_PRINTER_ALREADY_EXISTS &&
+      GetLastError() != ERROR_PRINTER_DRIVER_ALREADY_INSTALLED)
+    throw std::runtime_error(std::string(step) + " failed: " + std::to_string(GetLastError()));
+}
+
+char* mutableText(const char* text) {
+  return const_cast<char*>(text);
+}
+
+void install(const Device& device) {
+  const std::string ppd = folder() + "tellary_" + device.file + ".ppd";
+  writeFile(ppd, description(device));
+  DRIVER_INFO_3A driver{};
+  driver.cVersion = 3;
+  driver.pName = mutableText(device.driver);
+  driver.pEnvironment = mutableText("Windows NT x86");
+  driver.pDriverPath = mutableText("wineps.drv");
+  driver.pDataFile = mutableText(ppd.c_str());
+  driver.pConfigFile = mutableText("wineps.drv");
+  driver.pDefaultDataType = mutableText("RAW");
+  check(AddPrinterDriverExA(nullptr, 3, reinterpret_cast<BYTE*>(&driver),
+                            APD_COPY_NEW_FILES | APD_COPY_FROM_DIRECTORY),
+        "AddPrinterDriverEx");
+  const std::string port = outputOf(device);
+  PRINTER_INFO_2A printer{};
+  printer.pPrinterName = mutableText(device.name);
+  printer.pPortName = mutableText(port.c_str());
+  printer.pDriverName = mutableText(device.driver);
+  printer.pPrintProcessor = mutableText("WinPrint");
+  printer.pDatatype = mutableText("RAW");
+  const HANDLE added = AddPrinterA(nullptr, 2, reinterpret_cast<BYTE*>(&printer));
+  check(added != nullptr, "AddPrinter");
+  if (added != nullptr) ClosePrinter(added);
+}
+
+// The driver keeps what a program asked for as its default as long as the process lives.
+void restoreDefaults(const Device& device) {
+  HANDLE printer = nullptr;
+  check(OpenPrinterA(mutableText(device.name), &printer, nullptr), "OpenPrinter");
+  char* const name = mutableText(device.name);
+  std::string settings(
+      static_cast<std::size_t>(DocumentPropertiesA(nullptr, printer, name, nullptr, nullptr, 0)),
+      '\0');
+  auto* mode = reinterpret_cast<DEVMODEA*>(settings.data());
+  DocumentPropertiesA(nullptr, printer, name, mode, nullptr, DM_OUT_BUFFER);
+  mode->dmFields = DM_PAPERSIZE | DM_ORIENTATION | DM_COPIES;
+  mode->dmPaperSize = device.first.code;
+  mode->dmOrientation = DMORIENT_PORTRAIT;
+  mode->dmCopies = 1;
+  DocumentPropertiesA(nullptr, printer, name, mode, mode, DM_IN_BUFFER | DM_OUT_BUFFER);
+  ClosePrinter(printer);
+}
+
+void remove(const Device& device) {
+  PRINTER_DEFAULTSA access{nullptr, nullptr, PRINTER_ALL_ACCESS};
+  HANDLE printer = nullptr;
+  if (!OpenPrinterA(mutableText(device.name), &printer, &access)) return;
+  DeletePrinter(printer);
+  ClosePrinter(printer);
+}
+
+}  // namespace
+
+TestPrinters::TestPrinters() {
+  for (const Device& device : devices) {
+    install(device);
+    restoreDefaults(device);
+  }
+  check(SetDefaultPrinterA(letter), "SetDefaultPrinter");
+  clearJobs();
+}
+
+TestPrinters::~TestPrinters() {
+  for (const Device& device : devices) remove(device);
+  clearJobs();
+}
+
+std::string TestPrinters::letterJob() {
+  return readFile(outputOf(devices[0]));
+}
+std::string TestPrinters::a4Job() {
+  return readFile(outputOf(devices[1]));
+}
+void TestPrinters::clearJobs() {
+  for (const Device& device : devices) {
+    const std::string output = outputOf(device);
+    if (!DeleteFileA(output.c_str())) RemoveDirectoryA(output.c_str());
+  }
+}
+void TestPrinters::blockLetterOutput() {
+  clearJobs();
+  CreateDirectoryA(outputOf(devices[0]).c_str(), nullptr);
+}
+
+}  // namespace support
