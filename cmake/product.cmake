@@ -6,7 +6,9 @@ set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} --codepage=1252")
 target_compile_definitions(tellary_options INTERFACE
   WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700 NOMINMAX WIN32_LEAN_AND_MEAN STRICT)
 target_compile_options(tellary_options INTERFACE
-  -ffunction-sections -fdata-sections -fstack-protector-strong)
+  -ffunction-sections -fdata-sections -fstack-protector-strong
+  # Doubles of 64 bits, as everywhere else: the old floating-point unit computes in 80.
+  -msse2 -mfpmath=sse)
 # The linker has to be told as well: the guard lives in a library of its own here.
 target_link_options(tellary_options INTERFACE -fstack-protector-strong)
 
