@@ -34,12 +34,22 @@ std::vector<std::uint32_t> pixelsOf(const RECT& place, BITMAPINFO& info) {
   return pixels;
 }
 
-}  // namespace
-
-bool takePicture(HWND window, const std::string& file) {
+RECT placeOf(HWND window) {
   RECT place{};
   GetWindowRect(window, &place);
-  if (place.right <= place.left || place.bottom <= place.top) return false;
+  return place;
+}
+
+}  // namespace
+
+bool screenShows(HWND window) {
+  BITMAPINFO info{};
+  const std::vector<std::uint32_t> pixels = pixelsOf(placeOf(window), info);
+  return !std::equal(pixels.begin() + 1, pixels.end(), pixels.begin());
+}
+
+bool takePicture(HWND window, const std::string& file) {
+  if (!screenShows(window)) return false;
   BITMAPINFO info{};
   // What the program drew arrives on the screen a little later.
   constexpr DWORD pause = 60;
@@ -47,8 +57,7 @@ bool takePicture(HWND window, const std::string& file) {
   for (int i = 0; i < 20 && (pixels.empty() || pixels != before); ++i) {
     Sleep(pixels.empty() ? 0 : pause);
     before = std::move(pixels);
-    pixels = pixelsOf(place, info);
-    if (std::equal(pixels.begin() + 1, pixels.end(), pixels.begin())) return false;
+    pixels = pixelsOf(placeOf(window), info);
   }
 
   std::FILE* const stream = std::fopen(file.c_str(), "wb");
