@@ -29,7 +29,7 @@ int Main() {
   if (!requested.empty()) ignoringErrors([&] { form.openNamedAtStart(documentPathOf(requested)); });
   ignoringErrors([] { Associate("tly", windowing::productName() + " Document", "2"); });
   form.show();
-  return windowing::runMessageLoop();
+  return windowing::runMessageLoop(form);
 }
 
 }  // namespace app

@@ -1,6 +1,7 @@
 #include "controls/menu_drawing_win.h"
 
 #include <algorithm>
+#include <string>
 
 #include "controls/drawing_win.h"
 #include "controls/menu_text.h"
@@ -144,11 +145,16 @@ void drawWords(HDC dc, const RECT& place, const MenuItemLook& look, UINT state, 
   RECT area = place;
   area.left += columnWidth(images) + scaled(textGap);
   area.right -= scaled(rightMargin);
-  const UINT marks = (state & noAccessKeys) != 0 ? DT_HIDEPREFIX : 0;
-  DrawTextA(dc, words.data(), static_cast<int>(words.size()), &area,
-            DT_SINGLELINE | DT_VCENTER | DT_LEFT | marks);
+  constexpr UINT line = DT_SINGLELINE | DT_VCENTER;
+  if ((state & noAccessKeys) != 0) {
+    // Not left to DT_HIDEPREFIX, which not every system obeys.
+    const std::string bare = spokenText(words);
+    DrawTextA(dc, bare.c_str(), -1, &area, line | DT_LEFT | DT_NOPREFIX);
+  } else {
+    DrawTextA(dc, words.data(), static_cast<int>(words.size()), &area, line | DT_LEFT);
+  }
   DrawTextA(dc, shortcut.data(), static_cast<int>(shortcut.size()), &area,
-            DT_SINGLELINE | DT_VCENTER | DT_RIGHT | DT_NOPREFIX);
+            line | DT_RIGHT | DT_NOPREFIX);
 }
 
 }  // namespace

@@ -27,11 +27,20 @@ bool isPlainTarget(const std::string& path) {
   return isFullPath(path) && !hasWildcards(path) && path.find('\0') == std::string::npos;
 }
 
+// Longer addresses overrun a buffer of the shell on some systems and would end the program.
+constexpr std::size_t longestAddress = 960;
+
+// The shell copies paths into buffers of this size and does not survive longer ones.
+bool fitsShell(const std::string& path) {
+  return path.size() < MAX_PATH;
+}
+
 // Without a full path the shell deletes for good instead of moving to the recycle bin. The
 // only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
 // its result is not looked at.
 void shellOperation(UINT function, const std::string& from, const std::string* to) {
-  if (!isSafeToDelete(from) || (to != nullptr && !isPlainTarget(*to))) return;
+  if (!isSafeToDelete(from) || !fitsShell(from)) return;
+  if (to != nullptr && !(isPlainTarget(*to) && fitsShell(*to))) return;
   const std::string fromList = doubleNulList(from);
   const std::string toList = to == nullptr ? std::string() : doubleNulList(*to);
   SHFILEOPSTRUCTA operation{};
@@ -95,7 +104,9 @@ void clsLibrary::INTERNETACCESS(const std::string& HWNDTEXT, const std::string& 
   if (ADDRESS.empty()) return;
   const auto owner =
       reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.')));
-  windowing::seams().shellOpen(owner, "Open", LINKTYPESTR + ADDRESS, windowing::programFolder());
+  const std::string file = LINKTYPESTR + ADDRESS;
+  if (file.size() > longestAddress) return;
+  windowing::seams().shellOpen(owner, "Open", file, windowing::programFolder());
 }
 
 std::string clsLibrary::HTMLFORMATCHECK(const std::string& ADDRESS) {

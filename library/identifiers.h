@@ -93,6 +93,27 @@ constexpr int pageSetupControls = 3000;
 constexpr int propertiesControls = 4000;
 constexpr int aboutControls = 4500;
 
+// Controls of the about box.
+namespace about {
+constexpr int FRAMTITLE = aboutControls;
+constexpr int LBLPROGRAMNAME = 4501;
+constexpr int IMGLOGO = 4502;
+constexpr int IMGCURSOR = 4503;
+constexpr int LNTITLE1 = 4504;
+constexpr int LNTITLE2 = 4505;
+constexpr int LBLVERS = 4506;
+constexpr int LBLVERSNO = 4507;
+constexpr int LBLREGISTERED = 4508;
+constexpr int LBLREGNAME = 4509;
+constexpr int LBLREGCO = 4510;
+constexpr int LBLWRITTEN = 4511;
+constexpr int LBLCOPYRIGHT = 4512;
+constexpr int LBLTHANKS = 4513;
+constexpr int LBLWARNING = 4514;
+constexpr int TSEP2 = 4515;
+constexpr int BTNCLOSE = 4516;
+}  // namespace about
+
 static_assert(textItem(textItemCount - 1) < CBOPEMAIL);
 static_assert(CBOPWORKWEBSITE < labelOf(TXTITEMS) && labelOf(CBOPWORKWEBSITE) < previewControls);
 

@@ -23,7 +23,8 @@ std::size_t nextBackslash(const std::string& path, std::size_t from) {
 
 // Length of what is no name on a disk: "C:\", or "\\server\share\".
 std::size_t prefixLength(const std::string& path) {
-  if (path.compare(0, 2, "\\\\") != 0) return path.compare(1, 2, ":\\") == 0 ? 3 : 0;
+  if (!path.starts_with("\\\\"))
+    return path.size() >= 3 && path[1] == ':' && path[2] == '\\' ? 3 : 0;
   std::size_t end = 2;
   for (int part = 0; part < 2; ++part) end = std::min(nextBackslash(path, end) + 1, path.size());
   return end;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "controls/ICOMNU_win.h"
+#include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
 #include "mainwindow/availability.h"
 #include "mainwindow/commands.h"
@@ -112,6 +113,8 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoLast);
     case id::WEBSITE:
       return openMakerSite();
+    case id::ABOUT:
+      return dialogs::frmAbout().showModal();
     default:
       return;
   }
@@ -246,11 +249,6 @@ LRESULT frmMain::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ENDSESSION:
       if (wParam != FALSE) onUnload();
       return 0;
-    case WM_DESTROY: {
-      const LRESULT result = CommandForm::handleMessage(message, wParam, lParam);
-      PostQuitMessage(0);
-      return result;
-    }
     default:
       return CommandForm::handleMessage(message, wParam, lParam);
   }

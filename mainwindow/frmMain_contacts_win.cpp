@@ -14,7 +14,6 @@
 
 namespace mainwindow {
 
-using document::Slot;
 using windowing::PaintingSuspended;
 namespace id = library::id;
 

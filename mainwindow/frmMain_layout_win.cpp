@@ -91,9 +91,9 @@ windowing::TextBox frmMain::TXTITEMS(int index) const {
 void frmMain::onLoad() {
   windowing::setMainWindow(handle());
   SetWindowTextA(handle(), windowing::productName().c_str());
-  for (const WPARAM size : {ICON_BIG, ICON_SMALL}) {
+  for (const int size : {ICON_BIG, ICON_SMALL}) {
     const bool big = size == ICON_BIG;
-    SendMessageA(handle(), WM_SETICON, size,
+    SendMessageA(handle(), WM_SETICON, static_cast<WPARAM>(size),
                  reinterpret_cast<LPARAM>(
                      LoadImageA(windowing::programInstance(), MAKEINTRESOURCEA(IDI_PROGRAM),
                                 IMAGE_ICON, GetSystemMetrics(big ? SM_CXICON : SM_CXSMICON),

@@ -387,10 +387,13 @@ void dispatchMessage(MSG& message) {
   DispatchMessageA(&message);
 }
 
-int runMessageLoop() {
+int runMessageLoop(const Form& main) {
   MSG message{};
-  while (GetMessageA(&message, nullptr, 0, 0) > 0) dispatchMessage(message);
-  return static_cast<int>(message.wParam);
+  while (main.loaded()) {
+    if (GetMessageA(&message, nullptr, 0, 0) <= 0) return static_cast<int>(message.wParam);
+    dispatchMessage(message);
+  }
+  return 0;
 }
 
 }  // namespace windowing

@@ -166,7 +166,7 @@ class Form : public Window {
 /// (Tab, access keys, Enter, Esc), then the window itself.
 void dispatchMessage(MSG& message);
 
-/// Runs the program until it is told to quit; returns the exit code.
-int runMessageLoop();
+/// Runs the program as long as its main form is loaded; returns the exit code.
+int runMessageLoop(const Form& main);
 
 }  // namespace windowing

@@ -59,7 +59,7 @@ ImageList::ImageList(std::span<const ImageStrip> strips) {
   }
   const BitmapHandle strip(loadPicture(programInstance(), resource, Alpha::straight));
   DIBSECTION section{};
-  if (!strip || GetObjectA(strip.get(), sizeof section, &section) != sizeof section ||
+  if (!strip || size_ == 0 || GetObjectA(strip.get(), sizeof section, &section) != sizeof section ||
       section.dsBm.bmBitsPixel != 32)
     return;
   const int pictures = section.dsBm.bmWidth / size_;

@@ -69,14 +69,16 @@ struct DecimalDigits {
 DecimalDigits decimalDigits(double value, int significant) {
   if (!std::isfinite(value)) raiseOverflow();
   char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.*e", significant - 1, std::fabs(value));
+  static_cast<void>(
+      std::snprintf(buffer, sizeof buffer, "%.*e", significant - 1, std::fabs(value)));
   DecimalDigits result;
   result.negative = value < 0;
   const char* at = buffer;
   for (; *at != 'e'; ++at)
     if (isDigit(*at)) result.digits += *at;
   // Read, not copied: C libraries disagree on how many digits an exponent has.
-  result.point = std::atoi(at + 1) + 1;
+  constexpr int decimal = 10;
+  result.point = static_cast<int>(std::strtol(at + 1, nullptr, decimal)) + 1;
   return result;
 }
 

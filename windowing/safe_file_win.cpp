@@ -122,7 +122,8 @@ std::string temporaryName(const std::string& path) {
     hash = (hash ^ letter) * 16777619U;
   }
   char text[16] = {};
-  std::snprintf(text, sizeof text, "~%07x.tmp", static_cast<unsigned>(hash >> 4));
+  static_cast<void>(
+      std::snprintf(text, sizeof text, "~%07x.tmp", static_cast<unsigned>(hash >> 4)));
   return path.substr(0, name) + text;
 }
 

@@ -171,8 +171,9 @@ TEST(ContactList, NameEntryIsNeverTrimmed) {
 
 TEST(ContactList, FullListTakesNoMore) {
   ContactList list;
-  while (list.append()) list.store(list.count() - 1, Slot::Surname, std::to_string(list.count()));
-  EXPECT_EQ(list.count(), 32767);
+  for (int i = 0; i < 32800 && list.append(); ++i)
+    list.store(i, Slot::Surname, std::to_string(i + 1));
+  ASSERT_EQ(list.count(), 32767);
   EXPECT_FALSE(list.append());
   EXPECT_EQ(list.count(), 32767);
   EXPECT_EQ(list.field(32766, Slot::Surname), "32767");

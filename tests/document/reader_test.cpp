@@ -27,7 +27,7 @@ std::string repeated(std::string_view text, std::size_t times) {
 std::string lines(int count, std::string_view prefix = "") {
   std::string text;
   for (int i = 1; i <= count; ++i)
-    text += "\"" + std::string(prefix) + std::to_string(i) + "\r\n, x\"\r\n";
+    text.append("\"").append(prefix).append(std::to_string(i)).append("\r\n, x\"\r\n");
   return text;
 }
 

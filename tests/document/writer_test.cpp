@@ -60,7 +60,7 @@ TEST(Writer, BytesOfTheFormat) {
 TEST(Writer, FileOrderAndEditedContacts) {
   ContactList list;
   std::string text;
-  for (int i = 1; i <= 56; ++i) text += "\"" + std::to_string(i) + "\"\r\n";
+  for (int i = 1; i <= 56; ++i) text.append("\"").append(std::to_string(i)).append("\"\r\n");
   ASSERT_EQ(read(text, list).contacts, 2);
   list.store(1, Slot::WorkEmail, "changed");  // position 23 of the second contact
   text.replace(text.find("\"51\"") + 1, 2, "changed");

@@ -1,0 +1,60 @@
+// The about box as its designer laid it out: places in twips, 15 to the pixel at 96 dots per
+// inch. Captions that a text takes the place of at run time tell the designer which it is.
+#pragma once
+
+#include "library/identifiers.h"
+#include "windowing/form_win.h"
+
+namespace dialogs::about_design {
+
+using windowing::ControlDesign;
+using windowing::ControlKind;
+namespace id = library::id::about;
+
+constexpr int formWidth = 6600;
+constexpr int formHeight = 5175;
+constexpr int titleHeight = 1200;
+constexpr int margin = 240;
+constexpr int textWidth = formWidth - 2 * margin;
+constexpr int valueLeft = 1500;  ///< what stands behind "Version:" and "Registered to:"
+constexpr int valueWidth = formWidth - margin - valueLeft;
+constexpr int line = 15;
+constexpr int lineHeight = 210;  ///< of a text of one line
+constexpr int logoWidth = 3000;  ///< the picture's own size
+constexpr int logoHeight = 900;
+constexpr int thanksHeight = 3 * lineHeight;
+constexpr int warningHeight = 5 * lineHeight;
+constexpr int buttonWidth = 1200;
+constexpr int buttonHeight = 375;
+
+// clang-format off
+constexpr ControlDesign controls[] = {
+  {"FRAMTITLE",      id::FRAMTITLE,      ControlKind::container,  "", 0, 0, formWidth, titleHeight},
+  {"LBLPROGRAMNAME", id::LBLPROGRAMNAME, ControlKind::plainLabel, "Title", margin, 330, 2850, 600, id::FRAMTITLE},
+  {"IMGLOGO",        id::IMGLOGO,        ControlKind::custom,     "", formWidth - logoWidth - 150, 150, logoWidth, logoHeight, id::FRAMTITLE},
+  {"IMGCURSOR",      id::IMGCURSOR,      ControlKind::custom,     "", 0, 0, 480, 480, id::FRAMTITLE},
+  {"LNTITLE1",       id::LNTITLE1,       ControlKind::label,      "", 0, titleHeight, formWidth, line},
+  {"LNTITLE2",       id::LNTITLE2,       ControlKind::label,      "", 0, titleHeight + line, formWidth, line},
+  {"LBLVERS",        id::LBLVERS,        ControlKind::label,      "Version:", margin, 1425, valueLeft - margin, lineHeight},
+  {"LBLVERSNO",      id::LBLVERSNO,      ControlKind::plainLabel, "Number", valueLeft, 1425, valueWidth, lineHeight},
+  {"LBLREGISTERED",  id::LBLREGISTERED,  ControlKind::label,      "Registered to:", margin, 1680, valueLeft - margin, lineHeight},
+  {"LBLREGNAME",     id::LBLREGNAME,     ControlKind::plainLabel, "Name", valueLeft, 1680, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
+  {"LBLREGCO",       id::LBLREGCO,       ControlKind::plainLabel, "Company", valueLeft, 1905, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
+  {"LBLWRITTEN",     id::LBLWRITTEN,     ControlKind::plainLabel, "Written By", margin, 2220, textWidth, lineHeight},
+  {"LBLCOPYRIGHT",   id::LBLCOPYRIGHT,   ControlKind::plainLabel, "Copyright", margin, 2445, textWidth, lineHeight},
+  {"LBLTHANKS",      id::LBLTHANKS,      ControlKind::plainLabel,
+   "This program contains the runtime library of the GNU C++ compiler, written by the Free Software "
+   "Foundation and its contributors and used under the GCC Runtime Library Exception, and start-up "
+   "code of the MinGW-w64 project.",
+   margin, 2775, textWidth, thanksHeight},
+  {"LBLWARNING",     id::LBLWARNING,     ControlKind::plainLabel, "", margin, 3510, textWidth, warningHeight},
+  {"TSEP2",          id::TSEP2,          ControlKind::custom,     "", 135, 4545, formWidth - 270, 2 * line},
+  {"BTNCLOSE",       id::BTNCLOSE,       ControlKind::defaultButton, "&Close", formWidth - 135 - buttonWidth, 4665, buttonWidth, buttonHeight},
+};
+// clang-format on
+
+constexpr windowing::FormDesign form{
+    "frmAbout", "About", WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, formWidth,
+    formHeight, controls};
+
+}  // namespace dialogs::about_design

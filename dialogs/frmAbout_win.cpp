@@ -1,0 +1,157 @@
+#include "dialogs/frmAbout_win.h"
+
+#include "controls/TXTSEP_win.h"
+#include "dialogs/frmAbout_design_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/maker_site.h"
+#include "library/placement.h"
+#include "library/resource_ids.h"
+#include "windowing/application_win.h"
+#include "windowing/container_win.h"
+#include "windowing/fonts_win.h"
+#include "windowing/handles_win.h"
+#include "windowing/screen_win.h"
+
+namespace dialogs {
+
+using library::LIBRARY;
+namespace id = library::id::about;
+
+namespace {
+
+// The two blanks after the first sentence are meant.
+constexpr char warning[] =
+    "Warning: This computer program is protected by copyright law and international treaties.  "
+    "Unauthorized reproduction or distribution of this program, or any portion of it, may result "
+    "in severe civil and criminal penalties, and will be prosecuted to the maximum extent possible "
+    "under law.";
+
+/// The logo's picture by the resolution it is drawn for.
+struct LogoPicture {
+  int dpi;
+  int resource;
+};
+constexpr LogoPicture logoPictures[] = {{96, IDB_LOGO96}, {144, IDB_LOGO144}, {192, IDB_LOGO192}};
+
+// The smallest picture that need not grow, or the largest.
+int logoResource() {
+  for (const LogoPicture& picture : logoPictures)
+    if (picture.dpi >= windowing::screenDpi()) return picture.resource;
+  return IDB_LOGO192;
+}
+
+std::string upperCase(std::string text) {
+  CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+  return text;
+}
+
+void centreOnScreen(windowing::Form& form) {
+  RECT place = form.outerPixels();
+  const windowing::Pixels screenWide{GetSystemMetrics(SM_CXSCREEN)};
+  const windowing::Pixels screenHigh{GetSystemMetrics(SM_CYSCREEN)};
+  const int left = library::centred(screenWide, {place.right - place.left}).value;
+  const int top = library::centred(screenHigh, {place.bottom - place.top}).value;
+  OffsetRect(&place, left - place.left, top - place.top);
+  form.moveOuter(place);
+}
+
+HWND createStatic(const windowing::ControlDesign& design, HWND container, const RECT& place,
+                  DWORD style) {
+  return CreateWindowExA(0, "STATIC", "", WS_CHILD | style, place.left, place.top,
+                         place.right - place.left, place.bottom - place.top, container,
+                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
+                         windowing::programInstance(), nullptr);
+}
+
+}  // namespace
+
+frmAbout::frmAbout() : Form(about_design::form) {}
+
+HWND frmAbout::createCustom(const windowing::ControlDesign& design, HWND container,
+                            const RECT& place) {
+  switch (design.id) {
+    case id::IMGLOGO:
+      return createStatic(design, container, place, WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY);
+    case id::IMGCURSOR: {
+      // Never shown: it only holds the pointer that the logo takes.
+      const HWND holder = createStatic(design, container, place, SS_ICON);
+      SendMessageA(holder, STM_SETIMAGE, IMAGE_CURSOR,
+                   reinterpret_cast<LPARAM>(LoadCursorA(nullptr, IDC_HAND)));
+      return holder;
+    }
+    case id::TSEP2:
+      return controls::TXTSEP::create(container, design.id, place).handle();
+    default:
+      return nullptr;
+  }
+}
+
+void frmAbout::onLoad() {
+  windowing::setSurface(control(id::FRAMTITLE).handle(), windowing::Surface::window);
+  control(id::LBLPROGRAMNAME).setFont(windowing::font("Times New Roman", 24, true));
+  centreOnScreen(*this);
+  setFirstFocus(control(id::BTNCLOSE));
+
+  control(id::LBLPROGRAMNAME).setText(upperCase(windowing::productName()));
+  control(id::LBLVERSNO).setText(LIBRARY().GETAPPNUMBER());
+  control(id::LBLREGNAME).setText(LIBRARY().GETCOMPANYNAME());
+  control(id::LBLREGCO).setText(LIBRARY().GETCOMPANYREG());
+  control(id::LBLCOPYRIGHT).setText(windowing::legalCopyright());
+  control(id::LBLWRITTEN).setText("Written and Developed by " + windowing::companyName());
+  logoPointer_ = reinterpret_cast<HCURSOR>(control(id::IMGCURSOR).send(STM_GETIMAGE, IMAGE_CURSOR));
+  control(id::LBLWARNING).setText(warning);
+}
+
+void frmAbout::onClick(int clicked) {
+  if (clicked == id::BTNCLOSE) unload();
+  if (clicked == id::IMGLOGO)
+    LIBRARY().INTERNETACCESS(std::to_string(reinterpret_cast<std::intptr_t>(handle())), "",
+                             library::makerSite);
+}
+
+// The two lines below the title make one edge: dark above light.
+HBRUSH frmAbout::onColour(HDC, int asked) {
+  if (asked == id::LNTITLE1) return GetSysColorBrush(COLOR_BTNSHADOW);
+  if (asked == id::LNTITLE2) return GetSysColorBrush(COLOR_BTNHIGHLIGHT);
+  return nullptr;
+}
+
+void frmAbout::drawLogo(HDC dc, const RECT& area) const {
+  const windowing::BitmapHandle picture(static_cast<HBITMAP>(
+      LoadImageA(windowing::programInstance(), MAKEINTRESOURCEA(logoResource()), IMAGE_BITMAP, 0, 0,
+                 LR_CREATEDIBSECTION)));
+  BITMAP facts{};
+  if (GetObjectA(picture.get(), sizeof facts, &facts) == 0) return;
+  const windowing::MemoryDc memory(CreateCompatibleDC(dc));
+  const windowing::Selected selected(memory.get(), picture.get());
+  SetStretchBltMode(dc, HALFTONE);
+  SetBrushOrgEx(dc, 0, 0, nullptr);
+  StretchBlt(dc, area.left, area.top, area.right - area.left, area.bottom - area.top, memory.get(),
+             0, 0, facts.bmWidth, facts.bmHeight, SRCCOPY);
+}
+
+LRESULT frmAbout::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      if (item.CtlID == id::IMGLOGO) drawLogo(item.hDC, item.rcItem);
+      return TRUE;
+    }
+    case WM_SETCURSOR:
+      if (reinterpret_cast<HWND>(wParam) != control(id::IMGLOGO).handle()) break;
+      SetCursor(logoPointer_);
+      return TRUE;
+    case WM_COMMAND:
+      // Pictures report clicks as buttons do, but are none.
+      if (wParam == MAKEWPARAM(id::IMGLOGO, STN_CLICKED)) {
+        onClick(id::IMGLOGO);
+        return 0;
+      }
+      break;
+    default:
+      break;
+  }
+  return Form::handleMessage(message, wParam, lParam);
+}
+
+}  // namespace dialogs

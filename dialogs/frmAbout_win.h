@@ -1,0 +1,29 @@
+// The about box: what the program is, whose copy it is and who wrote it.
+#pragma once
+
+#include "windowing/form_win.h"
+
+namespace dialogs {
+
+/// Shown modally. It opens in the middle of the screen each time; its place is not stored.
+class frmAbout : public windowing::Form {
+ public:
+  frmAbout();
+
+ protected:
+  void onLoad() override;
+  void onClick(int id) override;
+  void onEnter() override { unload(); }
+  void onEscape() override { unload(); }
+  HBRUSH onColour(HDC dc, int id) override;
+  HWND createCustom(const windowing::ControlDesign& design, HWND container,
+                    const RECT& place) override;
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void drawLogo(HDC dc, const RECT& area) const;
+
+  HCURSOR logoPointer_ = nullptr;
+};
+
+}  // namespace dialogs

@@ -1,0 +1,182 @@
+#include "tests/app/support/fixture_win.h"
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace drive {
+
+namespace id = library::id;
+
+namespace {
+
+const std::string settingsKey = "SOFTWARE\\Zandor Software Development";
+const std::string keptKey = "SOFTWARE\\Tellary tests, settings kept";
+
+bool hasKey(const std::string& key) {
+  HKEY opened = nullptr;
+  if (RegOpenKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+    return false;
+  RegCloseKey(opened);
+  return true;
+}
+
+void moveKey(const std::string& from, const std::string& to) {
+  HKEY made = nullptr;
+  if (!hasKey(from) || RegCreateKeyExA(HKEY_CURRENT_USER, to.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                                       nullptr, &made, nullptr) != ERROR_SUCCESS)
+    return;
+  if (RegCopyTreeA(HKEY_CURRENT_USER, from.c_str(), made) == ERROR_SUCCESS)
+    RegDeleteTreeA(HKEY_CURRENT_USER, from.c_str());
+  RegCloseKey(made);
+}
+
+// The settings of whoever runs the tests stay: they are put aside, and put back at the end.
+class KeptSettings : public testing::Environment {
+ public:
+  void SetUp() override {
+    if (!hasKey(keptKey)) moveKey(settingsKey, keptKey);
+  }
+  void TearDown() override {
+    RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey.c_str());
+    moveKey(keptKey, settingsKey);
+  }
+};
+[[maybe_unused]] const testing::Environment* const keptSettings =
+    testing::AddGlobalTestEnvironment(new KeptSettings);
+
+// Temporary folder with the letters that the disk has.
+std::string temporaryFolder() {
+  char brief[MAX_PATH] = {}, whole[MAX_PATH] = {};
+  GetTempPathA(MAX_PATH, brief);
+  GetLongPathNameA(brief, whole, MAX_PATH);
+  std::string folder = whole;
+  while (folder.ends_with('\\')) folder.pop_back();
+  return folder;
+}
+
+void removeFolder(const std::string& folder) {
+  WIN32_FIND_DATAA found{};
+  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
+  if (search != INVALID_HANDLE_VALUE) {
+    do {
+      const std::string name = found.cFileName;
+      if (name == "." || name == "..") continue;
+      const std::string file = folder + "\\" + name;
+      if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        removeFolder(file);
+      } else {
+        SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+        DeleteFileA(file.c_str());
+      }
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+  }
+  RemoveDirectoryA(folder.c_str());
+}
+
+}  // namespace
+
+std::optional<std::string> registryText(HKEY root, const std::string& key,
+                                        const std::string& value) {
+  char text[1024] = {};
+  DWORD size = sizeof text - 1, type = 0;
+  HKEY opened = nullptr;
+  if (RegOpenKeyExA(root, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return std::nullopt;
+  const LONG result =
+      RegQueryValueExA(opened, value.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
+  RegCloseKey(opened);
+  if (result != ERROR_SUCCESS || type != REG_SZ) return std::nullopt;
+  return std::string(text);
+}
+
+void AppTest::SetUp() {
+  RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey.c_str());
+  const std::string all = temporaryFolder() + "\\Tellary tests";
+  CreateDirectoryA(all.c_str(), nullptr);
+  folder_ = all + "\\" + testing::UnitTest::GetInstance()->current_test_info()->name();
+  removeFolder(folder_);
+  if (!CreateDirectoryA(folder_.c_str(), nullptr))
+    throw std::runtime_error("no scratch folder " + folder_);
+}
+
+void AppTest::TearDown() {
+  if (HasFailure() && program_ != nullptr && program_->running())
+    std::printf("The program's windows at the end:\n%s", program_->describe().c_str());
+  program_.reset();
+  if (!HasFailure()) removeFolder(folder_);
+}
+
+Program& AppTest::start(const std::string& tail, const std::string& exe) {
+  program_.reset();
+  program_ = std::make_unique<Program>(tail, exe);
+  return *program_;
+}
+
+Program& AppTest::startOn(const std::vector<Contact>& contacts) {
+  return start(write("list.tly", bytesOf(contacts)));
+}
+
+Program& AppTest::adopt(HWND window) {
+  program_.reset();
+  program_ = std::make_unique<Program>(window);
+  return *program_;
+}
+
+void AppTest::close() {
+  PostMessageA(program().window(), WM_CLOSE, 0, 0);
+  program().waitForEnd();
+}
+
+std::string AppTest::write(const std::string& name, const std::string& bytes) const {
+  const std::string file = path(name);
+  std::FILE* const stream = std::fopen(file.c_str(), "wb");
+  if (stream == nullptr) throw std::runtime_error("cannot write " + file);
+  std::fwrite(bytes.data(), 1, bytes.size(), stream);
+  std::fclose(stream);
+  return file;
+}
+
+std::optional<std::string> AppTest::read(const std::string& file) {
+  std::FILE* const stream = std::fopen(file.c_str(), "rb");
+  if (stream == nullptr) return std::nullopt;
+  std::fseek(stream, 0, SEEK_END);
+  std::string bytes(static_cast<std::size_t>(std::ftell(stream)), '\0');
+  std::fseek(stream, 0, SEEK_SET);
+  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), stream));
+  std::fclose(stream);
+  return bytes;
+}
+
+bool AppTest::exists(const std::string& file) {
+  return GetFileAttributesA(file.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void AppTest::expectShown(const Contact& contact) const {
+  for (std::size_t i = 0; i < contact.size(); ++i)
+    EXPECT_EQ(program().text(boxOf[i]), contact[i]) << "text " << i + 1 << " of the contact";
+}
+
+void AppTest::expectUntitled() const {
+  EXPECT_EQ(program().title(), "Tellary - (Untitled)");
+  EXPECT_EQ(program().status(), place(1, 1));
+  EXPECT_THAT(program().names(), testing::ElementsAre(" "));
+  EXPECT_EQ(program().chosenName(), 0);
+  EXPECT_FALSE(program().modified());
+  expectShown(Contact{});
+}
+
+std::optional<std::string> AppTest::setting(const std::string& section, const std::string& value) {
+  return registryText(HKEY_CURRENT_USER, settingsKey + "\\Tellary\\" + section, value);
+}
+
+void AppTest::storeSetting(const std::string& section, const std::string& value,
+                           const std::string& text) {
+  HKEY key = nullptr;
+  RegCreateKeyExA(HKEY_CURRENT_USER, (settingsKey + "\\Tellary\\" + section).c_str(), 0, nullptr, 0,
+                  KEY_ALL_ACCESS, nullptr, &key, nullptr);
+  RegSetValueExA(key, value.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                 static_cast<DWORD>(text.size() + 1));
+  RegCloseKey(key);
+}
+
+}  // namespace drive

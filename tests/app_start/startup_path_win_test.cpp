@@ -1,0 +1,54 @@
+#include "app/startup_path_win.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/scratch_folder_win.h"
+
+namespace app {
+namespace {
+
+using test_support::ScratchFolder;
+
+TEST(StartupPath, NamesTheDocumentAsTheDiskDoes) {
+  const ScratchFolder folder;
+  const std::string inner = folder.folder("My Papers");
+  const std::string file = folder.file("My Papers\\Anna's Book.tly");
+  const std::string twin = folder.file("My Papers\\No Extension");
+  char old[MAX_PATH] = {};
+  GetCurrentDirectoryA(sizeof old, old);
+  SetCurrentDirectoryA(folder.path().c_str());
+  std::string capitals = file;
+  CharUpperA(capitals.data());
+  const std::pair<std::string, std::string> rows[] = {
+      {file, file},
+      {capitals, file},
+      {"MY PAPERS\\ANNA'S BOOK.TLY", file},
+      {"my papers\\..\\my papers\\anna's book.tly", file},
+      {"MY PAPERS\\NO EXTENSION", twin},
+      {"MY PAPERS\\Not There.TLY", inner + "\\Not There.TLY"},
+      {"New Folder\\a.tly", folder / "New Folder\\a.tly"},
+      {"-x", folder / "-x"},
+      {"MY PAPERS\\*.tly", inner + "\\*.tly"},
+      {"MY PAPERS\\Anna?s Book.tly", inner + "\\Anna?s Book.tly"},
+      {"my*\\a.tly", folder / "my*\\a.tly"},
+      {"MY PAPERS\\", inner + "\\"},
+      {"my papers", inner},
+      {"C:\\", "C:\\"},
+  };
+  for (const auto& [tail, expected] : rows) EXPECT_EQ(documentPathOf(tail), expected) << tail;
+  SetCurrentDirectoryA(old);
+}
+
+TEST(StartupPath, PathsTooLongStayNamed) {
+  for (const std::size_t length :
+       {std::size_t{3}, std::size_t{259}, std::size_t{260}, std::size_t{261}, std::size_t{32767}}) {
+    const std::string path = "C:\\" + std::string(length - 3, 'x');
+    EXPECT_EQ(documentPathOf(path), path) << length;
+  }
+  EXPECT_NO_THROW((void)documentPathOf("\"C:\\quoted.tly\""));
+  EXPECT_NO_THROW((void)documentPathOf("NUL"));
+  EXPECT_NO_THROW((void)documentPathOf("\\\\"));
+}
+
+}  // namespace
+}  // namespace app

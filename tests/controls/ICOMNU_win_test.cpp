@@ -1,0 +1,264 @@
+#include "controls/ICOMNU_win.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "controls/menu_drawing_win.h"
+#include "library/images.h"
+#include "library/resource_ids.h"
+#include "windowing/form_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/screen_win.h"
+
+using namespace controls;
+using windowing::MemoryDc;
+
+namespace {
+
+constexpr windowing::ImageStrip strips[] = {{16, IDB_TOOLBAR16}};
+constexpr windowing::FormDesign design = {"frmTest", "Test", WS_OVERLAPPEDWINDOW, 0, 3000,
+                                          2000,      {}};
+enum Number { file = 1, open, save, line, zoom, wide, narrow, view, bar };
+
+class MenuForm : public windowing::Form {
+ public:
+  MenuForm() : Form(design) {
+    menus.onHighlight = [this](int number) { highlights.push_back(number); };
+    menus.onSystemHighlight = [this](std::uint32_t code) { systemHighlights.push_back(code); };
+    menus.setImages(images);
+    load();
+  }
+  void build() {
+    menus.AddItem(file, 0, "&File", true, false, 0, false, true);
+    menus.AddItem(open, file, "&Open...\tCtrl+O", true, false, 401, false, false);
+    menus.AddItem(save, file, "&Save", false, false, 402, false, false);
+    menus.AddItem(line, file, "", true, false, 0, true, false);
+    menus.AddItem(zoom, file, "&Zoom", true, false, 0, false, false);
+    menus.AddItem(wide, zoom, "&Page Width", true, true, 403, false, false);
+    menus.AddItem(narrow, zoom, "25 %", true, false, 404, false, false);
+    menus.AddItem(view, 0, "&View", true, false, 0, false, true);
+    menus.AddItem(bar, view, "S&tatus Bar", true, true, 405, false, false);
+    menus.ItemIcon(open, library::imageIndex("OPEN"));
+  }
+  HMENU createMenu() override {
+    build();
+    return menus.bar();
+  }
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    LRESULT result = 0;
+    if (menus.handleMessage(handle(), message, wParam, lParam, result)) return result;
+    return Form::handleMessage(message, wParam, lParam);
+  }
+  LRESULT select(HMENU menu, int item, UINT flags) {
+    return SendMessageA(handle(), WM_MENUSELECT, MAKEWPARAM(item, flags),
+                        reinterpret_cast<LPARAM>(menu));
+  }
+  LRESULT press(HMENU menu, char key) {
+    return SendMessageA(handle(), WM_MENUCHAR, MAKEWPARAM(static_cast<BYTE>(key), MF_POPUP),
+                        reinterpret_cast<LPARAM>(menu));
+  }
+
+  windowing::ImageList images{strips};
+  ICOMNU menus;
+  std::vector<int> highlights;
+  std::vector<std::uint32_t> systemHighlights;
+};
+
+MENUITEMINFOA infoAt(HMENU menu, UINT position) {
+  MENUITEMINFOA info{};
+  info.cbSize = sizeof info;
+  info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_DATA;
+  GetMenuItemInfoA(menu, position, TRUE, &info);
+  return info;
+}
+
+TEST(IcoMnu, BuildsRealMenus) {
+  MenuForm form;
+  const HMENU top = GetMenu(form.handle());
+  ASSERT_EQ(GetMenuItemCount(top), 2);
+  EXPECT_EQ(infoAt(top, 0).fType & MFT_OWNERDRAW, 0u) << "the bar is the system's";
+  char text[32] = {};
+  GetMenuStringA(top, 1, text, sizeof text, MF_BYPOSITION);
+  EXPECT_STREQ(text, "&View");
+
+  const HMENU popup = GetSubMenu(top, 0);
+  EXPECT_EQ(popup, form.menus.popup(file));
+  ASSERT_EQ(GetMenuItemCount(popup), 4);
+  EXPECT_NE(infoAt(popup, 0).fType & MFT_OWNERDRAW, 0u);
+  EXPECT_EQ(infoAt(popup, 0).wID, 401u);
+  EXPECT_NE(infoAt(popup, 1).fState & MFS_GRAYED, 0u);
+  EXPECT_NE(infoAt(popup, 2).fType & MFT_SEPARATOR, 0u);
+  EXPECT_EQ(infoAt(popup, 3).hSubMenu, form.menus.popup(zoom));
+  EXPECT_NE(infoAt(form.menus.popup(zoom), 0).fState & MFS_CHECKED, 0u);
+
+  // What screen readers look for.
+  const auto* spoken = reinterpret_cast<const MSAAMENUINFO*>(infoAt(popup, 0).dwItemData);
+  EXPECT_EQ(spoken->dwMSAASignature, static_cast<DWORD>(MSAA_MENU_SIG));
+  EXPECT_STREQ(spoken->pszWText, L"Open... Ctrl+O");
+}
+
+TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
+  MenuForm form;
+  ICOMNU& menus = form.menus;
+  menus.setEnabled(save, true);
+  menus.setChecked(bar, false);
+  EXPECT_EQ(infoAt(menus.popup(view), 0).fState & MFS_CHECKED, 0u);
+  menus.clear();
+  EXPECT_EQ(GetMenuItemCount(menus.bar()), 0);
+  for (int i = 0; i < 2; ++i) {
+    form.build();
+    EXPECT_EQ(GetMenuItemCount(menus.bar()), 2);
+    EXPECT_EQ(GetMenuItemCount(menus.popup(file)), 4);
+    EXPECT_TRUE(menus.isEnabled(save));
+    EXPECT_FALSE(menus.isChecked(bar));
+    EXPECT_EQ(infoAt(menus.popup(file), 1).fState & MFS_GRAYED, 0u);
+  }
+  EXPECT_EQ(GetMenu(form.handle()), menus.bar());
+}
+
+TEST(IcoMnu, IsReadAndChangedByNumber) {
+  MenuForm form;
+  ICOMNU& menus = form.menus;
+  menus.CAPTION(open, "&Open");
+  EXPECT_EQ(menus.CAPTION(open), "&Open");
+  EXPECT_EQ(menus.ItemIcon(open), library::imageIndex("OPEN"));
+  EXPECT_EQ(menus.ItemIcon(save), -1);
+  EXPECT_EQ(menus.numberOf(402), save);
+  EXPECT_EQ(menus.numberOf(999), 0);
+  EXPECT_EQ(menus.numberWithIcon(library::imageIndex("OPEN")), open);
+  EXPECT_EQ(menus.numberWithIcon(-1), 0);
+  EXPECT_THROW((void)menus.CAPTION(99), windowing::RuntimeError);
+  EXPECT_THROW(menus.ItemIcon(99, 0), windowing::RuntimeError);
+  EXPECT_THROW(menus.AddItem(50, 99, "x", true, false, 0, false, false), windowing::RuntimeError);
+  EXPECT_THROW((void)menus.CAPTION(50), windowing::RuntimeError) << "half added";
+}
+
+TEST(IcoMnu, HighlightsCarryNumbers) {
+  MenuForm form;
+  const HMENU popup = form.menus.popup(file);
+  form.select(form.menus.bar(), 0, MF_POPUP | MF_HILITE);
+  form.select(popup, 401, MF_HILITE | MF_OWNERDRAW);
+  form.select(popup, 402, MF_HILITE | MF_GRAYED | MF_OWNERDRAW);
+  form.select(popup, 0, MF_SEPARATOR | MF_OWNERDRAW);
+  form.select(popup, 3, MF_POPUP | MF_HILITE | MF_OWNERDRAW);
+  form.select(nullptr, 0, 0xFFFF);
+  EXPECT_EQ(form.highlights, (std::vector<int>{0, open, save, 0, zoom, 0}));
+
+  form.select(GetSystemMenu(form.handle(), FALSE), SC_CLOSE, MF_SYSMENU | MF_HILITE);
+  EXPECT_EQ(form.systemHighlights, (std::vector<std::uint32_t>{61536}));
+  EXPECT_EQ(form.highlights.size(), 6u);
+}
+
+TEST(IcoMnu, KeysRunItemsOfOpenMenus) {
+  MenuForm form;
+  const HMENU popup = form.menus.popup(file);
+  EXPECT_EQ(form.press(popup, 'o'), MAKELRESULT(0, MNC_EXECUTE));
+  EXPECT_EQ(form.press(popup, 's'), MAKELRESULT(1, MNC_SELECT)) << "not available";
+  EXPECT_EQ(form.press(popup, 'Z'), MAKELRESULT(3, MNC_EXECUTE));
+  EXPECT_EQ(form.press(form.menus.popup(zoom), '2'), MAKELRESULT(1, MNC_EXECUTE));
+  EXPECT_EQ(HIWORD(form.press(popup, 'q')), MNC_IGNORE);
+  EXPECT_EQ(HIWORD(form.press(form.menus.bar(), 'f')), MNC_IGNORE) << "the system's own";
+}
+
+TEST(IcoMnu, MeasuresItsItems) {
+  MenuForm form;
+  const HMENU popup = form.menus.popup(file);
+  const auto measured = [&](UINT position) {
+    MEASUREITEMSTRUCT item{};
+    item.CtlType = ODT_MENU;
+    item.itemData = infoAt(popup, position).dwItemData;
+    SendMessageA(form.handle(), WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
+    return SIZE{static_cast<LONG>(item.itemWidth), static_cast<LONG>(item.itemHeight)};
+  };
+  EXPECT_GT(measured(0).cx, measured(1).cx) << "a shortcut takes room";
+  EXPECT_GE(measured(1).cy, form.images.size() + 4);
+  EXPECT_GT(measured(2).cy, 2);
+  EXPECT_LT(measured(2).cy, measured(1).cy / 2);
+
+  MEASUREITEMSTRUCT foreign{};
+  foreign.CtlType = ODT_MENU;
+  foreign.itemData = 12345;
+  LRESULT result = 0;
+  EXPECT_FALSE(form.menus.handleMessage(form.handle(), WM_MEASUREITEM, 0,
+                                        reinterpret_cast<LPARAM>(&foreign), result));
+}
+
+TEST(IcoMnu, LivesOnWhenItsFormIsLoadedAgain) {
+  MenuForm form;
+  form.menus.setEnabled(save, true);
+  ASSERT_TRUE(form.unload());
+  form.load();
+  EXPECT_EQ(GetMenuItemCount(GetMenu(form.handle())), 2);
+  EXPECT_FALSE(form.menus.isEnabled(save)) << "a new form starts anew";
+}
+
+/// One item painted into memory.
+class Painted {
+ public:
+  Painted(const MenuItemLook& look, UINT state, const windowing::ImageList& images)
+      : size_(menuItemSize(look, &images)) {
+    const windowing::WindowDc screen(nullptr);
+    const MemoryDc dc(CreateCompatibleDC(screen.get()));
+    const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(
+        screen.get(), static_cast<int>(size_.cx), static_cast<int>(size_.cy)));
+    const windowing::Selected chosen(dc.get(), bitmap.get());
+    drawMenuItem(dc.get(), {0, 0, size_.cx, size_.cy}, look, state, &images);
+    for (int y = 0; y < size_.cy; ++y)
+      for (int x = 0; x < size_.cx; ++x) pixels_.push_back(GetPixel(dc.get(), x, y));
+  }
+  /// Pixels in the columns from `left` to before `right` that do not show `ground`.
+  [[nodiscard]] int marks(LONG left, LONG right, COLORREF ground) const {
+    int count = 0;
+    for (LONG y = 0; y < size_.cy; ++y)
+      for (LONG x = left; x < right; ++x)
+        if (pixels_[static_cast<std::size_t>(y * size_.cx + x)] != ground) ++count;
+    return count;
+  }
+  [[nodiscard]] LONG width() const { return size_.cx; }
+  friend bool operator==(const Painted& a, const Painted& b) { return a.pixels_ == b.pixels_; }
+  friend bool operator!=(const Painted& a, const Painted& b) { return !(a == b); }
+
+ private:
+  SIZE size_;
+  std::vector<COLORREF> pixels_;
+};
+
+TEST(MenuDrawing, ShowsPictureCheckMarkShortcutAndArrow) {
+  const windowing::ImageList images(strips);
+  const COLORREF ground = GetSysColor(COLOR_MENU);
+  const LONG column = windowing::scaled(24);
+  const int picture = library::imageIndex("OPEN");
+  const MenuItemLook plain{"&Open"};
+  const MenuItemLook pictured{"&Open", false, false, picture};
+
+  const Painted none(plain, 0, images);
+  EXPECT_EQ(none.marks(0, column, ground), 0);
+  EXPECT_GT(none.marks(column, none.width(), ground), 20) << "words";
+  EXPECT_GT(Painted(pictured, 0, images).marks(0, column, ground), 60) << "picture";
+  EXPECT_GT(Painted(plain, ODS_CHECKED, images).marks(0, column, ground), 10) << "check mark";
+  EXPECT_NE(Painted(pictured, ODS_CHECKED, images), Painted(pictured, 0, images)) << "box";
+
+  const Painted arrow({"&Open", false, true, -1}, 0, images);
+  EXPECT_NE(arrow, none);
+  EXPECT_GT(arrow.marks(arrow.width() - windowing::scaled(20), arrow.width(), ground), 8);
+  const Painted shortcut({"&Open\tCtrl+O", false, false, -1}, 0, images);
+  EXPECT_GT(shortcut.marks(none.width() + windowing::scaled(2), shortcut.width(), ground), 20);
+  EXPECT_GT(Painted({"", true, false, -1}, 0, images).width(), 0);
+}
+
+TEST(MenuDrawing, StatesLookDifferent) {
+  const windowing::ImageList images(strips);
+  MenuItemLook look{"&Open", false, false, library::imageIndex("OPEN")};
+  constexpr UINT noAccessKeys = 0x0100;
+  const UINT states[] = {0,           ODS_SELECTED, ODS_GRAYED, ODS_GRAYED | ODS_SELECTED,
+                         ODS_CHECKED, noAccessKeys};
+  for (const int image : {look.image, -1}) {
+    look.image = image;
+    for (const UINT a : states)
+      for (const UINT b : states)
+        EXPECT_EQ(Painted(look, a, images) == Painted(look, b, images), a == b) << a << ' ' << b;
+  }
+}
+
+}  // namespace

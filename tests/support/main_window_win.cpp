@@ -1,0 +1,110 @@
+#include "tests/support/main_window_win.h"
+
+#include "controls/ICOMNU_win.h"
+#include "library/identifiers.h"
+
+namespace test_support {
+
+namespace id = library::id;
+
+MainWindowTest::MainWindowTest() {
+  windowing::Seams& seams = windowing::seams();
+  seams.messageBox = [this](HWND, const std::string& text, const std::string& title, UINT flags) {
+    boxes.push_back({text, title, flags});
+    if (answers.empty()) return (flags & MB_TYPEMASK) == MB_OK ? IDOK : IDNO;
+    const int answer = answers.front();
+    answers.pop_front();
+    return answer;
+  };
+  seams.fileDialog = [this](HWND, const windowing::FileDialog& dialog) {
+    dialogs.push_back(dialog);
+    if (files.empty()) return std::optional<std::string>();
+    const std::optional<std::string> answer = files.front();
+    files.pop_front();
+    return answer;
+  };
+  seams.shellOpen = [this](HWND, const std::string&, const std::string& file, const std::string&) {
+    opened.push_back(file);
+  };
+  form.load();
+}
+
+MainWindowTest::~MainWindowTest() {
+  if (form.loaded()) form.SETSAVE("False");
+  form.unload();
+  const std::function<HKEY(HKEY)> root = windowing::seams().settingsRoot;
+  windowing::seams() = real_;
+  windowing::seams().settingsRoot = root;
+}
+
+void MainWindowTest::notice(int box, int code) {
+  SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(box, code),
+               reinterpret_cast<LPARAM>(form.control(box).handle()));
+}
+
+std::string MainWindowTest::status() const {
+  return windowing::StatusBar(form.control(id::SBMAIN).handle()).panel();
+}
+
+Names MainWindowTest::names() const {
+  const windowing::ComboBox box(form.control(id::CBOTBARBOX).handle());
+  Names all;
+  for (int i = 0; i < box.count(); ++i) all.push_back(box.entry(i));
+  return all;
+}
+
+int MainWindowTest::selectedName() const {
+  return windowing::ComboBox(form.control(id::CBOTBARBOX).handle()).selected();
+}
+
+void MainWindowTest::choose(int index) {
+  windowing::ComboBox(form.control(id::CBOTBARBOX).handle()).select(index);
+  notice(id::CBOTBARBOX, CBN_SELCHANGE);
+}
+
+bool MainWindowTest::enabled(int command) const {
+  return const_cast<mainwindow::frmMain&>(form).iconMenus().isEnabled(command);
+}
+
+void MainWindowTest::open(const std::string& path) {
+  form.SETSAVE("False");
+  files.push_back(path);
+  run(id::OPEN);
+}
+
+std::string MainWindowTest::fileOf(const std::vector<std::vector<std::string>>& contacts) {
+  std::string bytes;
+  for (const std::vector<std::string>& contact : contacts)
+    for (const std::string& field : contact) bytes += '"' + field + "\"\r\n";
+  return bytes;
+}
+
+std::string MainWindowTest::fileOfContacts(int count) {
+  std::string empty;
+  for (int i = 1; i < 28; ++i) empty += "\"\"\r\n";
+  std::string bytes;
+  for (int i = 0; i < count; ++i) bytes += "\"Name" + std::to_string(i) + "\"\r\n" + empty;
+  return bytes;
+}
+
+std::string MainWindowTest::contactsFile(const std::vector<std::string>& surnames) {
+  std::vector<std::vector<std::string>> contacts;
+  for (const std::string& surname : surnames) {
+    contacts.emplace_back(28);
+    contacts.back()[0] = surname;
+  }
+  return scratch.file("contacts" + std::to_string(++files_) + ".tly", fileOf(contacts));
+}
+
+std::string MainWindowTest::contentOf(const std::string& path) {
+  const windowing::FileHandle file(
+      CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+  if (!file) return "(no file)";
+  std::string bytes(GetFileSize(file.get(), nullptr), '\0');
+  DWORD done = 0;
+  ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr);
+  bytes.resize(done);
+  return bytes;
+}
+
+}  // namespace test_support

@@ -1,0 +1,77 @@
+// A scratch folder of a test; it vanishes with all it holds.
+#pragma once
+
+#include <windows.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "windowing/handles_win.h"
+
+namespace test_support {
+
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    char temp[MAX_PATH] = {};
+    GetTempPathA(sizeof temp, temp);
+    char full[MAX_PATH] = {};
+    GetLongPathNameA(temp, full, sizeof full);
+    // A run that was killed may have left its folder behind.
+    for (int number = 1; number < 1000; ++number) {
+      path_ = std::string(full) + "tellary test " + std::to_string(GetCurrentProcessId()) + " " +
+              std::to_string(number);
+      if (CreateDirectoryA(path_.c_str(), nullptr)) return;
+    }
+    throw std::runtime_error("no scratch folder");
+  }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ~ScratchFolder() { removeTree(path_); }
+
+  /// Full path, without a final backslash; its last part holds blanks.
+  [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] std::string operator/(const std::string& name) const { return path_ + "\\" + name; }
+
+  std::string folder(const std::string& name) const {
+    if (!CreateDirectoryA((*this / name).c_str(), nullptr))
+      throw std::runtime_error("no folder " + name);
+    return *this / name;
+  }
+  std::string file(const std::string& name, const std::string& bytes = {}) const {
+    const windowing::FileHandle file(CreateFileA((*this / name).c_str(), GENERIC_WRITE, 0, nullptr,
+                                                 CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    DWORD written = 0;
+    if (!file ||
+        !WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
+      throw std::runtime_error("no file " + name);
+    return *this / name;
+  }
+
+  [[nodiscard]] static bool exists(const std::string& path) {
+    return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+  }
+
+ private:
+  static void removeTree(const std::string& folder) {
+    WIN32_FIND_DATAA found{};
+    {
+      const windowing::FindHandle search(FindFirstFileA((folder + "\\*").c_str(), &found));
+      if (search) do {
+          const std::string name = found.cFileName;
+          if (name == "." || name == "..") continue;
+          const std::string path = folder + "\\" + name;
+          SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+          if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+            removeTree(path);
+          else
+            DeleteFileA(path.c_str());
+        } while (FindNextFileA(search.get(), &found));
+    }
+    RemoveDirectoryA(folder.c_str());
+  }
+
+  std::string path_;
+};
+
+}  // namespace test_support
