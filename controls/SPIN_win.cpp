@@ -190,6 +190,12 @@ void NumberInBox::turnWheel(WPARAM wParam) {
 
 LRESULT NumberInBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_PAINT: {
+      // Windows of this class paint over their children, whatever their style says.
+      const RECT covered = windowing::Control(arrows_).pixels();
+      ValidateRect(window(), &covered);
+      break;
+    }
     case WM_CHAR:
       if (!filterCharacter(wParam)) return 0;
       break;

@@ -223,6 +223,8 @@ bool ButtonOfBox::handleKey(UINT message, WPARAM wParam, LPARAM lParam) {
   constexpr WPARAM charOfCtrlEnter = '\n';
   if (message == WM_CHAR) return wParam == charOfCtrlEnter;
   if (!isPressingKey(message, wParam)) return false;
+  // Windows has to see that Alt was not pressed alone, or its release opens the menu bar.
+  if (message == WM_SYSKEYDOWN) standard(message, wParam, lParam);
   // A held key opens the link once.
   if ((lParam & repeatedKey) == 0 && enabled()) notify(window(), TXTBTN::clicked);
   return true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "library/path_utilities.h"
 #include "windowing/handles_win.h"
@@ -9,7 +10,19 @@
 
 namespace mainwindow {
 
-document::Bytes readFile(const std::string& path, windowing::FileCalls& calls) {
+namespace {
+
+// Asks nothing of the file but who it is, so that it may be held open by others.
+bool identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& facts) {
+  const windowing::FileHandle file(
+      CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file && GetFileInformationByHandle(file.get(), &facts) != FALSE;
+}
+
+}  // namespace
+
+FileContent readFile(const std::string& path, windowing::FileCalls& calls) {
   const windowing::FileHandle file(calls.open(path, GENERIC_READ, OPEN_EXISTING));
   if (!file) windowing::raiseLastError();
   // A device would be read for ever.
@@ -27,8 +40,19 @@ document::Bytes readFile(const std::string& path, windowing::FileCalls& calls) {
     if (done == 0) break;  // the file grew shorter meanwhile
     at += done;
   }
+  const bool whole = at == bytes.size();
   bytes.shrink(at);
-  return bytes;
+  return {std::move(bytes), whole};
+}
+
+bool sameFile(const std::string& one, const std::string& other) {
+  if (lstrcmpiA(one.c_str(), other.c_str()) == 0) return true;
+  BY_HANDLE_FILE_INFORMATION first{};
+  BY_HANDLE_FILE_INFORMATION second{};
+  return identify(one, first) && identify(other, second) &&
+         first.dwVolumeSerialNumber == second.dwVolumeSerialNumber &&
+         first.nFileIndexHigh == second.nFileIndexHigh &&
+         first.nFileIndexLow == second.nFileIndexLow;
 }
 
 std::string fileNameOf(const std::string& path) {

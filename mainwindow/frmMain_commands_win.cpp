@@ -113,6 +113,8 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoLast);
     case id::WEBSITE:
       return openMakerSite();
+    case id::PROPERTIES:
+      return showProperties();
     case id::ABOUT:
       return dialogs::frmAbout().showModal();
     default:

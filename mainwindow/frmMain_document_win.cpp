@@ -41,10 +41,6 @@ constexpr int problemSaving = 10;
 constexpr char openFolderValue[] = "CMD Open Folder";
 constexpr char saveFolderValue[] = "CMD Save Folder";
 
-bool sameFile(const std::string& one, const std::string& other) {
-  return lstrcmpiA(one.c_str(), other.c_str()) == 0;
-}
-
 }  // namespace
 
 void frmMain::FILELOAD(const std::string& path) {
@@ -53,8 +49,9 @@ void frmMain::FILELOAD(const std::string& path) {
   std::exception_ptr failure;
   readWhole_ = false;
   try {
-    const document::ReadOutcome outcome = document::read(readFile(path, *fileCalls_), list_);
-    readWhole_ = outcome.result == document::ReadResult::whole;
+    FileContent content = readFile(path, *fileCalls_);
+    const document::ReadOutcome outcome = document::read(std::move(content.bytes), list_);
+    readWhole_ = content.whole && outcome.result == document::ReadResult::whole;
     if (outcome.result == document::ReadResult::overflow) windowing::raiseOverflow();
     if (!readWhole_) throw RuntimeError(ErrorNumber::inputPastEnd, "Input past end of file");
   } catch (const RuntimeError& error) {
@@ -189,7 +186,7 @@ bool frmMain::saveTo(const std::string& path) {
   try {
     FILESAVEAS(path);
     return true;
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {  // too little memory is no better reason
     LIBRARY().MESSAGEBOX(problemSaving, path, "", "", "");
     return false;
   }

@@ -113,6 +113,11 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] std::string rememberedFolder(const char* value) const;
   void rememberFolder(const char* value, const std::string& file);
 
+  // Dialogs (frmMain_dialogs_win.cpp).
+  /// The 28 texts as they stand in the boxes, edits included.
+  [[nodiscard]] document::ContactRecord valuesOnScreen() const;
+  void showProperties();
+
   // Commands, bars and layout (frmMain_commands_win.cpp, frmMain_layout_win.cpp).
   void RefreshCommands();
   void setCommandEnabled(int id, bool enabled);

@@ -1,8 +1,8 @@
 #include "windowing/safe_file_win.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <vector>
 
 #include "windowing/runtime_error.h"
 #include "windowing/system_error_win.h"
@@ -21,18 +21,18 @@ class Output {
   }
 
   void write(std::string_view data) {
-    while (!data.empty()) {
-      const auto size = static_cast<DWORD>(data.size());
-      DWORD done = 0;
-      if (!calls_.write(file_, data.data(), size, done)) raiseLastError();
-      // A full disk may report success and a short count.
-      if (done != size) throw systemError(ERROR_DISK_FULL);
-      data.remove_prefix(done);
-    }
+    const auto size = static_cast<DWORD>(data.size());
+    DWORD done = 0;
+    if (size != 0 && !calls_.write(file_, data.data(), size, done)) raiseLastError();
+    // A full disk may report success and a short count.
+    if (done != size) throw systemError(ERROR_DISK_FULL);
   }
 
-  void finish() {
+  void flush() {
     if (!calls_.flush(file_)) raiseLastError();
+  }
+
+  void close() {
     const HANDLE file = file_;
     file_ = INVALID_HANDLE_VALUE;
     if (!calls_.close(file)) raiseLastError();
@@ -79,30 +79,48 @@ std::string readAll(HANDLE file, FileCalls& calls) {
   return content;
 }
 
-void overwrite(Output& output, FileCalls& calls,
-               const std::function<void(const FileSink&)>& produce) {
+void overwrite(Output& output, FileCalls& calls, const std::string& content, std::size_t length) {
   if (!calls.rewind(output.handle())) raiseLastError();
-  produce([&](std::string_view piece) { output.write(piece); });
-  if (!calls.truncate(output.handle())) raiseLastError();
+  output.write(content);
+  if (content.size() < length && !calls.truncate(output.handle())) raiseLastError();
+  output.flush();
 }
 
-// The old content waits in memory and goes back where the new one cannot be written.
+// The new content is complete before the file is touched, and goes out in one call; the old one
+// waits in memory and goes back where that fails.
 void writeInPlace(const std::string& path, const std::function<void(const FileSink&)>& produce,
                   FileCalls& calls) {
+  std::string content;
+  produce([&](std::string_view piece) { content += piece; });
   const HANDLE file = calls.open(path, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING);
   if (file == INVALID_HANDLE_VALUE) raiseLastError();
   Output output(file, calls);
   const std::string old = readAll(file, calls);
   try {
-    overwrite(output, calls, produce);
-    output.finish();
+    overwrite(output, calls, content, old.size());
   } catch (...) {
-    if (output.handle() != INVALID_HANDLE_VALUE) {
-      overwrite(output, calls, [&](const FileSink& sink) { sink(old); });
-      output.finish();
-    }
+    overwrite(output, calls, old, std::string::npos);
     throw;
   }
+}
+
+// A temporary file that a crash left behind may be hidden, as its document is; Windows refuses
+// to write such a file anew.
+HANDLE openTemporary(const std::string& temporary, FileCalls& calls) {
+  const HANDLE file = calls.open(temporary, GENERIC_WRITE, CREATE_ALWAYS);
+  if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_ACCESS_DENIED) return file;
+  if (calls.setAttributes(temporary, FILE_ATTRIBUTE_NORMAL))
+    return calls.open(temporary, GENERIC_WRITE, CREATE_ALWAYS);
+  SetLastError(ERROR_ACCESS_DENIED);
+  return INVALID_HANDLE_VALUE;
+}
+
+// What one may set of `attributes`; the others say how a file is stored.
+DWORD settable(DWORD attributes) {
+  constexpr DWORD mask = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+                         FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+  const DWORD wanted = attributes & mask;
+  return wanted == 0 ? FILE_ATTRIBUTE_NORMAL : wanted;
 }
 
 bool isDirectory(DWORD attributes) {
@@ -112,19 +130,24 @@ bool isDirectory(DWORD attributes) {
 }  // namespace
 
 std::string temporaryName(const std::string& path) {
-  const std::size_t slash = path.find_last_of('\\');
-  const std::size_t name = slash == std::string::npos ? 0 : slash + 1;
+  // In full, for "C:name" and "folder/name" too have to lead to the folder of the document.
+  std::vector<char> full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr) + 1);
+  char* name = nullptr;
+  const DWORD length =
+      GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), &name);
+  if (length == 0 || length >= full.size()) raiseLastError();
+  if (name == nullptr) throw systemError(ERROR_ACCESS_DENIED);  // a folder
   // Short, so that the longest path there can be still takes it; different for every name.
   std::uint32_t hash = 2166136261U;
-  for (std::size_t i = name; i < path.size(); ++i) {
-    const auto letter = static_cast<std::uint32_t>(
-        static_cast<unsigned char>(path[i] >= 'A' && path[i] <= 'Z' ? path[i] + 32 : path[i]));
+  for (const char* at = name; *at != '\0'; ++at) {
+    const auto letter =
+        static_cast<unsigned char>(*at >= 'A' && *at <= 'Z' ? *at + ('a' - 'A') : *at);
     hash = (hash ^ letter) * 16777619U;
   }
   char text[16] = {};
   static_cast<void>(
       std::snprintf(text, sizeof text, "~%07x.tmp", static_cast<unsigned>(hash >> 4)));
-  return path.substr(0, name) + text;
+  return std::string(full.data(), name) + text;
 }
 
 void replaceFile(const std::string& path, const std::function<void(const FileSink&)>& produce,
@@ -140,7 +163,7 @@ void replaceFile(const std::string& path, const std::function<void(const FileSin
     throw systemError(ERROR_ACCESS_DENIED);
 
   const std::string temporary = temporaryName(path);
-  const HANDLE file = calls.open(temporary, GENERIC_WRITE, CREATE_ALWAYS);
+  const HANDLE file = openTemporary(temporary, calls);
   if (file == INVALID_HANDLE_VALUE) {
     if (!exists || GetLastError() != ERROR_ACCESS_DENIED) raiseLastError();
     writeInPlace(path, produce, calls);
@@ -149,11 +172,12 @@ void replaceFile(const std::string& path, const std::function<void(const FileSin
   Temporary undo(temporary, calls);
   Output output(file, calls);
   produce([&](std::string_view piece) { output.write(piece); });
-  output.finish();
+  output.flush();
+  output.close();
   if (exists) {
     // Where a file system knows no owners there is nothing to take over.
     calls.copySecurity(path, temporary);
-    if (!calls.setAttributes(temporary, old)) raiseLastError();
+    if (!calls.setAttributes(temporary, settable(old))) raiseLastError();
   }
   if (!calls.replace(temporary, path)) raiseLastError();
   undo.keep();

@@ -16,13 +16,15 @@ using FileSink = std::function<void(std::string_view)>;
 /// temporary file beside it, reaches the disk, takes over the old file's attributes and
 /// security, and then replaces it in one step: whatever happens, the whole old or the whole new
 /// content stands under the name. A folder that takes no new file has it written in place, and
-/// put back where that fails. Raises the first failure (permission denied for a read-only
-/// file); nothing has changed then, and no temporary file is left.
+/// put back where that fails; there alone a crash in the middle is not provided against. Raises the
+/// first failure (permission denied for a read-only file); nothing has changed then, and no
+/// temporary file is left.
 void replaceFile(const std::string& path, const std::function<void(const FileSink&)>& produce,
                  FileCalls& calls);
 
-/// Name of the temporary file that a save of `path` goes through; the same at every save, so
-/// that one left by a crash is overwritten by the next.
+/// Full path of the temporary file that a save of `path` goes through, beside it; the same at
+/// every save, so that one left by a crash is overwritten by the next. Raises where `path` names
+/// no file.
 [[nodiscard]] std::string temporaryName(const std::string& path);
 
 }  // namespace windowing

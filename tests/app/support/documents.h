@@ -38,7 +38,11 @@ constexpr std::array<int, 28> boxOf = [] {
 inline Contact fullContact(int number) {
   Contact contact;
   for (std::size_t i = 0; i < contact.size(); ++i)
-    contact[i] = "c" + std::to_string(number) + " field " + std::to_string(i + 1);
+    contact[i]
+        .append("c")
+        .append(std::to_string(number))
+        .append(" field ")
+        .append(std::to_string(i + 1));
   contact[homeWebsite] = "http://home" + std::to_string(number) + ".example/";
   contact[workWebsite] = "http://work" + std::to_string(number) + ".example/";
   return contact;
@@ -54,7 +58,7 @@ inline std::vector<Contact> fullContacts(int count) {
 inline std::string bytesOf(const std::vector<Contact>& contacts) {
   std::string bytes;
   for (const Contact& contact : contacts)
-    for (const std::string& text : contact) bytes += '"' + text + "\"\r\n";
+    for (const std::string& text : contact) bytes.append("\"").append(text).append("\"\r\n");
   return bytes;
 }
 

@@ -10,36 +10,35 @@ namespace id = library::id;
 namespace {
 
 const std::string settingsKey = "SOFTWARE\\Zandor Software Development";
-const std::string keptKey = "SOFTWARE\\Tellary tests, settings kept";
 
-bool hasKey(const std::string& key) {
+bool hasKey(HKEY root, const std::string& key) {
   HKEY opened = nullptr;
-  if (RegOpenKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
-    return false;
+  if (RegOpenKeyExA(root, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
   RegCloseKey(opened);
   return true;
 }
 
-void moveKey(const std::string& from, const std::string& to) {
+void moveKey(HKEY root, const std::string& from, const std::string& to) {
   HKEY made = nullptr;
-  if (!hasKey(from) || RegCreateKeyExA(HKEY_CURRENT_USER, to.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                                       nullptr, &made, nullptr) != ERROR_SUCCESS)
+  if (!hasKey(root, from) || RegCreateKeyExA(root, to.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                                             nullptr, &made, nullptr) != ERROR_SUCCESS)
     return;
-  if (RegCopyTreeA(HKEY_CURRENT_USER, from.c_str(), made) == ERROR_SUCCESS)
-    RegDeleteTreeA(HKEY_CURRENT_USER, from.c_str());
+  if (RegCopyTreeA(root, from.c_str(), made) == ERROR_SUCCESS) RegDeleteTreeA(root, from.c_str());
   RegCloseKey(made);
 }
 
-// The settings of whoever runs the tests stay: they are put aside, and put back at the end.
+std::string asideKey(const std::string& key) {
+  return key + " (aside for the tests)";
+}
+
+// The settings of whoever runs the tests stay.
 class KeptSettings : public testing::Environment {
  public:
-  void SetUp() override {
-    if (!hasKey(keptKey)) moveKey(settingsKey, keptKey);
-  }
-  void TearDown() override {
-    RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey.c_str());
-    moveKey(keptKey, settingsKey);
-  }
+  void SetUp() override { aside_ = std::make_unique<KeyAside>(HKEY_CURRENT_USER, settingsKey); }
+  void TearDown() override { aside_.reset(); }
+
+ private:
+  std::unique_ptr<KeyAside> aside_;
 };
 [[maybe_unused]] const testing::Environment* const keptSettings =
     testing::AddGlobalTestEnvironment(new KeptSettings);
@@ -76,6 +75,28 @@ void removeFolder(const std::string& folder) {
 
 }  // namespace
 
+// What a run that was broken off left aside is the older, and the one to keep.
+KeyAside::KeyAside(HKEY root, std::string key) : root_(root), key_(std::move(key)) {
+  if (!hasKey(root_, asideKey(key_))) moveKey(root_, key_, asideKey(key_));
+  RegDeleteTreeA(root_, key_.c_str());
+}
+
+KeyAside::~KeyAside() {
+  RegDeleteTreeA(root_, key_.c_str());
+  moveKey(root_, asideKey(key_), key_);
+}
+
+void storeRegistryText(HKEY root, const std::string& key, const std::string& value,
+                       const std::string& text) {
+  HKEY made = nullptr;
+  if (RegCreateKeyExA(root, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &made, nullptr) !=
+      ERROR_SUCCESS)
+    throw std::runtime_error("cannot write the registry key " + key);
+  RegSetValueExA(made, value.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                 static_cast<DWORD>(text.size() + 1));
+  RegCloseKey(made);
+}
+
 std::optional<std::string> registryText(HKEY root, const std::string& key,
                                         const std::string& value) {
   char text[1024] = {};
@@ -93,7 +114,8 @@ void AppTest::SetUp() {
   RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey.c_str());
   const std::string all = temporaryFolder() + "\\Tellary tests";
   CreateDirectoryA(all.c_str(), nullptr);
-  folder_ = all + "\\" + testing::UnitTest::GetInstance()->current_test_info()->name();
+  folder_ = testing::UnitTest::GetInstance()->current_test_info()->name();
+  folder_ = all + "\\" + folder_.substr(folder_.rfind('/') + 1);
   removeFolder(folder_);
   if (!CreateDirectoryA(folder_.c_str(), nullptr))
     throw std::runtime_error("no scratch folder " + folder_);
@@ -171,12 +193,7 @@ std::optional<std::string> AppTest::setting(const std::string& section, const st
 
 void AppTest::storeSetting(const std::string& section, const std::string& value,
                            const std::string& text) {
-  HKEY key = nullptr;
-  RegCreateKeyExA(HKEY_CURRENT_USER, (settingsKey + "\\Tellary\\" + section).c_str(), 0, nullptr, 0,
-                  KEY_ALL_ACCESS, nullptr, &key, nullptr);
-  RegSetValueExA(key, value.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                 static_cast<DWORD>(text.size() + 1));
-  RegCloseKey(key);
+  storeRegistryText(HKEY_CURRENT_USER, settingsKey + "\\Tellary\\" + section, value, text);
 }
 
 }  // namespace drive

@@ -55,6 +55,23 @@ class AppTest : public testing::Test {
   std::unique_ptr<Program> program_;
 };
 
+/// Puts a key of the registry aside for as long as it lives, and then back as it was.
+class KeyAside {
+ public:
+  KeyAside(HKEY root, std::string key);
+  KeyAside(const KeyAside&) = delete;
+  KeyAside& operator=(const KeyAside&) = delete;
+  ~KeyAside();
+
+ private:
+  HKEY root_;
+  std::string key_;
+};
+
+/// Writes a text value of the registry, and its key where there is none.
+void storeRegistryText(HKEY root, const std::string& key, const std::string& value,
+                       const std::string& text);
+
 /// A text value of the registry; nothing when there is none.
 [[nodiscard]] std::optional<std::string> registryText(HKEY root, const std::string& key,
                                                       const std::string& value);

@@ -55,6 +55,7 @@ void Program::chooseName(int index) const {
 void Program::focusOn(int controlId) const {
   bringToFront();
   send(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control(controlId)), TRUE);
+  settle();
   if (focus() != controlId)
     throw std::runtime_error("the focus does not go to " + std::to_string(controlId));
 }
@@ -111,6 +112,11 @@ void Program::hover(int commandId) const {
   PostMessageA(bar, WM_MOUSEMOVE, 0, pointParam(place));
   ClientToScreen(bar, &place);
   SetCursorPos(place.x, place.y);
+  settle();
+}
+
+void Program::pointAway() const {
+  SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
   settle();
 }
 

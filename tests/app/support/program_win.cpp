@@ -105,6 +105,17 @@ std::string programUnderTest() {
   return windowsPath(environment("TELLARY_EXE"));
 }
 
+HWND waitForMainWindow() {
+  std::vector<HWND> found;
+  waitFor("a main window", [&found] {
+    found = windowsThat(nullptr, [](HWND window) {
+      return classOf(window) == formClass && IsWindowVisible(window);
+    });
+    return !found.empty();
+  });
+  return found.front();
+}
+
 // --- Dialogs ---
 
 std::string Dialog::title() const {
@@ -285,12 +296,22 @@ int Program::focus() const {
   return GetDlgCtrlID(info.hwndFocus);
 }
 
-HWND Program::findDialog() const {
-  const auto dialogs = windowsThat(nullptr, [this](HWND window) {
-    return processOf(window) == processId_ && classOf(window) == "#32770" &&
+HWND Program::findWindow(const char* windowClass) const {
+  const auto windows = windowsThat(nullptr, [&](HWND window) {
+    return processOf(window) == processId_ && classOf(window) == windowClass &&
            IsWindowVisible(window) && IsWindowEnabled(window);
   });
-  return dialogs.empty() ? nullptr : dialogs.front();
+  return windows.empty() ? nullptr : windows.front();
+}
+
+HWND Program::findDialog() const {
+  return findWindow("#32770");
+}
+
+std::string Program::tooltip() const {
+  HWND tip = nullptr;
+  waitFor("a tooltip", [&] { return (tip = findWindow(TOOLTIPS_CLASSA)) != nullptr; });
+  return textOf(tip);
 }
 
 Dialog Program::dialog() const {
@@ -320,14 +341,13 @@ std::string Program::describe() const {
     SendMessageTimeoutA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text),
                         SMTO_ABORTIFHUNG, 1000, &ignored);
     lines += indent + classOf(window) + " " + std::to_string(GetDlgCtrlID(window)) +
-             (IsWindowVisible(window) ? "" : " hidden") +
              (IsWindowEnabled(window) ? "" : " disabled") + " '" + text + "'\n";
   };
   for (const HWND top :
        windowsThat(nullptr, [this](HWND w) { return processOf(w) == processId_; })) {
     if (!IsWindowVisible(top)) continue;
     line(top, "");
-    for (const HWND child : windowsThat(top, [](HWND) { return true; })) line(child, "  ");
+    for (const HWND child : windowsThat(top, IsWindowVisible)) line(child, "  ");
   }
   return lines;
 }

@@ -95,6 +95,10 @@ class Program {
   void clickTab(int index) const;
   /// Moves the pointer over a button of the toolbar without pressing it.
   void hover(int command) const;
+  /// Moves the pointer to a far corner of the screen.
+  void pointAway() const;
+  /// Waits for a tooltip; its text.
+  [[nodiscard]] std::string tooltip() const;
   void bringToFront() const;
 
   // Dialogs of the program.
@@ -108,6 +112,7 @@ class Program {
 
  private:
   [[nodiscard]] HWND findDialog() const;
+  [[nodiscard]] HWND findWindow(const char* windowClass) const;
   void attach();
   [[nodiscard]] RECT buttonPlace(int command) const;
 
@@ -117,6 +122,9 @@ class Program {
   HWND window_ = nullptr;
   std::map<int, HWND> controls_;
 };
+
+/// Waits for a main window of the program, whoever started it.
+[[nodiscard]] HWND waitForMainWindow();
 
 /// Path of the program under test as Windows names it.
 [[nodiscard]] std::string programUnderTest();

@@ -1,0 +1,139 @@
+// The controls of the properties that are not of the usual kinds.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "controls/PANEL_win.h"
+#include "controls/TXTSEP_win.h"
+#include "dialogs/frmProps_design_win.h"
+#include "dialogs/frmProps_win.h"
+#include "library/resource_ids.h"
+#include "windowing/application_win.h"
+#include "windowing/fonts_win.h"
+#include "windowing/handles_win.h"
+#include "windowing/screen_win.h"
+
+namespace dialogs {
+
+namespace id = library::id::props;
+
+namespace {
+
+constexpr int tickCount = 3;
+
+struct CustomKind {
+  const char* windowClass;
+  DWORD style;
+};
+
+// Facts are read-only boxes without an edge: longer ones scroll, and all can be copied.
+constexpr CustomKind factKind{"EDIT", WS_VISIBLE | WS_TABSTOP | ES_READONLY | ES_AUTOHSCROLL};
+
+CustomKind customKind(int control) {
+  switch (control) {
+    case id::PICICON:
+      return {"STATIC", WS_VISIBLE | SS_ICON | SS_CENTERIMAGE};
+    case id::TXTDOCUMENT:
+      return {"EDIT", ES_MULTILINE | ES_AUTOVSCROLL};
+    case id::CHKATTR:
+      // Not one that ticks itself: it shows what the file says after the click.
+      return {"BUTTON", WS_VISIBLE | WS_TABSTOP | BS_CHECKBOX | BS_NOTIFY};
+    case id::CHKATTR + 1:
+    case id::CHKATTR + 2:
+      return {"BUTTON", WS_VISIBLE | WS_DISABLED | BS_CHECKBOX};
+    case id::LBLREAD:
+    case id::LBLHIDDEN:
+    case id::LBLARCHIVE:
+      return {"STATIC", WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY};
+    default:
+      return factKind;
+  }
+}
+
+}  // namespace
+
+HWND frmProps::createCustom(const windowing::ControlDesign& design, HWND container,
+                            const RECT& place) {
+  switch (design.id) {
+    case id::PANEL1:
+      return controls::PANEL::create(container, design.id, place, controls::PANEL::Border::none)
+          .handle();
+    case id::TXTSEP1:
+    case id::TXTSEP2:
+    case id::TXTSEP3:
+    case id::TXTSEP4:
+      return controls::TXTSEP::create(container, design.id, place).handle();
+    default:
+      break;
+  }
+  const CustomKind kind = customKind(design.id);
+  return CreateWindowExA(0, kind.windowClass, design.caption, WS_CHILD | kind.style, place.left,
+                         place.top, place.right - place.left, place.bottom - place.top, container,
+                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
+                         windowing::programInstance(), nullptr);
+}
+
+// A document without a file, or whose file is gone, has the icon of all documents.
+void frmProps::showIcon(HICON icon) const {
+  HANDLE shown = icon;
+  if (shown == nullptr)
+    shown = LoadImageA(windowing::programInstance(), MAKEINTRESOURCEA(IDI_DOCUMENT), IMAGE_ICON,
+                       GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), LR_SHARED);
+  control(id::PICICON).send(STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(shown));
+}
+
+// The labels of the boxes to tick: black also beside a box that is grey, since what it shows is
+// to be read; and around the text the mark of the box that has the focus.
+void frmProps::drawTickLabel(const DRAWITEMSTRUCT& item) const {
+  const auto behind = reinterpret_cast<HBRUSH>(
+      SendMessageA(GetParent(item.hwndItem), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(item.hDC),
+                   reinterpret_cast<LPARAM>(item.hwndItem)));
+  FillRect(item.hDC, &item.rcItem, behind);
+  const windowing::Control label(item.hwndItem);
+  const std::string text = label.text();
+  const windowing::Selected font(item.hDC, windowing::formFont());
+  RECT area = item.rcItem;
+  InflateRect(&area, -windowing::scaled(2), -windowing::scaled(1));
+  constexpr UINT format = DT_SINGLELINE | DT_NOPREFIX;
+  DrawTextA(item.hDC, text.c_str(), -1, &area, format | DT_VCENTER);
+
+  const windowing::Control box = control(label.id() - id::LBLREAD + id::CHKATTR);
+  const bool hidden = (SendMessageA(handle(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0;
+  if (!box.focused() || hidden) return;
+  RECT mark = area;
+  DrawTextA(item.hDC, text.c_str(), -1, &mark, format | DT_CALCRECT);
+  OffsetRect(&mark, 0, (area.bottom - mark.bottom) / 2);
+  InflateRect(&mark, windowing::scaled(1), windowing::scaled(1));
+  DrawFocusRect(item.hDC, &mark);
+}
+
+LRESULT frmProps::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_DRAWITEM) {
+    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+    const auto label = static_cast<int>(item.CtlID);
+    if (label >= id::LBLREAD && label < id::LBLREAD + tickCount) drawTickLabel(item);
+    return TRUE;
+  }
+  if (message == WM_COMMAND && lParam != 0) {
+    switch (wParam) {
+      case MAKEWPARAM(id::CHKATTR, BN_SETFOCUS):
+      case MAKEWPARAM(id::CHKATTR, BN_KILLFOCUS):
+        control(id::LBLREAD).repaint();
+        return 0;
+      case MAKEWPARAM(id::LBLREAD, STN_CLICKED):
+      case MAKEWPARAM(id::LBLREAD, STN_DBLCLK):
+        // A click on the text is one on its box.
+        if (CHKATTR(0).enabled()) CHKATTR(0).focus();
+        changeReadOnly();
+        return 0;
+      case MAKEWPARAM(id::CHKATTR, BN_DOUBLECLICKED):
+        changeReadOnly();
+        return 0;
+      default:
+        break;
+    }
+  }
+  return Form::handleMessage(message, wParam, lParam);
+}
+
+}  // namespace dialogs

@@ -1,0 +1,31 @@
+// The contact on screen handed to the dialogs.
+#include "dialogs/frmProps_win.h"
+#include "library/modLibrary_win.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "printing/report.h"
+
+namespace mainwindow {
+
+document::ContactRecord frmMain::valuesOnScreen() const {
+  document::ContactRecord values;
+  for (const document::Field& field : document::fields)
+    values[field.slot] = control(design::boxId(field)).text();
+  return values;
+}
+
+// The figures are those of the report of the contact on screen, edits included. It is composed
+// for them alone: what the menu's Print prints stays as it was composed last.
+void frmMain::showProperties() {
+  library::modLibrary().documentKind = CMD1.fileName.empty() ? "UNTITLED" : "DOCUMENT";
+  dialogs::frmProps properties;
+  properties.setDocumentText([this] {
+    std::string text;
+    for (const printing::ReportStep& step : printing::reportOf(valuesOnScreen()))
+      text += step.kind == printing::ReportStep::Kind::lineBreak ? "\r\n" : step.text;
+    return text;
+  });
+  properties.showModal();
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,143 @@
+#include "dialogs/frmAbout_win.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "library/identifiers.h"
+#include "tests/support/scratch_registry_win.h"
+#include "windowing/fonts_win.h"
+#include "windowing/handles_win.h"
+#include "windowing/seams_win.h"
+
+namespace dialogs {
+namespace {
+
+using test_support::ScratchRegistry;
+namespace id = library::id::about;
+
+constexpr char windowsKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
+
+class AboutBox : public testing::Test {
+ protected:
+  void TearDown() override { form_.unload(); }
+  [[nodiscard]] std::string text(int control) const { return form_.control(control).text(); }
+
+  ScratchRegistry registry_;
+  frmAbout form_;
+};
+
+TEST_F(AboutBox, SaysWhatTheProgramIsAndWhoseCopy) {
+  ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOwner", "Mill & Sons");
+  ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOrganization", "A && B");
+  form_.load();
+  const struct {
+    int control;
+    const char* text;
+  } cases[] = {
+      {id::LBLPROGRAMNAME, "TELLARY"},
+      {id::LBLVERS, "Version:"},
+      {id::LBLVERSNO, "5.3"},
+      {id::LBLREGISTERED, "Registered to:"},
+      {id::LBLREGNAME, "Mill & Sons"},
+      {id::LBLREGCO, "A && B"},
+      {id::LBLWRITTEN, "Written and Developed by Zandor Software Development"},
+      {id::LBLCOPYRIGHT, "Copyright \xA9 2002-2026 Zandor Software Development"},
+      {id::LBLWARNING,
+       "Warning: This computer program is protected by copyright law and international treaties.  "
+       "Unauthorized reproduction or distribution of this program, or any portion of it, may "
+       "result in severe civil and criminal penalties, and will be prosecuted to the maximum "
+       "extent possible under law."},
+      {id::BTNCLOSE, "&Close"},
+  };
+  for (const auto& [control, expected] : cases) EXPECT_EQ(text(control), expected);
+  // Texts of the user hold no access keys.
+  for (const int control : {id::LBLREGNAME, id::LBLREGCO, id::LBLWRITTEN, id::LBLCOPYRIGHT})
+    EXPECT_TRUE(GetWindowLongA(form_.control(control).handle(), GWL_STYLE) & SS_NOPREFIX);
+}
+
+TEST_F(AboutBox, LooksForTheOrganizationUnderTheUserAlone) {
+  ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOrganization", "Machine");
+  ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOwner", "User");
+  form_.load();
+  EXPECT_EQ(text(id::LBLREGNAME), "");
+  EXPECT_EQ(text(id::LBLREGCO), "");
+}
+
+TEST_F(AboutBox, ShowsEveryTextWhole) {
+  form_.load();
+  const windowing::WindowDc dc(form_.handle());
+  for (int control = id::FRAMTITLE; control <= id::BTNCLOSE; ++control) {
+    const windowing::Control label = form_.control(control);
+    const auto font = reinterpret_cast<HFONT>(label.send(WM_GETFONT));
+    const std::string shown = label.text();
+    if (shown.empty()) continue;
+    const windowing::Selected selected(dc.get(), font);
+    RECT area{};
+    GetClientRect(label.handle(), &area);
+    RECT needed = area;
+    DrawTextA(dc.get(), shown.c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK);
+    EXPECT_LE(needed.bottom, area.bottom) << shown;
+    EXPECT_LE(needed.right, area.right) << shown;
+  }
+  LOGFONTA face{};
+  GetObjectA(reinterpret_cast<HFONT>(form_.control(id::LBLPROGRAMNAME).send(WM_GETFONT)),
+             sizeof face, &face);
+  EXPECT_STREQ(face.lfFaceName, "Times New Roman");
+  GetObjectA(reinterpret_cast<HFONT>(form_.control(id::LBLWARNING).send(WM_GETFONT)), sizeof face,
+             &face);
+  EXPECT_STREQ(face.lfFaceName, "Tahoma");
+}
+
+TEST_F(AboutBox, LogoOpensTheMakersSite) {
+  form_.load();
+  std::vector<std::string> opened;
+  const windowing::Replaced open(
+      windowing::seams().shellOpen,
+      [&](HWND owner, const std::string& verb, const std::string& file, const std::string&) {
+        EXPECT_EQ(owner, form_.handle());
+        opened.push_back(verb + " " + file);
+      });
+  const HWND logo = form_.control(id::IMGLOGO).handle();
+  SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+  SendMessageA(logo, WM_SETCURSOR, reinterpret_cast<WPARAM>(logo),
+               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+  EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_HAND));
+  const HWND frame = form_.control(id::FRAMTITLE).handle();
+  SendMessageA(frame, WM_SETCURSOR, reinterpret_cast<WPARAM>(frame),
+               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+  EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_ARROW));
+  EXPECT_FALSE(form_.control(id::IMGCURSOR).visible());
+
+  SendMessageA(logo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageA(logo, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(opened, std::vector<std::string>{"Open http://www.zandor.example/"});
+}
+
+TEST_F(AboutBox, OpensInTheMiddleAndClosesByButtonEnterAndEscape) {
+  const struct {
+    UINT message;
+    WPARAM key;
+  } ways[] = {{BM_CLICK, 0}, {WM_KEYDOWN, VK_RETURN}, {WM_KEYDOWN, VK_ESCAPE}};
+  for (const auto& [message, key] : ways) {
+    form_.load();
+    RECT place = form_.outerPixels();
+    EXPECT_NEAR(place.left + place.right, GetSystemMetrics(SM_CXSCREEN), 1);
+    EXPECT_NEAR(place.top + place.bottom, GetSystemMetrics(SM_CYSCREEN), 1);
+    OffsetRect(&place, 40, 40);
+    form_.moveOuter(place);
+    // Without an answer the box would stay for good.
+    PostMessageA(form_.control(id::BTNCLOSE).handle(), message, key, 0);
+    form_.showModal();
+    EXPECT_FALSE(form_.loaded());
+  }
+  DWORD keys = 1;
+  DWORD values = 1;
+  RegQueryInfoKeyA(registry_.user(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
+                   nullptr, nullptr, nullptr, nullptr);
+  EXPECT_EQ(keys + values, 0U);
+}
+
+}  // namespace
+}  // namespace dialogs

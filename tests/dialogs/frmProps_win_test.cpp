@@ -1,0 +1,450 @@
+#include "dialogs/frmProps_win.h"
+
+#include <gtest/gtest.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "library/identifiers.h"
+#include "library/modLibrary_win.h"
+#include "tests/support/printers_win.h"
+#include "tests/support/scratch_folder_win.h"
+#include "tests/support/scratch_registry_win.h"
+#include "windowing/richtextbox_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+
+namespace dialogs {
+namespace {
+
+using test_support::ScratchFolder;
+using test_support::ScratchRegistry;
+namespace id = library::id::props;
+
+constexpr char placeKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\GLOBAL\\Window";
+constexpr char marginKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items";
+constexpr char misspeltKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\tems";
+
+class Properties : public testing::Test {
+ protected:
+  void TearDown() override {
+    form_.unload();
+    library::modLibrary().documentPath.clear();
+    library::modLibrary().documentKind.clear();
+  }
+
+  void show(const std::string& path, const char* kind = "TEMPLATE") {
+    library::modLibrary().documentPath = path;
+    library::modLibrary().documentKind = kind;
+    form_.load();
+    form_.UPDATEINFO();
+  }
+  [[nodiscard]] std::string text(int control) const { return form_.control(control).text(); }
+  [[nodiscard]] std::string texts(std::initializer_list<int> controls) const {
+    std::string all;
+    for (const int control : controls) all += text(control) + "|";
+    return all;
+  }
+  [[nodiscard]] std::string general() const {
+    return texts({id::TXTFILENAME, id::TXTTYPE, id::TXTLOCATION, id::TXTSIZE, id::TXTMODIFIED});
+  }
+  [[nodiscard]] std::string figures() const {
+    return texts({id::TXTDOCPAGES, id::TXTDOCLINES, id::TXTDOCLEN, id::TXTWORDS});
+  }
+  /// "1" or "0" for each of the three boxes.
+  [[nodiscard]] std::string ticks() const {
+    std::string all;
+    for (int i = 0; i < 3; ++i)
+      all += std::to_string(form_.control(id::CHKATTR + i).send(BM_GETCHECK));
+    return all;
+  }
+  [[nodiscard]] std::string tabs() const {
+    const windowing::Control strip = form_.control(id::TABPROPS);
+    std::string all;
+    for (int i = 0; i < strip.send(TCM_GETITEMCOUNT); ++i) {
+      char caption[32] = {};
+      TCITEMA item{};
+      item.mask = TCIF_TEXT;
+      item.pszText = caption;
+      item.cchTextMax = sizeof caption;
+      strip.send(TCM_GETITEMA, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+      all += std::string(caption) + "|";
+    }
+    return all;
+  }
+  [[nodiscard]] std::string shownFrames() const {
+    std::string all;
+    for (const int frame : {id::FRAMGENERAL, id::FRAMDOCUMENT, id::FRAMPIC})
+      all += form_.control(frame).visible() ? "1" : "0";
+    return all;
+  }
+
+  ScratchRegistry registry_;
+  ScratchFolder folder_;
+  frmProps form_;
+};
+
+void resize(const std::string& path, std::int64_t size) {
+  const windowing::FileHandle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                               FILE_ATTRIBUTE_NORMAL, nullptr));
+  LARGE_INTEGER end{};
+  end.QuadPart = size;
+  ASSERT_TRUE(SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) && SetEndOfFile(file.get()));
+}
+
+bool americanUser() {
+  return GetUserDefaultLCID() == MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), 0);
+}
+
+TEST_F(Properties, SizesAtTheirBoundaries) {
+  if (!americanUser()) GTEST_SKIP() << "the texts are those of an American user";
+  const struct {
+    std::int64_t size;
+    const char* text;
+  } cases[] = {
+      {0, "0 Bytes"},
+      {1023, "1,023 Bytes"},
+      {1024, "1.00KB (1,024 Bytes)"},
+      {10239, "10.00KB (10,239 Bytes)"},
+      {10240, "10.0KB (10,240 Bytes)"},
+      {102399, "100.0KB (102,399 Bytes)"},
+      {102400, "100KB (102,400 Bytes)"},
+      {1023999, "1000KB (1,023,999 Bytes)"},
+      {1024000, "0.98MB (1,024,000 Bytes)"},
+      {10240000, "9.8MB (10,240,000 Bytes)"},
+      {102400000, "98MB (102,400,000 Bytes)"},
+      {1024000000, "0.95GB (1,024,000,000 Bytes)"},
+      {3221225472, "3.00GB (3,221,225,472 Bytes)"},
+      {5000000000, "4.66GB (5,000,000,000 Bytes)"},
+  };
+  const std::string path = folder_.file("sized.tly");
+  for (const auto& [size, expected] : cases) {
+    resize(path, size);
+    show(path);
+    EXPECT_EQ(text(id::TXTSIZE), expected);
+  }
+}
+
+TEST_F(Properties, GeneralFactsAreThoseOfTheDisk) {
+  const std::string path = folder_.file("M\xFCller & Co.Tly", "x");
+  SYSTEMTIME local{2020, 2, 6, 29, 13, 5, 9, 0};
+  FILETIME time{};
+  FILETIME written{};
+  ASSERT_TRUE(SystemTimeToFileTime(&local, &time) && LocalFileTimeToFileTime(&time, &written));
+  const windowing::FileHandle file(
+      CreateFileA(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(SetFileTime(file.get(), nullptr, nullptr, &written));
+  show(folder_ / "M\xDCLLER & CO.TLY");
+  EXPECT_EQ(text(id::TXTFILENAME), "M\xFCller & Co.Tly");
+  EXPECT_EQ(text(id::TXTLOCATION), folder_.path());
+  EXPECT_NE(text(id::TXTTYPE), "");
+  if (americanUser()) {
+    EXPECT_EQ(text(id::TXTMODIFIED), "Saturday, February 29, 2020 1:05:09 PM");
+  }
+  EXPECT_NE(form_.control(id::PICICON).send(STM_GETIMAGE, IMAGE_ICON), 0);
+}
+
+TEST_F(Properties, WhatIsNoFileHasNoFacts) {
+  const std::string folder = folder_.folder("inner");
+  folder_.file("some.tly");
+  const std::string tooLong = "C:\\" + std::string(400, 'x') + ".tly";
+  const struct {
+    std::string path;
+    std::string general;
+  } cases[] = {
+      {"", "Untitled|||||"},
+      {folder_ / "gone.tly", "gone.tly|||||"},
+      {folder_ / "no folder\\gone.tly", "gone.tly|||||"},
+      {folder_ / "*.tly", "*.tly|||||"},
+      {folder_ / "som?.tly", "som?.tly|||||"},
+      {"C:\\", "C:\\|||||"},
+      {"Q:\\gone.tly", "gone.tly|||||"},
+      {tooLong, tooLong.substr(3) + "|||||"},
+      {std::string(40000, 'x'), std::string(40000, 'x') + "|||||"},
+  };
+  for (const auto& [path, expected] : cases) {
+    show(path);
+    EXPECT_TRUE(general() == expected) << path.substr(0, 60) << ": " << general().substr(0, 60);
+    EXPECT_EQ(ticks(), "000");
+    EXPECT_FALSE(form_.control(id::CHKATTR).enabled());
+    EXPECT_FALSE(form_.ATTRREADONLY());
+  }
+  show(folder);
+  EXPECT_EQ(text(id::TXTFILENAME), "inner");
+}
+
+TEST_F(Properties, FileInADrivesRootLiesInTheRoot) {
+  const std::string path = "C:\\tellary root test.tly";
+  resize(path, 5);
+  show(path);
+  EXPECT_EQ(text(id::TXTLOCATION), "C:\\");
+  DeleteFileA(path.c_str());
+}
+
+TEST_F(Properties, ReadOnlyBoxChangesTheFileAndTheOthersOnlyShow) {
+  const std::string path = folder_.file("a.tly");
+  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
+  const auto fileIsReadOnly = [&] {
+    return (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_READONLY) != 0;
+  };
+  show(path);
+  EXPECT_EQ(ticks().substr(0, 2), "11");
+  EXPECT_TRUE(form_.ATTRREADONLY());
+  const windowing::Control box = form_.control(id::CHKATTR);
+  const std::string others = ticks().substr(1);
+  box.send(BM_CLICK);
+  EXPECT_EQ(ticks(), "0" + others);
+  EXPECT_FALSE(fileIsReadOnly());
+  EXPECT_FALSE(form_.ATTRREADONLY());
+  // The text beside the box is part of it.
+  const windowing::Control label = form_.control(id::LBLREAD);
+  label.send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+  label.send(WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  EXPECT_EQ(ticks(), "1" + others);
+  EXPECT_TRUE(fileIsReadOnly());
+  for (int i = 1; i < 3; ++i) {
+    form_.control(id::CHKATTR + i).send(BM_CLICK);
+    form_.control(id::LBLREAD + i).send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    EXPECT_EQ(ticks(), "1" + others);
+  }
+  EXPECT_TRUE((GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0);
+
+  int beeps = 0;
+  const windowing::Replaced beep(windowing::seams().beep, [&] { ++beeps; });
+  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  ASSERT_TRUE(DeleteFileA(path.c_str()));
+  box.send(BM_CLICK);
+  EXPECT_EQ(ticks(), "1" + others);
+  EXPECT_EQ(beeps, 1);
+  form_.UPDATEINFO();
+  EXPECT_EQ(ticks(), "000");
+}
+
+TEST_F(Properties, KindsHaveTheirTabsAndATabItsPage) {
+  const std::string path = folder_.file("a.tly");
+  const struct {
+    const char* kind;
+    const char* tabs;
+  } cases[] = {
+      {"DOCUMENT", "GENERAL|DOCUMENT|"},
+      {"untitled", "GENERAL|DOCUMENT|"},
+      {"Picture", "GENERAL|PICTURE|"},
+      {"TEMPLATE", "GENERAL|"},
+      {"", "GENERAL|"},
+      {"DOCUMENT", "GENERAL|DOCUMENT|"},
+  };
+  for (const auto& [kind, expected] : cases) {
+    show(path, kind);
+    EXPECT_EQ(tabs(), expected) << kind;
+    EXPECT_EQ(shownFrames(), "100") << kind;
+  }
+  const windowing::Control strip = form_.control(id::TABPROPS);
+  const auto click = [&](int tab) {
+    RECT place{};
+    strip.send(TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&place));
+    strip.send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 5, place.top + 5));
+    strip.send(WM_LBUTTONUP, 0, MAKELPARAM(place.left + 5, place.top + 5));
+  };
+  click(1);
+  EXPECT_EQ(shownFrames(), "010");
+  click(0);
+  EXPECT_EQ(shownFrames(), "100");
+  show(path, "PICTURE");
+  click(1);
+  EXPECT_EQ(shownFrames(), "001");
+}
+
+TEST_F(Properties, FiguresOfTheDocumentsText) {
+  constexpr double inch = 1440;
+  ReportPaper paper{8.5 * inch, 11 * inch, inch / 6};  // 54 lines between the usual margins
+  form_.setPaper([&] { return paper; });
+  std::string report = "\r\nAda Byron";
+  form_.setDocumentText([&] { return report; });
+  const std::string path = folder_.file("a.tly");
+  show(path, "DOCUMENT");
+  EXPECT_EQ(text(id::TXTDOCPATH), path);
+  EXPECT_EQ(figures(), "1|2|11|2|");
+
+  report = "one";
+  for (int i = 1; i < 55; ++i) report += "\r\nword";
+  form_.UPDATEINFO();
+  EXPECT_EQ(figures(), "2|55|327|55|");
+  // Margins are shared with the maker's other products.
+  ScratchRegistry::putText(registry_.user(), marginKey, "Page Margin 2", "0.5");
+  form_.UPDATEINFO();
+  EXPECT_EQ(figures(), "1|55|327|55|");
+  ScratchRegistry::putText(registry_.user(), marginKey, "Page Margin 3", "8");
+  form_.UPDATEINFO();
+  EXPECT_EQ(figures(), "4|55|327|55|");
+
+  // Words wrap between the side margins; the left one is looked for where it is never written.
+  report = std::string("a word and ");
+  for (int i = 0; i < 5; ++i) report += report;
+  form_.UPDATEINFO();
+  const int lines = std::stoi(text(id::TXTDOCLINES));
+  EXPECT_GT(lines, 2);
+  ScratchRegistry::putText(registry_.user(), marginKey, "Page Margin 0", "4");
+  form_.UPDATEINFO();
+  EXPECT_EQ(std::stoi(text(id::TXTDOCLINES)), lines);
+  ScratchRegistry::putText(registry_.user(), misspeltKey, "Page Margin 0", "4");
+  form_.UPDATEINFO();
+  EXPECT_GT(std::stoi(text(id::TXTDOCLINES)), lines);
+}
+
+// Pages of a text as the print engine has them laid out, with margins of an inch.
+int laidOutPages(windowing::Printer& printer, const std::string& text) {
+  const HWND window =
+      CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+  int pages = 0;
+  {
+    windowing::RichTextBox box("RTF3");
+    box.create(window, 1, {0, 0, 9, 9});
+    box.setPlain(text);
+    const auto width = static_cast<LONG>(printer.width());
+    const auto height = static_cast<LONG>(printer.height());
+    FORMATRANGE range{printer.dc(), printer.dc(), {}, {0, 0, width, height}, {0, -1}};
+    while (range.chrg.cpMin < box.length() || pages == 0) {
+      range.rc = {1440, 1440, width - 1440, height - 1440};
+      range.chrg.cpMin =
+          static_cast<LONG>(box.send(EM_FORMATRANGE, FALSE, reinterpret_cast<LPARAM>(&range)));
+      ++pages;
+    }
+  }
+  DestroyWindow(window);
+  return pages;
+}
+
+TEST_F(Properties, PagesAreThosePrinted) {
+  const support::TestPrinters printers;
+  windowing::Printer printer;
+  form_.setPaper([&] { return reportPaper(printer); });
+  std::string report;
+  form_.setDocumentText([&] { return report; });
+  const std::string sentence = "Comments that are longer than a line of the page, so they wrap. ";
+  const auto lines = [](int count, const std::string& line) {
+    std::string text = line;
+    for (int i = 1; i < count; ++i) text += "\r\n" + line;
+    return text;
+  };
+  for (const char* name : {support::TestPrinters::letter, support::TestPrinters::a4}) {
+    printer.select(name);
+    int highest = 0;
+    for (int count = 50; count < 70; ++count) {
+      report = lines(count, "line");
+      show("", "UNTITLED");
+      const int pages = laidOutPages(printer, report);
+      EXPECT_EQ(text(id::TXTDOCPAGES), std::to_string(pages)) << count << " lines on " << name;
+      highest = std::max(highest, pages);
+    }
+    EXPECT_EQ(highest, 2) << name;
+    report = lines(40, sentence + sentence + sentence);
+    show("", "UNTITLED");
+    EXPECT_EQ(text(id::TXTDOCPAGES), std::to_string(laidOutPages(printer, report))) << name;
+  }
+}
+
+TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
+  form_.setPaper([]() -> ReportPaper {
+    throw windowing::RuntimeError(windowing::ErrorNumber::printer, "No printer");
+  });
+  form_.setDocumentText([] { return std::string("one\r\ntwo three"); });
+  show("", "UNTITLED");
+  EXPECT_EQ(figures(), "|2|14|3|");
+  EXPECT_EQ(text(id::TXTDOCPATH), "");
+  form_.setPaper([] { return ReportPaper{12240, 15840, 240}; });
+  ScratchRegistry::putText(registry_.user(), marginKey, "Page Margin 1", "wide");
+  form_.UPDATEINFO();
+  EXPECT_EQ(figures(), "|2|14|3|");
+  form_.setDocumentText([]() -> std::string {
+    throw windowing::RuntimeError(windowing::ErrorNumber::objectMissing, "No contact");
+  });
+  form_.UPDATEINFO();
+  EXPECT_EQ(figures(), "||||");
+}
+
+TEST_F(Properties, FactsOfPictures) {
+  const auto picture = [this] {
+    return texts({id::TXTPICTYPE, id::TXTPICWIDTH, id::TXTPICHEIGHT, id::TXTPICPIXELDEPTH});
+  };
+  const std::string png("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\1\x2C\0\0\0\x0A\x08\x02", 26);
+  const std::string grey("\xFF\xD8\xFF\xE0\0\4..\xFF\xC0\0\x0B\x08\0\x02\0\x03\1\1\1\1", 21);
+  const struct {
+    std::string bytes;
+    const char* facts;
+  } cases[] = {
+      {png, "PNG|300 pixels|10 pixels|16 million colors (24 bit)|"},
+      {grey, "JPEG|3 pixels|2 pixels|256 colors (8 bit)|"},
+      {std::string("GIF89a\x05\0\x06\0\x80", 11), "GIF|5 pixels|6 pixels|2 colors (1 bit)|"},
+      {png.substr(0, 25), "||||"},
+      {"", "||||"},
+  };
+  for (const auto& [bytes, expected] : cases) {
+    show(folder_.file("picture.png", bytes), "PICTURE");
+    EXPECT_EQ(picture(), expected);
+  }
+  for (const char* path : {"C:\\gone.png", "C:\\", ""}) {
+    show(path, "PICTURE");
+    EXPECT_EQ(picture(), "||||");
+  }
+}
+
+TEST_F(Properties, ComesBackWhereItWasLeft) {
+  show(folder_.file("a.tly"), "DOCUMENT");
+  RECT place = form_.outerPixels();
+  EXPECT_NEAR(place.left + place.right, GetSystemMetrics(SM_CXSCREEN), 1);
+  const windowing::Control close = form_.control(id::BTNCLOSE);
+  EXPECT_EQ(close.top(), 165);
+  EXPECT_EQ(close.left() + close.width() + 135, form_.innerWidth());
+  OffsetRect(&place, 31, -27);
+  form_.moveOuter(place);
+  form_.unload();
+  EXPECT_NE(ScratchRegistry::text(registry_.user(), placeKey, "Left"), "(none)");
+  EXPECT_EQ(ScratchRegistry::text(registry_.user(), placeKey, "Width"), "(none)");
+  form_.load();
+  EXPECT_TRUE(EqualRect(&place, std::vector<RECT>{form_.outerPixels()}.data()));
+  form_.unload();
+  // A stored place that is none does not keep the dialog from opening.
+  ScratchRegistry::putText(registry_.user(), placeKey, "Left", "far");
+  form_.load();
+  for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
+    form_.load();
+    PostMessageA(form_.control(id::TXTLOCATION).handle(), WM_KEYDOWN, key, 0);
+    form_.showModal();
+    EXPECT_FALSE(form_.loaded());
+  }
+}
+
+TEST_F(Properties, KeepsNoHandles) {
+  const std::string path = folder_.file("a.tly", "text");
+  const auto handles = [] {
+    DWORD count = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &count);
+    return static_cast<int>(count);
+  };
+  const auto openings = [&](int count) {
+    for (int i = 0; i < count; ++i) {
+      show(path, i % 2 == 0 ? "DOCUMENT" : "PICTURE");
+      form_.unload();
+    }
+  };
+  openings(5);
+  const int before = handles();
+  openings(50);
+  EXPECT_LT(handles(), before + 10);
+
+  show(path);
+  const auto icon =
+      reinterpret_cast<HICON>(form_.control(id::PICICON).send(STM_GETIMAGE, IMAGE_ICON));
+  ICONINFO facts{};
+  ASSERT_TRUE(GetIconInfo(icon, &facts));
+  const windowing::BitmapHandle mask(facts.hbmMask);
+  const windowing::BitmapHandle colour(facts.hbmColor);
+  show("");
+  EXPECT_FALSE(GetIconInfo(icon, &facts));
+}
+
+}  // namespace
+}  // namespace dialogs

@@ -1,0 +1,146 @@
+#include "tests/support/failing_files_win.h"
+
+#include <algorithm>
+
+namespace support {
+
+void FailingFiles::failAt(int call, const Failure& failure) {
+  failAt_ = call;
+  failure_ = failure;
+  calls_ = 0;
+}
+
+bool FailingFiles::fails() {
+  ++calls_;
+  if (failAt_ == 0 || calls_ < failAt_ || (calls_ > failAt_ && !failure_.onwards)) return false;
+  SetLastError(failure_.error);
+  return true;
+}
+
+DWORD FailingFiles::attributes(const std::string& path) {
+  return fails() ? INVALID_FILE_ATTRIBUTES : FileCalls::attributes(path);
+}
+
+bool FailingFiles::setAttributes(const std::string& path, DWORD attributes) {
+  return !fails() && FileCalls::setAttributes(path, attributes);
+}
+
+HANDLE FailingFiles::open(const std::string& path, DWORD access, DWORD disposition) {
+  if (fails()) return INVALID_HANDLE_VALUE;
+  const DWORD there = GetFileAttributesA(path.c_str());
+  const bool isNew = there == INVALID_FILE_ATTRIBUTES;
+  // Windows makes no hidden file anew; not every system that runs its programs knows that.
+  if (disposition == CREATE_ALWAYS &&
+      (isNew ? noNewFiles : (there & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0)) {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+  }
+  return FileCalls::open(path, access, disposition);
+}
+
+bool FailingFiles::read(HANDLE file, char* data, DWORD size, DWORD& done) {
+  return !fails() && FileCalls::read(file, data, size, done);
+}
+
+bool FailingFiles::write(HANDLE file, const char* data, DWORD size, DWORD& done) {
+  if (!fails()) return FileCalls::write(file, data, size, done);
+  FileCalls::write(file, data, size / 2, done);
+  SetLastError(failure_.error);
+  return failure_.shortCount;
+}
+
+bool FailingFiles::size(HANDLE file, LONGLONG& bytes) {
+  if (fails() || !FileCalls::size(file, bytes)) return false;
+  bytes += pretendedBytes;
+  return true;
+}
+
+bool FailingFiles::rewind(HANDLE file) {
+  return !fails() && FileCalls::rewind(file);
+}
+bool FailingFiles::truncate(HANDLE file) {
+  return !fails() && FileCalls::truncate(file);
+}
+bool FailingFiles::flush(HANDLE file) {
+  return !fails() && FileCalls::flush(file);
+}
+
+bool FailingFiles::close(HANDLE file) {
+  const bool failed = fails();
+  // A handle is gone even where closing it reports that the last bytes got lost.
+  const bool closed = FileCalls::close(file);
+  if (failed) SetLastError(failure_.error);
+  return closed && !failed;
+}
+
+bool FailingFiles::copySecurity(const std::string& from, const std::string& to) {
+  return !fails() && FileCalls::copySecurity(from, to);
+}
+bool FailingFiles::replace(const std::string& temporary, const std::string& target) {
+  return !fails() && FileCalls::replace(temporary, target);
+}
+bool FailingFiles::remove(const std::string& path) {
+  return !fails() && FileCalls::remove(path);
+}
+
+ScratchFolder::ScratchFolder(const std::string& parent) {
+  static int number = 0;
+  path_ = parent;
+  if (path_.empty()) {
+    char folder[MAX_PATH] = {};
+    GetTempPathA(sizeof folder, folder);
+    path_ = folder;
+  }
+  if (!path_.ends_with('\\')) path_ += '\\';
+  path_ += "tellary" + std::to_string(GetCurrentProcessId()) + '-' + std::to_string(++number);
+  CreateDirectoryA(path_.c_str(), nullptr);
+}
+
+ScratchFolder::~ScratchFolder() {
+  for (const std::string& name : names()) {
+    SetFileAttributesA(file(name).c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (!DeleteFileA(file(name).c_str())) RemoveDirectoryA(file(name).c_str());
+  }
+  RemoveDirectoryA(path_.c_str());
+}
+
+std::vector<std::string> ScratchFolder::names() const {
+  std::vector<std::string> found;
+  WIN32_FIND_DATAA data{};
+  const HANDLE search = FindFirstFileA(file("*").c_str(), &data);
+  if (search == INVALID_HANDLE_VALUE) return found;
+  do {
+    const std::string name = data.cFileName;
+    if (name != "." && name != "..") found.push_back(name);
+  } while (FindNextFileA(search, &data));
+  FindClose(search);
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::string bytesOf(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return "(none)";
+  std::string bytes(GetFileSize(file, nullptr), '\0');
+  DWORD done = 0;
+  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr);
+  bytes.resize(done);
+  CloseHandle(file);
+  return bytes;
+}
+
+bool putFile(const std::string& path, const std::string& bytes) {
+  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  DWORD done = 0;
+  const BOOL written =
+      WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr);
+  CloseHandle(file);
+  return written && done == bytes.size();
+}
+
+}  // namespace support
