@@ -8,8 +8,8 @@
 #include "library/path_utilities.h"
 #include "library/text_utilities.h"
 #include "windowing/application_win.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/number_text.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
@@ -102,8 +102,7 @@ void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& C
 void clsLibrary::INTERNETACCESS(const std::string& HWNDTEXT, const std::string& LINKTYPESTR,
                                 const std::string& ADDRESS) {
   if (ADDRESS.empty()) return;
-  const auto owner =
-      reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.')));
+  const HWND owner = windowing::handleOfText(HWNDTEXT);
   const std::string file = LINKTYPESTR + ADDRESS;
   if (file.size() > longestAddress) return;
   windowing::seams().shellOpen(owner, "Open", file, windowing::programFolder());

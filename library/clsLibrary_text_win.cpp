@@ -2,6 +2,7 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "library/text_utilities.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/number_text.h"
 #include "windowing/user_locale_win.h"
 
@@ -73,8 +74,7 @@ void clsLibrary::COMBOINIT(const std::string& HWNDTEXT, const std::string& ITEMC
     variables.flatCombos.back() = std::make_unique<FlatCombo>(CBONAME.handle());
   }
 
-  const windowing::ComboBox combo(
-      reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.'))));
+  const windowing::ComboBox combo(windowing::handleOfText(HWNDTEXT));
   const int width = static_cast<int>(combo.send(CB_GETDROPPEDWIDTH));
   const int height = comboListHeight(ITEMCOUNT, static_cast<int>(combo.send(CB_GETITEMHEIGHT)));
   const HWND found = childAtSamePlace(combo.handle());
