@@ -81,7 +81,7 @@ void clsLibrary::COMBOINIT(const std::string& HWNDTEXT, const std::string& ITEMC
   if (found == nullptr) return;
   SetWindowPos(found, nullptr, 0, 0, width, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
-  SendMessageA(found, WM_NULL, static_cast<WPARAM>(-1), 0);
+  combo.send(WM_NULL, static_cast<WPARAM>(-1));
   // Controls of the current look size their lists by rows and would open twice as many.
   constexpr UINT setMinimumVisible = 0x1701;  // CB_SETMINVISIBLE
   combo.send(setMinimumVisible, static_cast<WPARAM>(windowing::toInteger32(ITEMCOUNT, '.')));
