@@ -27,9 +27,6 @@ bool isPlainTarget(const std::string& path) {
   return isFullPath(path) && !hasWildcards(path) && path.find('\0') == std::string::npos;
 }
 
-// Longer addresses overrun a buffer of the shell on some systems and would end the program.
-constexpr std::size_t longestAddress = 960;
-
 // The shell copies paths into buffers of this size and does not survive longer ones.
 bool fitsShell(const std::string& path) {
   return path.size() < MAX_PATH;
@@ -102,10 +99,8 @@ void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& C
 void clsLibrary::INTERNETACCESS(const std::string& HWNDTEXT, const std::string& LINKTYPESTR,
                                 const std::string& ADDRESS) {
   if (ADDRESS.empty()) return;
-  const HWND owner = windowing::handleOfText(HWNDTEXT);
-  const std::string file = LINKTYPESTR + ADDRESS;
-  if (file.size() > longestAddress) return;
-  windowing::seams().shellOpen(owner, "Open", file, windowing::programFolder());
+  windowing::seams().shellOpen(windowing::handleOfText(HWNDTEXT), "Open", LINKTYPESTR + ADDRESS,
+                               windowing::programFolder());
 }
 
 std::string clsLibrary::HTMLFORMATCHECK(const std::string& ADDRESS) {
