@@ -4,8 +4,10 @@
 #include <commctrl.h>
 
 #include "controls/ICOMNU_win.h"
+#include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
+#include "library/modLibrary_win.h"
 #include "library/own_keys_win.h"
 #include "library/resource_ids.h"
 #include "mainwindow/commands.h"
@@ -91,6 +93,7 @@ windowing::TextBox frmMain::TXTITEMS(int index) const {
 
 void frmMain::onLoad() {
   windowing::setMainWindow(handle());
+  library::modLibrary().showAbout = [] { dialogs::frmAbout().showModal(); };
   SetWindowTextA(handle(), windowing::productName().c_str());
   for (const int size : {ICON_BIG, ICON_SMALL}) {
     const bool big = size == ICON_BIG;

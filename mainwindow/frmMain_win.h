@@ -86,7 +86,6 @@ class frmMain : public library::CommandForm {
   void GoNext();
   void GoLast();
   void goTo(int index);
-  void fillNameBox();
   void emptyFields();
   void rewriteNameEntry();
   void refreshFieldState();

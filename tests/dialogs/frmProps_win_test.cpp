@@ -22,6 +22,7 @@ namespace {
 
 using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
+using test_support::TestPrinters;
 namespace id = library::id::props;
 
 constexpr char placeKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\GLOBAL\\Window";
@@ -318,7 +319,11 @@ int laidOutPages(windowing::Printer& printer, const std::string& text) {
 }
 
 TEST_F(Properties, PagesAreThosePrinted) {
-  const support::TestPrinters printers;
+<<<<<<< HEAD
+  const TestPrinters printers;
+=======
+  const test_support::TestPrinters printers;
+>>>>>>> refs/heads/printing
   windowing::Printer printer;
   form_.setPaper([&] { return reportPaper(printer); });
   std::string report;
@@ -329,7 +334,11 @@ TEST_F(Properties, PagesAreThosePrinted) {
     for (int i = 1; i < count; ++i) text += "\r\n" + line;
     return text;
   };
-  for (const char* name : {support::TestPrinters::letter, support::TestPrinters::a4}) {
+<<<<<<< HEAD
+  for (const char* name : {TestPrinters::letter, TestPrinters::a4}) {
+=======
+  for (const char* name : {test_support::TestPrinters::letter, test_support::TestPrinters::a4}) {
+>>>>>>> refs/heads/printing
     printer.select(name);
     int highest = 0;
     for (int count = 50; count < 70; ++count) {
