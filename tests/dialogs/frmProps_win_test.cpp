@@ -319,11 +319,7 @@ int laidOutPages(windowing::Printer& printer, const std::string& text) {
 }
 
 TEST_F(Properties, PagesAreThosePrinted) {
-<<<<<<< HEAD
   const TestPrinters printers;
-=======
-  const test_support::TestPrinters printers;
->>>>>>> refs/heads/printing
   windowing::Printer printer;
   form_.setPaper([&] { return reportPaper(printer); });
   std::string report;
@@ -334,11 +330,7 @@ TEST_F(Properties, PagesAreThosePrinted) {
     for (int i = 1; i < count; ++i) text += "\r\n" + line;
     return text;
   };
-<<<<<<< HEAD
   for (const char* name : {TestPrinters::letter, TestPrinters::a4}) {
-=======
-  for (const char* name : {test_support::TestPrinters::letter, test_support::TestPrinters::a4}) {
->>>>>>> refs/heads/printing
     printer.select(name);
     int highest = 0;
     for (int count = 50; count < 70; ++count) {
