@@ -34,6 +34,7 @@ struct ProgramVariables {
   std::vector<std::unique_ptr<FlatCombo>> flatCombos;  ///< by that count less one
 };
 
+/// The one set of them.
 [[nodiscard]] ProgramVariables& modLibrary();
 
 }  // namespace library

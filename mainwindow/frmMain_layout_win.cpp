@@ -17,6 +17,7 @@
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/number_text.h"
 #include "windowing/screen_win.h"
 
@@ -114,8 +115,7 @@ void frmMain::onLoad() {
   buildToolbar();
   prepareLinks();
 
-  LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(CBOTBARBOX().handle())), "15",
-                      CBOTBARBOX(), true);
+  LIBRARY().COMBOINIT(windowing::handleText(CBOTBARBOX().handle()), "15", CBOTBARBOX(), true);
   ICONMENUS();
   try {
     LIBRARY().FORMLOAD(name(), *this, false);
