@@ -232,4 +232,15 @@ TEST_F(Document, NothingIsClipped) {
   EXPECT_LE(place.bottom - place.top, 512);
 }
 
+// Other captions and menus chosen in the system's settings change the room inside the window.
+TEST_F(Document, TheStatusBarStaysAtTheFoot) {
+  RECT place = form.outerPixels();
+  place.bottom += 30;
+  form.moveOuter(place);
+  RECT inside{};
+  GetClientRect(form.handle(), &inside);
+  EXPECT_EQ(form.control(id::SBMAIN).pixels().bottom, inside.bottom);
+  EXPECT_EQ(form.control(id::PICMAINBOX).pixels().bottom, form.control(id::SBMAIN).pixels().top);
+}
+
 }  // namespace
