@@ -20,6 +20,7 @@
 #include "windowing/runtime_error.h"
 #include "windowing/safe_file_win.h"
 #include "windowing/seams_win.h"
+#include "windowing/user_locale_win.h"
 
 namespace mainwindow {
 
@@ -216,7 +217,8 @@ bool frmMain::saveAs() {
       answer = windowing::seams().fileDialog(windowing::dialogOwner(), dialog);
     }
     if (!answer) return false;
-    chosen = library::withDefaultExtension(*answer, std::string(".") + extension);
+    chosen =
+        library::withDefaultExtension(*answer, std::string(".") + extension, windowing::isLeadByte);
     rememberFolder(saveFolderValue, chosen);
     if (!readWhole_ && sameFile(chosen, CMD1.fileName)) {
       windowing::seams().messageBox(windowing::dialogOwner(),
