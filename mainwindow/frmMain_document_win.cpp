@@ -159,6 +159,7 @@ void frmMain::openDocument() {
   dialog.title = "Open";
   dialog.filter = filter;
   dialog.folder = rememberedFolder(openFolderValue);
+  dialog.extension = extension;  // of a name typed without one
   dialog.flags = openFlags;
   std::optional<std::string> chosen;
   {

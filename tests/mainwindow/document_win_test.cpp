@@ -35,6 +35,7 @@ TEST_F(Document, OpeningShowsTheFirstContactAndRemembersTheFolder) {
   EXPECT_EQ(dialogs[0].title, "Open");
   EXPECT_EQ(dialogs[0].fileName, "");
   EXPECT_EQ(dialogs[0].flags, 0x280004U);
+  EXPECT_EQ(dialogs[0].extension, "tly");
   EXPECT_EQ(dialogs[0].filter, "Tellary Document (*.tly)|*.tly");
   run(id::OPEN);
   EXPECT_EQ(dialogs[1].folder, scratch.path());
