@@ -149,7 +149,10 @@ void frmMain::RefreshCommands() {
     if (command.id == id::SAVE) continue;
     setCommandEnabled(command.id, commandAvailable(command.id, state));
   }
-  CBOTBARBOX().setEnabled(nameBoxAvailable(state));
+  const bool anyName = nameBoxAvailable(state);
+  // A disabled control that kept the focus would leave the keyboard dead.
+  if (!anyName && CBOTBARBOX().focused()) TABMAIN().focus();
+  CBOTBARBOX().setEnabled(anyName);
 }
 
 bool frmMain::modified() const {

@@ -183,6 +183,13 @@ void frmMain::layOut() {
   arrange();
 }
 
+// The room inside changes with the height of captions and menus, too.
+void frmMain::onSize() {
+  // Before everything is made, and while the menus are built anew, there is nothing to go by.
+  const bool ready = SBMAIN().handle() != nullptr && ICOMNU->numberOf(id::STANDARDBAR) != 0;
+  if (ready) arrange();
+}
+
 // Strips from the top, the status bar at the foot, the body in what is left.
 void frmMain::arrange() {
   const bool toolbar = commandChecked(id::STANDARDBAR);
