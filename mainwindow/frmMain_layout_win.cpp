@@ -104,7 +104,7 @@ void frmMain::onLoad() {
                                 GetSystemMetrics(big ? SM_CYICON : SM_CYSMICON), LR_SHARED)));
   }
   windowing::setSurface(control(id::PICHEADER).handle(), windowing::Surface::window);
-  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10, true));
+  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10));
   for (const char* caption : {"General", "Home Address", "Work Address"}) TABMAIN().add(caption);
   for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL}) {
     const HWND frame = control(page).handle();
