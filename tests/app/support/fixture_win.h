@@ -27,7 +27,7 @@ class AppTest : public testing::Test {
   /// Takes over a program that something else started.
   Program& adopt(HWND window);
   [[nodiscard]] Program& program() const { return *program_; }
-  /// Closes the program's window, answers nothing, and waits for its end.
+  /// Closes the program's window, with nothing to ask about, and waits for its end.
   void close();
 
   /// Full path of a file in the scratch folder.
@@ -51,6 +51,8 @@ class AppTest : public testing::Test {
                            const std::string& text);
 
  private:
+  void tellWhatIsThere() const;
+
   std::string folder_;
   std::unique_ptr<Program> program_;
 };

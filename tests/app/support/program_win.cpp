@@ -105,6 +105,10 @@ std::string programUnderTest() {
   return windowsPath(environment("TELLARY_EXE"));
 }
 
+std::string picturesFolder() {
+  return windowsPath(environment("TELLARY_PICTURES"));
+}
+
 HWND waitForMainWindow() {
   std::vector<HWND> found;
   waitFor("a main window", [&found] {
@@ -213,8 +217,10 @@ bool Program::running() const {
 }
 
 DWORD Program::waitForEnd() const {
-  if (WaitForSingleObject(process_, limit) != WAIT_OBJECT_0)
-    throw std::runtime_error("the program did not end");
+  waitFor("the program to end", [this] {
+    if (hasDialog()) throw std::runtime_error("the program asks instead of ending");
+    return !running();
+  });
   DWORD code = 0;
   GetExitCodeProcess(process_, &code);
   return code;

@@ -58,7 +58,7 @@ class Program {
   [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] DWORD processId() const { return processId_; }
   [[nodiscard]] bool running() const;
-  /// Waits until the program has ended by itself; its exit code.
+  /// Waits until the program has ended by itself, asking nothing; its exit code.
   DWORD waitForEnd() const;
   /// Waits until the program has done all that was asked of it: posted messages, keys and mouse.
   void settle() const;
@@ -128,6 +128,8 @@ class Program {
 
 /// Path of the program under test as Windows names it.
 [[nodiscard]] std::string programUnderTest();
+/// Folder for pictures; need not exist.
+[[nodiscard]] std::string picturesFolder();
 /// `path` of this machine as Windows names it; paths that are Windows' already stay.
 [[nodiscard]] std::string windowsPath(const std::string& path);
 /// Value of an environment variable; raises when it is not set.

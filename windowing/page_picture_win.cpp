@@ -1,0 +1,98 @@
+#include "windowing/page_picture_win.h"
+
+#include <cmath>
+#include <cstdint>
+#include <span>
+
+#include "windowing/smooth_shrink.h"
+#include "windowing/system_error_win.h"
+#include "windowing/units.h"
+
+namespace windowing {
+namespace {
+
+// How many times finer than shown a picture is drawn before it is brought to its size: small
+// pages need it to stay readable, large ones would only take memory.
+// StretchBlt is no help: some hosts leave thin lines out whatever its mode.
+int fineness(const SIZE& shown) {
+  constexpr std::int64_t mostPixels = 6'000'000;
+  constexpr int finest = 4;
+  const std::int64_t pixels = std::int64_t{shown.cx} * shown.cy;
+  int factor = finest;
+  while (factor > 1 && pixels * factor * factor > mostPixels) --factor;
+  return factor;
+}
+
+// A bitmap in memory whose pixels can be reached directly, rows from the top.
+class PixelSurface {
+ public:
+  explicit PixelSurface(const SIZE& size)
+      : count_(static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy)),
+        dc_(CreateCompatibleDC(nullptr)) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    bitmap_.reset(CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    bits_ = static_cast<std::uint32_t*>(bits);
+    if (bitmap_) old_ = SelectObject(dc_.get(), bitmap_.get());
+  }
+  PixelSurface(const PixelSurface&) = delete;
+  PixelSurface& operator=(const PixelSurface&) = delete;
+  ~PixelSurface() {
+    if (bitmap_) SelectObject(dc_.get(), old_);
+  }
+  [[nodiscard]] bool usable() const { return bits_ != nullptr; }
+  [[nodiscard]] HDC dc() const { return dc_.get(); }
+  [[nodiscard]] std::span<std::uint32_t> pixels() const { return {bits_, count_}; }
+
+ private:
+  std::size_t count_;
+  std::uint32_t* bits_ = nullptr;
+  MemoryDc dc_;
+  BitmapHandle bitmap_;
+  HGDIOBJ old_ = nullptr;
+};
+
+}  // namespace
+
+void PagePicture::resize(double width, double height) {
+  width_ = width;
+  height_ = height;
+}
+
+void PagePicture::begin(HDC reference) {
+  finish();
+  constexpr double hundredthsOfMillimetre = 2540.0 / twipsPerInch;
+  const RECT frame{0, 0, static_cast<LONG>(std::lround(width_ * hundredthsOfMillimetre)),
+                   static_cast<LONG>(std::lround(height_ * hundredthsOfMillimetre))};
+  dc_ = CreateEnhMetaFileA(reference, nullptr, &frame, nullptr);
+  if (dc_ == nullptr) raiseLastError();
+}
+
+void PagePicture::finish() {
+  if (dc_ == nullptr) return;
+  recording_.reset(CloseEnhMetaFile(dc_));
+  dc_ = nullptr;
+}
+
+void PagePicture::draw(HDC device, const RECT& place) const {
+  const SIZE shown{place.right - place.left, place.bottom - place.top};
+  if (shown.cx <= 0 || shown.cy <= 0) return;
+  const int factor = fineness(shown);
+  const PixelSurface fine({shown.cx * factor, shown.cy * factor});
+  const PixelSurface coarse(shown);
+  if (!fine.usable() || !coarse.usable()) return;
+  const RECT all{0, 0, shown.cx * factor, shown.cy * factor};
+  FillRect(fine.dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &all);
+  GdiFlush();
+  shrinkSmoothly(fine.pixels(), coarse.pixels(), shown.cx, factor);
+  BitBlt(device, place.left, place.top, shown.cx, shown.cy, coarse.dc(), 0, 0, SRCCOPY);
+}
+
+}  // namespace windowing
