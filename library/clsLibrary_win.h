@@ -11,6 +11,10 @@
 #include "windowing/control_win.h"
 #include "windowing/form_win.h"
 
+namespace windowing {
+class PagePicture;
+}
+
 namespace library {
 
 class CommandForm;
@@ -137,6 +141,14 @@ class clsLibrary {
 
   void PAGESETUPPAGESHOW();
   void PAGESETUPHEADFOOTSHOW();
+  /// Draws header and footer on the current printer's open page, or on a preview's picture.
+  /// Margins are twips. The engine hands them over as left, top, right, bottom; the crossing is
+  /// deliberate. Raises overflow where a place leaves 16 bits.
+  void PAGEHEADERFOOTERINFO(const std::string& PGNO, std::int16_t Left, std::int16_t Top,
+                            std::int16_t Bottom, std::int16_t Right);
+  void PAGEHEADERFOOTERINFOPREVIEW(windowing::PagePicture& TARGET, const std::string& PGNO,
+                                   std::int16_t Left, std::int16_t Top, std::int16_t Bottom,
+                                   std::int16_t Right);
 };
 
 /// The program's one library object.

@@ -93,9 +93,11 @@ bool PrintDialog::show() {
   dialog.hDevNames = namesOf(printer().name());
   dialog.Flags = flags;
   dialog.nMinPage = 1;
-  dialog.nMaxPage = word(max);
-  dialog.nFromPage = word(fromPage);
-  dialog.nToPage = word(toPage);
+  // A range outside the pages would keep the dialog from opening.
+  const int last = std::max(1, max);
+  dialog.nMaxPage = word(last);
+  dialog.nFromPage = word(std::clamp(fromPage, 1, last));
+  dialog.nToPage = word(std::clamp(toPage, 1, last));
   dialog.nCopies = word(copies);
   BOOL agreed = FALSE;
   {

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace support {
+namespace test_support {
 namespace {
 
 struct Paper {
@@ -202,4 +202,4 @@ void TestPrinters::blockLetterOutput() {
   CreateDirectoryA(outputOf(devices[0]).c_str(), nullptr);
 }
 
-}  // namespace support
+}  // namespace test_support

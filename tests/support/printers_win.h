@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace support {
+namespace test_support {
 
 /// Installs the printers for the length of a scope.
 class TestPrinters {
@@ -29,4 +29,4 @@ class TestPrinters {
   static void blockLetterOutput();
 };
 
-}  // namespace support
+}  // namespace test_support

@@ -2,7 +2,7 @@
 
 #include <map>
 
-namespace support {
+namespace test_support {
 namespace {
 
 struct Reader {
@@ -78,13 +78,18 @@ Recording::~Recording() {
   if (dc_ != nullptr) DeleteEnhMetaFile(CloseEnhMetaFile(dc_));
 }
 
-Drawing Recording::drawing() {
-  const HENHMETAFILE file = CloseEnhMetaFile(dc_);
-  dc_ = nullptr;
+Drawing drawingOf(HENHMETAFILE recording) {
   Reader reader;
-  EnumEnhMetaFile(nullptr, file, readRecord, &reader, nullptr);
-  DeleteEnhMetaFile(file);
+  EnumEnhMetaFile(nullptr, recording, readRecord, &reader, nullptr);
   return reader.drawing;
 }
 
-}  // namespace support
+Drawing Recording::drawing() {
+  const HENHMETAFILE file = CloseEnhMetaFile(dc_);
+  dc_ = nullptr;
+  Drawing drawn = drawingOf(file);
+  DeleteEnhMetaFile(file);
+  return drawn;
+}
+
+}  // namespace test_support

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace support {
+namespace test_support {
 
 struct DrawnText {
   std::string text;
@@ -29,6 +29,9 @@ struct Drawing {
   [[nodiscard]] std::string joined() const;
 };
 
+/// What `recording` draws.
+[[nodiscard]] Drawing drawingOf(HENHMETAFILE recording);
+
 class Recording {
  public:
   /// Records with the coordinates of `reference` (null: the screen).
@@ -44,4 +47,4 @@ class Recording {
   HDC dc_;
 };
 
-}  // namespace support
+}  // namespace test_support

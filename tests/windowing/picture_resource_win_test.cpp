@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "library/resource_ids.h"
 #include "library/images.h"
+#include "library/resource_ids.h"
 
 namespace windowing {
 namespace {

@@ -13,7 +13,7 @@
 namespace windowing {
 namespace {
 
-using support::TestPrinters;
+using test_support::TestPrinters;
 
 class PrintDialogs : public testing::Test {
  protected:

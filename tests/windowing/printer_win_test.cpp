@@ -13,7 +13,7 @@
 namespace windowing {
 namespace {
 
-using support::TestPrinters;
+using test_support::TestPrinters;
 
 int occurrences(const std::string& text, const std::string& part) {
   int count = 0;
@@ -84,8 +84,8 @@ TEST_F(Printers, AreChosenByNameOrIndexWithoutChangingTheWindowsDefault) {
 
 TEST_F(Printers, ReportTheirPage) {
   // Letter, 612 x 792 points, strips 18, 24, 36, 30.
-  EXPECT_EQ(printer_.width(), 12240);
-  EXPECT_EQ(printer_.height(), 15840);
+  EXPECT_DOUBLE_EQ(printer_.width(), 12240);
+  EXPECT_DOUBLE_EQ(printer_.height(), 15840);
   EXPECT_NEAR(printer_.scaleWidth(), (612 - 18 - 24) * 20, 3);
   EXPECT_NEAR(printer_.scaleHeight(), (792 - 36 - 30) * 20, 3);
   EXPECT_EQ(printer_.physicalOffset().x, 18 * 600 / 72);
@@ -93,7 +93,7 @@ TEST_F(Printers, ReportTheirPage) {
   EXPECT_DOUBLE_EQ(printer_.twipsPerPixelX(), 2.4);
   printer_.setScaleMode(PrinterScale::pixels);
   EXPECT_NEAR(printer_.scaleWidth(), (612 - 18 - 24) * 600.0 / 72, 1);
-  EXPECT_EQ(printer_.width(), 12240) << "the paper's size has its own unit";
+  EXPECT_DOUBLE_EQ(printer_.width(), 12240) << "the paper's size has its own unit";
   printer_.select(TestPrinters::a4);
   EXPECT_EQ(printer_.physicalSize().cx, 595 * 300 / 72);
   EXPECT_DOUBLE_EQ(printer_.twipsPerPixelY(), 4.8);
@@ -103,7 +103,7 @@ TEST_F(Printers, TurnAndChangeTheirPaperAtOnce) {
   const HDC dc = printer_.dc();
   printer_.setOrientation(Orientation::landscape);
   EXPECT_EQ(printer_.orientation(), Orientation::landscape);
-  EXPECT_EQ(printer_.width(), 15840);
+  EXPECT_DOUBLE_EQ(printer_.width(), 15840);
   EXPECT_EQ(printer_.dc(), dc) << "the device context stays the same";
   printer_.setPaperSize(DMPAPER_A4);
   EXPECT_EQ(printer_.paperSize(), DMPAPER_A4);
@@ -136,9 +136,9 @@ TEST_F(Printers, OpenADocumentAtTheFirstOutput) {
   printer_.newPage();
   // What is set while a page is open waits for the next one.
   printer_.setOrientation(Orientation::landscape);
-  EXPECT_EQ(printer_.width(), 12240);
+  EXPECT_DOUBLE_EQ(printer_.width(), 12240);
   printer_.newPage();
-  EXPECT_EQ(printer_.width(), 15840);
+  EXPECT_DOUBLE_EQ(printer_.width(), 15840);
   printer_.endDocument();
   EXPECT_FALSE(printer_.documentOpen());
   const std::string threePages = TestPrinters::letterJob();
@@ -183,16 +183,16 @@ TEST_F(Printers, SetLinesOfRichTextAlikeOnPaperAndOnScreen) {
     std::string text;
     for (int i = 0; i < 60; ++i) text += "Some words, wide and ill. ";
     box.setPlain(text);
-    support::Recording paper(printer_.dc());
-    support::Recording screen;
+    test_support::Recording paper(printer_.dc());
+    test_support::Recording screen;
     const int screenDpi = GetDeviceCaps(screen.dc(), LOGPIXELSX);
     ASSERT_NE(screenDpi, 600);
     for (const HDC dc : {paper.dc(), screen.dc()}) {
       FORMATRANGE range{dc, printer_.dc(), {1440, 1440, 7200, 7200}, {}, {0, -1}};
       EXPECT_EQ(box.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&range)), box.length());
     }
-    const support::Drawing printed = paper.drawing();
-    const support::Drawing shown = screen.drawing();
+    const test_support::Drawing printed = paper.drawing();
+    const test_support::Drawing shown = screen.drawing();
     ASSERT_GT(printed.texts.size(), 5U);
     EXPECT_EQ(printed.joined(), shown.joined());
     for (std::size_t i = 0; i < printed.texts.size(); ++i) {

@@ -22,8 +22,8 @@ class RichTextBoxes : public testing::Test {
   void TearDown() override { DestroyWindow(window_); }
 
   // Lays out one page on the screen's resolution and returns what was drawn on it.
-  support::Drawing page(FORMATRANGE& range, LRESULT& next, bool render = true) {
-    support::Recording recording;
+  test_support::Drawing page(FORMATRANGE& range, LRESULT& next, bool render = true) {
+    test_support::Recording recording;
     range.hdc = range.hdcTarget = recording.dc();
     next = box_.send(EM_FORMATRANGE, render ? TRUE : FALSE, reinterpret_cast<LPARAM>(&range));
     return recording.drawing();
@@ -111,7 +111,7 @@ TEST_F(RichTextBoxes, PiecesAreInsertedAtTheCaretInTheirFormat) {
 
   FORMATRANGE range = area(20000, 20000);
   LRESULT next = 0;
-  const support::Drawing drawing = page(range, next);
+  const test_support::Drawing drawing = page(range, next);
   ASSERT_EQ(drawing.joined(), "Ann Bee|Pager: 1|");
   EXPECT_EQ(drawing.texts[0].weight, FW_BOLD);
   EXPECT_EQ(drawing.texts[1].weight, FW_NORMAL);
@@ -144,7 +144,7 @@ TEST_F(RichTextBoxes, PagesFollowEachOtherToTheEnd) {
     EXPECT_TRUE(page(measured, measuredNext, false).texts.empty());
     FORMATRANGE drawn = area(6 * twipsPerInch, 4 * twipsPerInch, first);
     LRESULT next = 0;
-    const support::Drawing drawing = page(drawn, next);
+    const test_support::Drawing drawing = page(drawn, next);
     EXPECT_EQ(next, measuredNext);
     EXPECT_EQ(drawn.rc.bottom, measured.rc.bottom);
     EXPECT_GT(drawn.rc.bottom, 0);
@@ -165,11 +165,11 @@ TEST_F(RichTextBoxes, AreaInTwipsIsKeptTo) {
   FORMATRANGE range = area(4 * twipsPerInch, 8 * twipsPerInch);
   OffsetRect(&range.rc, twipsPerInch, 2 * twipsPerInch);
   LRESULT next = 0;
-  support::Recording screen;
+  test_support::Recording screen;
   const int dpi = GetDeviceCaps(screen.dc(), LOGPIXELSX);
-  const support::Drawing drawing = page(range, next);
+  const test_support::Drawing drawing = page(range, next);
   ASSERT_GT(drawing.texts.size(), 2U);
-  for (const support::DrawnText& text : drawing.texts) {
+  for (const test_support::DrawnText& text : drawing.texts) {
     EXPECT_EQ(text.x, dpi);
     EXPECT_LE(text.width, 4 * dpi);
     EXPECT_GT(text.y, 2 * dpi);

@@ -1,0 +1,324 @@
+#include "printing/clsPrinting_win.h"
+
+#include <gtest/gtest.h>
+
+#include "library/settings_text.h"
+#include "printing/compose_report_win.h"
+#include "printing/frmPPrev_win.h"
+#include "tests/support/print_job_win.h"
+#include "tests/support/printers_win.h"
+#include "tests/support/recording_win.h"
+#include "tests/support/scratch_registry_win.h"
+#include "windowing/application_win.h"
+#include "windowing/printer_win.h"
+#include "windowing/runtime_error.h"
+
+namespace printing {
+namespace {
+
+using test_support::JobPage;
+using test_support::pagesOf;
+using test_support::TestPrinters;
+using windowing::printer;
+using windowing::Replaced;
+using windowing::RichTextBox;
+
+std::string lines(int first, int last) {
+  std::string text;
+  for (int line = first; line <= last; ++line) text += "Line " + std::to_string(line) + "\r\n";
+  return text;
+}
+
+class Printing : public testing::Test {
+ protected:
+  Printing() {
+    window_ = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr,
+                              nullptr);
+    RTF1_.create(window_, 1, {0, 0, 10, 10});
+    printer().select(TestPrinters::a4);
+    printer().select(TestPrinters::letter);
+    SYSTEMTIME moment{};
+    moment.wYear = 2024;
+    moment.wMonth = 2;
+    moment.wDay = 5;
+    moment.wHour = 9;
+    moment.wMinute = 5;
+    windowing::seams().localTime = [moment] { return moment; };
+    for (const char* edge : {"0", "1", "2", "3"}) setMargin(edge, "1");
+    setOption("Footer", "txtField1", "Ann Bee");
+  }
+  ~Printing() override {
+    windowing::seams() = real_;
+    DestroyWindow(window_);
+  }
+
+  void setMargin(const std::string& edge, const std::string& inches) {
+    settings_.putText(settings_.user(),
+                      library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
+                      "Page Margin " + edge, inches);
+  }
+  void setOption(const std::string& part, const std::string& name, const std::string& value) {
+    settings_.putText(settings_.user(),
+                      library::productKey(windowing::companyName(), windowing::productName(),
+                                          "\\frmPPrev\\Items\\" + part),
+                      name, value);
+  }
+  // Prints as the toolbar does, without dialog.
+  std::vector<JobPage> print() {
+    TestPrinters::clearJobs();
+    engine_.PRINTDOCUMENT(thePreview(), RTF1_, true);
+    return pagesOf(TestPrinters::letterJob());
+  }
+  // Prints as the menu does; `answer` fills in the dialog.
+  std::vector<JobPage> printAfter(std::function<BOOL(PRINTDLGA&)> answer,
+                                  const RichTextBox* source = nullptr) {
+    TestPrinters::clearJobs();
+    const Replaced dialog(windowing::printDialogSeam(), std::move(answer));
+    engine_.PRINTDOCUMENT(thePreview(), source != nullptr ? *source : RTF1_, false);
+    return pagesOf(TestPrinters::letterJob());
+  }
+
+  TestPrinters printers_;
+  test_support::ScratchRegistry settings_;
+  windowing::Seams real_ = windowing::seams();
+  HWND window_ = nullptr;
+  RichTextBox RTF1_{"RTF1"};
+  clsPrinting engine_{thePreview()};
+};
+
+BOOL choosePages(PRINTDLGA& dialog, WORD from, WORD to) {
+  dialog.Flags |= PD_PAGENUMS;
+  dialog.nFromPage = from;
+  dialog.nToPage = to;
+  return TRUE;
+}
+
+TEST_F(Printing, SendsHeaderFooterAndBodyOfEveryPage) {
+  RTF1_.setPlain(lines(1, 150));
+  const std::string before = RTF1_.text();
+  const std::vector<JobPage> pages = print();
+  ASSERT_EQ(pages.size(), 3U);
+  EXPECT_EQ(engine_.pageCount(), 3);
+  EXPECT_EQ(RTF1_.text(), before);
+  for (std::size_t page = 0; page < pages.size(); ++page)
+    EXPECT_EQ(pages[page].joined().rfind("05/02/2024|9:05:00|Tellary Report.|Ann Bee|Untitled|" +
+                                             std::to_string(page + 1) + "|Line ",
+                                         0),
+              0U)
+        << pages[page].joined().substr(0, 100);
+  int seen = 0;
+  for (const JobPage& page : pages) seen += static_cast<int>(page.texts.size()) - 6;
+  EXPECT_EQ(seen, 150) << "every line on one page";
+  EXPECT_GE(pages[2].find("Line 150").x, 0);
+
+  // Pixels of 2.4 twips from the printable corner, which lies (360, 720) twips inside.
+  const JobPage& first = pages[0];
+  EXPECT_EQ(first.find("Line 1").x, (1440 - 360) * 10 / 24);
+  EXPECT_EQ(first.find("05/02").x, (1640 * 10 + 12) / 24);
+  EXPECT_EQ(first.find("Ann").x, 1740 * 10 / 24);
+  EXPECT_NEAR(first.find("Untitled").x, (11400 - 4000) / 2.4, 1.5);
+  EXPECT_NEAR(first.find("Ann").y - first.find("05/02").y, (14520 - 1440 + 360 - 740) / 2.4, 1.5);
+}
+
+TEST_F(Printing, RoundsBodyMarginsToWholeInchesAndOthersNot) {
+  RTF1_.setPlain("Body");
+  struct Case {
+    const char* inches;
+    int bodyTwips;
+    int dateTwips;
+  };
+  for (const Case& c :
+       {Case{"0.4", 0, 576}, {"0.5", 0, 720}, {"1.5", 2880, 2160}, {"2.5", 2880, 3600}}) {
+    setMargin("0", c.inches);
+    const std::vector<JobPage> pages = print();
+    ASSERT_EQ(pages.size(), 1U) << c.inches;
+    EXPECT_NEAR(pages[0].find("Body").x, (c.bodyTwips - 360) / 2.4, 0.6) << c.inches;
+    EXPECT_NEAR(pages[0].find("05/02").x, (c.dateTwips + 200) / 2.4, 0.6) << c.inches;
+  }
+}
+
+TEST_F(Printing, HandsTheMarginsOverCrossed) {
+  RTF1_.setPlain("Body");
+  const int usual = print().at(0).find("Ann").y;
+  setMargin("1", "2");
+  EXPECT_NEAR(usual - print().at(0).find("Ann").y, 1440 / 2.4, 1) << "the right margin lifts it";
+  setMargin("1", "1");
+  setMargin("3", "2");
+  EXPECT_EQ(print().at(0).find("Ann").y, usual);
+}
+
+TEST_F(Printing, EndsSilentlyWhereMarginsAreWrong) {
+  RTF1_.setPlain("Body");
+  for (const char* wrong : {"23", "x", "", "-23"}) {
+    setMargin("2", wrong);
+    EXPECT_TRUE(print().empty()) << wrong;
+  }
+  setMargin("2", "22");
+  EXPECT_FALSE(print().empty()) << "no room is no error";
+  setMargin("2", "1");
+  setMargin("0", "5");
+  setMargin("1", "5");
+  RTF1_.setPlain("no width");
+  EXPECT_FALSE(print().empty());
+  EXPECT_FALSE(printer().documentOpen());
+}
+
+TEST_F(Printing, PrintsTheRangeThatWasChosen) {
+  RTF1_.setPlain(lines(1, 200));
+  const std::vector<JobPage> all = printAfter([](PRINTDLGA& dialog) -> BOOL {
+    EXPECT_EQ(dialog.Flags, 1048852U);
+    EXPECT_EQ(dialog.nFromPage, 1);
+    EXPECT_EQ(dialog.nToPage, 4);
+    EXPECT_EQ(dialog.nMaxPage, 4);
+    EXPECT_EQ(dialog.nCopies, 1);
+    return TRUE;
+  });
+  ASSERT_EQ(all.size(), 4U);
+  const std::vector<JobPage> two =
+      printAfter([](PRINTDLGA& dialog) { return choosePages(dialog, 2, 3); });
+  ASSERT_EQ(two.size(), 2U);
+  for (std::size_t page = 0; page < 2; ++page) {
+    EXPECT_EQ(two[page].texts[5].text, std::to_string(page + 1)) << "numbered within the range";
+    ASSERT_EQ(two[page].texts.size(), all[page + 1].texts.size());
+    EXPECT_EQ(two[page].texts[6].text, all[page + 1].texts[6].text);
+  }
+  // The preview prints its own text, which a range must not have cut; nor does its flag stick.
+  const std::vector<JobPage> again = printAfter(
+      [](PRINTDLGA& dialog) -> BOOL {
+        EXPECT_EQ(dialog.Flags, 1048852U);
+        return TRUE;
+      },
+      &thePreview().RTF3());
+  EXPECT_EQ(again.size(), 4U);
+  EXPECT_EQ(printAfter([](PRINTDLGA& dialog) { return choosePages(dialog, 3, 9); }).size(), 2U);
+  EXPECT_EQ(printAfter([](PRINTDLGA& dialog) { return choosePages(dialog, 4, 2); }).size(), 1U);
+}
+
+TEST_F(Printing, MakesCopiesOnce) {
+  RTF1_.setPlain("Body");
+  printAfter([](PRINTDLGA& dialog) -> BOOL {
+    dialog.nCopies = 3;
+    return TRUE;
+  });
+  const std::string job = TestPrinters::letterJob();
+  EXPECT_NE(job.find("copies=3"), std::string::npos);
+  EXPECT_EQ(pagesOf(job).size(), 1U);
+  print();
+  EXPECT_EQ(TestPrinters::letterJob().find("copies="), std::string::npos);
+}
+
+TEST_F(Printing, PrintsTheSelectionAlone) {
+  RTF1_.setPlain("First\r\nSecond\r\nThird");
+  RTF1_.select({6, 6});
+  const std::vector<JobPage> pages = printAfter([](PRINTDLGA& dialog) -> BOOL {
+    EXPECT_EQ(dialog.Flags, 1048849U);
+    return TRUE;
+  });
+  ASSERT_EQ(pages.size(), 1U);
+  EXPECT_EQ(pages[0].texts.back().text, "Second");
+  EXPECT_EQ(thePreview().RTF3().length(), 6);
+}
+
+TEST_F(Printing, CancellingLeavesNothingBehind) {
+  RTF1_.setPlain(lines(1, 100));
+  EXPECT_TRUE(printAfter([](PRINTDLGA&) { return FALSE; }).empty());
+  EXPECT_EQ(TestPrinters::letterJob(), "");
+  EXPECT_EQ(print().size(), 2U);
+}
+
+TEST_F(Printing, GoesToThePrinterThatWasChosen) {
+  RTF1_.setPlain(lines(1, 112));
+  windowing::Printer other;
+  other.select(TestPrinters::a4);
+  other.setOrientation(windowing::Orientation::landscape);
+  EXPECT_EQ(print().size(), 2U);
+  const std::vector<JobPage> onLetter = printAfter([&](PRINTDLGA& dialog) -> BOOL {
+    printer().adopt(other.name(), *reinterpret_cast<const DEVMODEA*>(other.settings().data()));
+    GlobalFree(dialog.hDevMode);
+    dialog.hDevMode = nullptr;
+    return TRUE;
+  });
+  EXPECT_TRUE(onLetter.empty());
+  const std::vector<JobPage> onA4 = pagesOf(TestPrinters::a4Job());
+  EXPECT_EQ(onA4.size(), 3U) << "all the pages there, not as many as there were on the other";
+  int seen = 0;
+  for (const JobPage& page : onA4) seen += static_cast<int>(page.texts.size()) - 6;
+  EXPECT_EQ(seen, 112);
+  printer().select(TestPrinters::letter);
+}
+
+TEST_F(Printing, GivesAnEmptyTextOnePage) {
+  RTF1_.setPlain("");
+  engine_.INITIALIZEPATH(thePreview(), RTF1_);
+  thePreview().CMD1().toPage = 7;
+  EXPECT_EQ(engine_.PAGECOUNT(thePreview(), 1, 1, 1, 1, 1), 1);
+  EXPECT_EQ(thePreview().CMD1().toPage, 7) << "the dialog stays as it was";
+  const std::vector<JobPage> pages = print();
+  ASSERT_EQ(pages.size(), 1U);
+  EXPECT_EQ(pages[0].joined(), "05/02/2024|9:05:00|Tellary Report.|Ann Bee|Untitled|1|");
+  setOption("Header", "Checked", "0");
+  setOption("Footer", "chkField2", "2");
+  EXPECT_EQ(print().at(0).joined(), "Ann Bee|1|");
+}
+
+TEST_F(Printing, RecoversFromAPrinterThatFails) {
+  RTF1_.setPlain(lines(1, 100));
+  TestPrinters::blockLetterOutput();
+  engine_.PRINTDOCUMENT(thePreview(), RTF1_, true);
+  EXPECT_FALSE(printer().documentOpen());
+  EXPECT_EQ(print().size(), 2U);
+}
+
+TEST_F(Printing, DrawsThePageOnShow) {
+  RTF1_.setPlain(lines(1, 150));
+  engine_.INITIALIZEPATH(thePreview(), RTF1_);
+  windowing::PagePicture& picture = thePreview().PICSTDPAGE();
+  engine_.PAGESEL(2, picture);
+  EXPECT_EQ(engine_.currentPage(), 2);
+  EXPECT_EQ(picture.width(), 12240);
+  const test_support::Drawing drawing = test_support::drawingOf(picture.recording());
+  ASSERT_EQ(print().size(), 3U);
+  const JobPage printed = pagesOf(TestPrinters::letterJob()).at(1);
+  ASSERT_EQ(drawing.texts.size(), printed.texts.size());
+  EXPECT_EQ(drawing.lines.size(), 2U);
+  for (std::size_t i = 0; i < drawing.texts.size(); ++i)
+    EXPECT_EQ(drawing.texts[i].text, printed.texts[i].text);
+  // The picture is the whole paper: one inch from its edges is one inch from the paper's.
+  EXPECT_EQ(drawing.texts[6].x, 600);
+  EXPECT_NEAR(drawing.texts[6].y - printed.texts[6].y, 300, 1);
+  EXPECT_NEAR(drawing.texts[2].x, ((12240 - 15 * 170) / 2.0 + 700) / 2.4, 0.6);
+  EXPECT_NEAR(drawing.texts[4].x, (12240 - 5000) / 2.4, 0.6);
+}
+
+TEST_F(Printing, ComposesTheReport) {
+  document::ContactRecord values;
+  values[document::Slot::FirstNames] = "Ann";
+  values[document::Slot::Surname] = "{\\rtf1 Bee}";
+  values[document::Slot::Comments] = "caf\xE9\r\nnext";
+  values[document::Slot::WorkFax] = "12";
+  for (int round = 0; round < 2; ++round) {
+    composeReport(values, RTF1_, thePreview().RTF3());
+    EXPECT_EQ(RTF1_.text(),
+              "\r\nAnn {\\rtf1 Bee}\r\nComments: caf\xE9\r\nnext\r\nWork Fax Number: 12");
+    EXPECT_EQ(RTF1_.length(), thePreview().RTF3().length());
+    engine_.INITIALIZEPATH(thePreview(), RTF1_);
+    engine_.PAGESEL(1, thePreview().PICSTDPAGE());
+    const test_support::Drawing drawing =
+        test_support::drawingOf(thePreview().PICSTDPAGE().recording());
+    ASSERT_EQ(drawing.texts.size(), 6U + 4U);
+    EXPECT_EQ(drawing.texts[6].weight, FW_BOLD);
+    for (std::size_t i = 7; i < 10; ++i) EXPECT_EQ(drawing.texts[i].weight, FW_NORMAL);
+  }
+  composeReport({}, RTF1_, thePreview().RTF3());
+  EXPECT_EQ(RTF1_.length(), 1) << "one line break and nothing else";
+}
+
+TEST(PrintingWithoutPrinter, IsSilent) {
+  ASSERT_TRUE(windowing::printerNames().empty());
+  clsPrinting engine(thePreview());
+  const test_support::ScratchRegistry settings;
+  EXPECT_NO_THROW(engine.PRINTDOCUMENT(thePreview(), thePreview().RTF3(), true));
+}
+
+}  // namespace
+}  // namespace printing
