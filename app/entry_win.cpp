@@ -1,7 +1,16 @@
 // Where Windows starts the program.
 #include <windows.h>
 
+#include <cstdlib>
+#include <exception>
+
 #include "app/modMain_win.h"
+
+// The library's own would name the exception on a console, which this program has none of, and
+// bring 50 KB of name decoding along.
+void __gnu_cxx::__verbose_terminate_handler() {
+  std::abort();
+}
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
   return app::Main();

@@ -35,7 +35,7 @@ void setText(HKEY root, const std::string& path, const std::string& name, const 
   if (RegOpenKeyExA(root, path.c_str(), 0, keyAccess, &opened) != ERROR_SUCCESS) return;
   const RegistryKey key(opened);
   RegSetValueExA(key.get(), name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                 static_cast<DWORD>(text.size() + 1));
+                 static_cast<DWORD>(text.size()) + 1);
 }
 
 void write(HKEY root, const std::string& path, const std::string& name, const std::string& text) {

@@ -19,7 +19,7 @@ struct ImageHeader {
 
 /// As much of a file as is worth reading for its header. That of a JPEG file comes last of what
 /// stands before the picture, behind previews and colour profiles.
-constexpr std::size_t imageHeaderBytes = 1024 * 1024;
+constexpr std::size_t imageHeaderBytes = std::size_t{1024} * 1024;
 
 /// The header at the start of `bytes`; nothing where they are no picture of a known type, or
 /// where its header is cut or says what cannot be.

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "library/clsLibrary_win.h"
+#include "library/own_keys_win.h"
 #include "library/path_utilities.h"
 #include "library/settings_text.h"
 #include "windowing/application_win.h"
@@ -116,15 +117,13 @@ std::int32_t clsLibrary::REGDWORDREAD(std::int32_t hKey, const std::string& SUBK
 
 std::string clsLibrary::FILESLOCATION() {
   const std::string own = FILENAMELENCHK(windowing::programFolder());
-  const std::string preferences =
-      productKey(windowing::companyName(), windowing::productName(), "\\frmPrefs\\Items");
-  std::string folder = FILENAMELENCHK(REGSTRREAD(currentUserRoot, preferences, filesLocation, own));
+  std::string folder =
+      FILENAMELENCHK(REGSTRREAD(currentUserRoot, ownKey("\\frmPrefs\\Items"), filesLocation, own));
   if (!FOLDEREXIST(folder)) {
     folder = own;
     // Another key than the one read, deliberately: the fall-back is a note to the other
     // products, and a folder that comes back is found again.
-    REGSTRWRITE(currentUserRoot, sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
-                filesLocation, folder);
+    REGSTRWRITE(currentUserRoot, familyKey("\\GLOBAL\\frmPPrev\\Items"), filesLocation, folder);
   }
   return folder;
 }

@@ -33,7 +33,8 @@ void DisabledOthers::enable() {
 HWND dialogOwner() {
   const HWND active = GetActiveWindow();
   if (active != nullptr && IsWindowVisible(active)) return active;
-  return theMainWindow;
+  // A box with an owner that is gone would not be shown at all.
+  return IsWindow(theMainWindow) ? theMainWindow : nullptr;
 }
 
 void setMainWindow(HWND window) {

@@ -48,8 +48,11 @@ TEST(MessageBoxes, BelongToTheMainWindowWhereNoneIsActive) {
     return IDOK;
   });
   LIBRARY().MESSAGEBOX(12, "", "", "", "");
-  windowing::setMainWindow(nullptr);
   EXPECT_EQ(owner, main.handle());
+  main.unload();
+  LIBRARY().MESSAGEBOX(12, "", "", "", "");
+  windowing::setMainWindow(nullptr);
+  EXPECT_EQ(owner, nullptr);
 }
 
 TEST(MessageBoxes, QuestionsAnswerWithTheButtonPressed) {

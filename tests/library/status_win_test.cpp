@@ -88,6 +88,10 @@ TEST(Combos, OpenTallEnoughAndStayClosedAsTheyWere) {
   combo.send(CB_SHOWDROPDOWN, TRUE);
   EXPECT_EQ(droppedRows(combo), 15);
   combo.send(CB_SHOWDROPDOWN, FALSE);
+  // The box takes the width of its list.
+  combo.send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(after.right - after.left + 40));
+  LIBRARY().COMBOINIT(handleText(combo), "15", combo, false);
+  EXPECT_EQ(combo.pixels().right, after.right + 40);
   for (const char* count : {"", "many", "99999999999"})
     EXPECT_THROW(LIBRARY().COMBOINIT(handleText(combo), count, combo, false),
                  windowing::RuntimeError)

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "tests/app/support/picture_win.h"
+
 namespace drive {
 
 namespace id = library::id;
@@ -122,10 +124,16 @@ void AppTest::SetUp() {
 }
 
 void AppTest::TearDown() {
-  if (HasFailure() && program_ != nullptr && program_->running())
-    std::printf("The program's windows at the end:\n%s", program_->describe().c_str());
+  if (HasFailure() && program_ != nullptr && program_->running()) tellWhatIsThere();
   program_.reset();
   if (!HasFailure()) removeFolder(folder_);
+}
+
+void AppTest::tellWhatIsThere() const {
+  std::printf("The program's windows at the end:\n%s", program_->describe().c_str());
+  CreateDirectoryA(picturesFolder().c_str(), nullptr);
+  const std::string file = picturesFolder() + folder_.substr(folder_.rfind('\\')) + " failed.bmp";
+  if (takePicture(GetDesktopWindow(), file)) std::printf("A picture is in %s\n", file.c_str());
 }
 
 Program& AppTest::start(const std::string& tail, const std::string& exe) {

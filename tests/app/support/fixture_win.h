@@ -51,6 +51,8 @@ class AppTest : public testing::Test {
                            const std::string& text);
 
  private:
+  void tellWhatIsThere() const;
+
   std::string folder_;
   std::unique_ptr<Program> program_;
 };

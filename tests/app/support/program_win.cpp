@@ -105,6 +105,10 @@ std::string programUnderTest() {
   return windowsPath(environment("TELLARY_EXE"));
 }
 
+std::string picturesFolder() {
+  return windowsPath(environment("TELLARY_PICTURES"));
+}
+
 HWND waitForMainWindow() {
   std::vector<HWND> found;
   waitFor("a main window", [&found] {
