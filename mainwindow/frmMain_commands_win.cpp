@@ -93,6 +93,8 @@ void frmMain::runCommand(int command) {
     case id::SAVEAS:
       static_cast<void>(saveAs());
       return;
+    case id::PAGESETUP:
+      return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:
       static_cast<void>(unload());
       return;
@@ -113,6 +115,8 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoLast);
     case id::WEBSITE:
       return openMakerSite();
+    case id::HEADERFOOTER:
+      return LIBRARY().PAGESETUPHEADFOOTSHOW();
     case id::PROPERTIES:
       return showProperties();
     case id::ABOUT:
