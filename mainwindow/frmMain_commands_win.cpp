@@ -93,6 +93,8 @@ void frmMain::runCommand(int command) {
     case id::SAVEAS:
       static_cast<void>(saveAs());
       return;
+    case id::PRINT:
+      return printLastReport();
     case id::PAGESETUP:
       return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:
@@ -124,6 +126,13 @@ void frmMain::runCommand(int command) {
     default:
       return;
   }
+}
+
+// Every button runs its menu item's command but one: Print composes the contact on screen and
+// prints it without a dialog.
+void frmMain::onToolButton(int command) {
+  if (command == id::PRINT && commandEnabled(command)) return printAtOnce();
+  runCommand(command);
 }
 
 void frmMain::addByUser() {
