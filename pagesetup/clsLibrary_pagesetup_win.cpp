@@ -3,6 +3,7 @@
 
 #include "library/clsLibrary_win.h"
 #include "pagesetup/frmPSetup_win.h"
+#include "pagesetup/ignoring_errors.h"
 #include "windowing/modal_win.h"
 #include "windowing/printer_win.h"
 #include "windowing/units.h"
@@ -16,7 +17,6 @@ class Obtaining {
  public:
   Obtaining() : pointer_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {
     tell("Obtaining settings...");
-    if (windowing::Form* main = mainForm()) UpdateWindow(main->control("SBMAIN").handle());
   }
   Obtaining(const Obtaining&) = delete;
   Obtaining& operator=(const Obtaining&) = delete;
@@ -26,9 +26,13 @@ class Obtaining {
   }
 
  private:
-  static windowing::Form* mainForm() { return windowing::formOf(windowing::mainWindow()); }
   static void tell(const std::string& text) {
-    if (windowing::Form* main = mainForm()) LIBRARY().STATUSBARCAPTION(*main, text, false);
+    pagesetup::ignoringErrors([&] {
+      windowing::Form* const main = windowing::formOf(windowing::mainWindow());
+      if (main == nullptr) return;
+      LIBRARY().STATUSBARCAPTION(*main, text, false);
+      UpdateWindow(main->control("SBMAIN").handle());
+    });
   }
 
   HCURSOR pointer_;
