@@ -108,6 +108,8 @@ HWND frmPSetup::createCustom(const windowing::ControlDesign& design, HWND contai
 
 void frmPSetup::onLoad() {
   committed_ = false;
+  paperCode_.clear();
+  orientation_.clear();
   for (const Tab& tab : tabs) TABSTRIP1().add(tab.caption);
   for (const int page : {id::FRAMPAGE, id::FRAMHEADERFOOTER, id::PICDIMINSIONS})
     windowing::setSurface(control(page).handle(), windowing::Surface::tabPage);

@@ -1,6 +1,8 @@
 // The ways into the page setup, from the real main window.
 #include <gtest/gtest.h>
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include <functional>
@@ -65,9 +67,9 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
       }
       return mapped(root);
     });
-    int opened = 0;
+    int seen = 0;
     onOpen = [&, shown = tab](windowing::Form& setup) {
-      ++opened;
+      ++seen;
       EXPECT_EQ(setup.control(id::psetup::TABSTRIP1).send(TCM_GETCURSEL), shown);
       EXPECT_EQ(setup.control(id::psetup::FRAMHEADERFOOTER).visible(), shown == 1);
       EXPECT_EQ(setup.control(id::psetup::FRAMPAGE).visible(), shown == 0);
@@ -78,7 +80,7 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
     };
     SetTimer(nullptr, 0, 10, lookForPageSetup);
     run(command);
-    EXPECT_EQ(opened, 1) << command;
+    EXPECT_EQ(seen, 1) << command;
     EXPECT_EQ(whileLoading, "Obtaining settings...");
     EXPECT_EQ(pointer, LoadCursorA(nullptr, IDC_WAIT));
     EXPECT_TRUE(IsWindowEnabled(form.handle()));
