@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "controls/ICOMNU_win.h"
-#include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
 #include "mainwindow/availability.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
@@ -122,7 +122,7 @@ void frmMain::runCommand(int command) {
     case id::PROPERTIES:
       return showProperties();
     case id::ABOUT:
-      return dialogs::frmAbout().showModal();
+      return library::modLibrary().showAbout();
     default:
       return;
   }
