@@ -95,6 +95,8 @@ void frmMain::runCommand(int command) {
       return;
     case id::PRINT:
       return printLastReport();
+    case id::PAGESETUP:
+      return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:
       static_cast<void>(unload());
       return;
@@ -115,6 +117,8 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoLast);
     case id::WEBSITE:
       return openMakerSite();
+    case id::HEADERFOOTER:
+      return LIBRARY().PAGESETUPHEADFOOTSHOW();
     case id::PROPERTIES:
       return showProperties();
     case id::ABOUT:
