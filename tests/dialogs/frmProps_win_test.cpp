@@ -318,7 +318,7 @@ int laidOutPages(windowing::Printer& printer, const std::string& text) {
 }
 
 TEST_F(Properties, PagesAreThosePrinted) {
-  const support::TestPrinters printers;
+  const test_support::TestPrinters printers;
   windowing::Printer printer;
   form_.setPaper([&] { return reportPaper(printer); });
   std::string report;
@@ -329,7 +329,7 @@ TEST_F(Properties, PagesAreThosePrinted) {
     for (int i = 1; i < count; ++i) text += "\r\n" + line;
     return text;
   };
-  for (const char* name : {support::TestPrinters::letter, support::TestPrinters::a4}) {
+  for (const char* name : {test_support::TestPrinters::letter, test_support::TestPrinters::a4}) {
     printer.select(name);
     int highest = 0;
     for (int count = 50; count < 70; ++count) {
