@@ -17,8 +17,8 @@ std::string_view ContactList::field(int index, Slot slot) const {
   const Entry* const contact = entry(index);
   if (contact == nullptr) return {};
   if (contact->changed) return (*contact->changed)[slot];
-  if (contact->start == nowhere) return {};
-  ItemScanner scanner(bytes_.view(), contact->start);
+  if (contact->place.start == nowhere) return {};
+  ItemScanner scanner(bytes_.view(), contact->place.start);
   std::string_view text;
   for (int position = fieldOf(slot).filePosition; position > 0; --position)
     if (!scanner.next(text)) return {};
@@ -31,8 +31,8 @@ ContactList::Texts ContactList::texts(int index) const {
   if (contact == nullptr) return texts;
   if (contact->changed) {
     for (std::size_t i = 0; i < texts.size(); ++i) texts[i] = contact->changed->fields[i];
-  } else if (contact->start != nowhere) {
-    ItemScanner scanner(bytes_.view(), contact->start);
+  } else if (contact->place.start != nowhere) {
+    ItemScanner scanner(bytes_.view(), contact->place.start);
     for (const Slot slot : slotAtFilePosition) scanner.next(texts[static_cast<std::size_t>(slot)]);
   }
   return texts;
@@ -83,14 +83,20 @@ void ContactList::clear() {
   current_ = 0;
 }
 
-void ContactList::replace(Bytes bytes, const std::vector<std::size_t>& starts) {
+void ContactList::replace(Bytes bytes, const std::vector<Place>& places) {
   clear();
-  entries_.reserve(starts.size() + 1);
-  for (std::size_t i = 0; i < starts.size() && i < static_cast<std::size_t>(maxCount); ++i) {
-    entries_.back().start = starts[i];
+  entries_.reserve(places.size() + 1);
+  for (std::size_t i = 0; i < places.size() && i < static_cast<std::size_t>(maxCount); ++i) {
+    entries_.back().place = places[i];
     entries_.emplace_back();
   }
-  if (!starts.empty()) bytes_ = std::move(bytes);
+  if (!places.empty()) bytes_ = std::move(bytes);
+}
+
+std::string_view ContactList::linesInFile(int index) const {
+  const Entry* const contact = entry(index);
+  if (contact == nullptr || contact->changed || contact->place.start == nowhere) return {};
+  return bytes_.view().substr(contact->place.start, contact->place.size);
 }
 
 bool ContactList::GoNext() {

@@ -64,9 +64,17 @@ class ContactList {
   void remove(int index);
   /// Back to the empty list.
   void clear();
-  /// Replaces everything by contacts that lie in `bytes`, each beginning at one of `starts`
-  /// (at most 32,767) and 28 items long. The first one becomes current.
-  void replace(Bytes bytes, const std::vector<std::size_t>& starts);
+  /// Where a contact lies in a file's bytes.
+  struct Place {
+    std::size_t start;
+    std::size_t size;  ///< up to the next contact; 0 where it is not written as this program would
+  };
+  /// Replaces everything by contacts that lie in `bytes` at `places` (at most 32,767), each 28
+  /// items long. The first one becomes current.
+  void replace(Bytes bytes, const std::vector<Place>& places);
+  /// The lines of a contact that stands in its file unchanged and just as it is to be written;
+  /// empty for any other. The view holds until the next change of the list.
+  [[nodiscard]] std::string_view linesInFile(int index) const;
 
   /// The four steps set the current index and check no bounds: that is deliberate, as the
   /// commands are not offered at the ends. On an empty list GoLast steps to -1.
@@ -81,7 +89,7 @@ class ContactList {
 
   /// A contact: changed texts of its own, or its place in the file's bytes, or neither (empty).
   struct Entry {
-    std::size_t start = nowhere;
+    Place place{nowhere, 0};
     std::unique_ptr<ContactRecord> changed;
   };
 

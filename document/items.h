@@ -22,6 +22,18 @@ class ItemScanner {
   [[nodiscard]] bool atEnd() const { return at_ == end_; }
   [[nodiscard]] std::size_t position() const { return static_cast<std::size_t>(at_ - begin_); }
 
+  /// Skips the next item if it is a line of its own as this program writes it: a quote, text, a
+  /// quote, CR LF. False, and nothing skipped, for any other.
+  bool skipOwnLine() {
+    if (end_ - at_ < 4 || *at_ != '"') return false;
+    const void* quote = std::memchr(at_ + 1, '"', static_cast<std::size_t>(end_ - at_ - 1));
+    if (quote == nullptr) return false;
+    const char* const close = static_cast<const char*>(quote);
+    if (end_ - close < 3 || close[1] != '\r' || close[2] != '\n') return false;
+    at_ = close + 3;
+    return true;
+  }
+
   /// The next item into `item`, a view of the scanned bytes. False when the bytes were used up
   /// before it began. A quote that is never closed takes the rest of the bytes, and the last
   /// line counts without its line end too.

@@ -9,10 +9,14 @@
 namespace document {
 namespace {
 
-bool skipRecord(ItemScanner& scanner) {
+// `asWritten` turns false where an item does not stand in the file as it would be written.
+bool skipRecord(ItemScanner& scanner, bool& asWritten) {
   std::string_view item;
-  for (int i = 0; i < fieldCount; ++i)
+  for (int i = 0; i < fieldCount; ++i) {
+    if (scanner.skipOwnLine()) continue;
+    asWritten = false;
     if (!scanner.next(item)) return false;
+  }
   return true;
 }
 
@@ -21,20 +25,21 @@ bool skipRecord(ItemScanner& scanner) {
 ReadOutcome read(Bytes bytes, ContactList& list) {
   list.clear();
   ReadResult result = ReadResult::whole;
-  std::vector<std::size_t> starts;
+  std::vector<ContactList::Place> places;
   for (ItemScanner scanner(bytes.view()); !scanner.atEnd();) {
     const std::size_t start = scanner.position();
-    if (!skipRecord(scanner)) {
+    bool asWritten = true;
+    if (!skipRecord(scanner, asWritten)) {
       result = ReadResult::inputPastEnd;
       break;
     }
-    if (starts.size() == static_cast<std::size_t>(ContactList::maxCount)) {
+    if (places.size() == static_cast<std::size_t>(ContactList::maxCount)) {
       result = ReadResult::overflow;
       break;
     }
-    starts.push_back(start);
+    places.push_back({start, asWritten ? scanner.position() - start : 0});
   }
-  list.replace(std::move(bytes), starts);
+  list.replace(std::move(bytes), places);
   return {result, list.count()};
 }
 

@@ -9,7 +9,8 @@
 
 namespace document {
 
-constexpr std::size_t writeChunk = std::size_t{256} * 1024;  ///< bytes, about, of one piece
+/// Bytes, about, of one piece; a row of contacts that nobody touched goes out as one.
+constexpr std::size_t writeChunk = std::size_t{256} * 1024;
 
 /// Hands the file's content to `sink`, piece by piece and in order; an empty list has none.
 /// Each text goes on a line of its own between double quotes and as it stands: a double quote

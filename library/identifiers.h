@@ -60,6 +60,7 @@ constexpr int LBLDESC = 1005;
 constexpr int PICMAINBOX = 1006;
 constexpr int TABMAIN = 1007;
 constexpr int SBMAIN = 1008;
+constexpr int RTF1 = 1009;  ///< the report composed last; hidden
 constexpr int FRAMGENERAL = 1010;
 constexpr int FRAMADDRESS = 1011;
 constexpr int FRAMADDRESSWORK = 1012;

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "controls/ICOMNU_win.h"
-#include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
 #include "mainwindow/availability.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
@@ -93,6 +93,8 @@ void frmMain::runCommand(int command) {
     case id::SAVEAS:
       static_cast<void>(saveAs());
       return;
+    case id::PRINT:
+      return printLastReport();
     case id::EXIT:
       static_cast<void>(unload());
       return;
@@ -116,10 +118,17 @@ void frmMain::runCommand(int command) {
     case id::PROPERTIES:
       return showProperties();
     case id::ABOUT:
-      return dialogs::frmAbout().showModal();
+      return library::modLibrary().showAbout();
     default:
       return;
   }
+}
+
+// Every button runs its menu item's command but one: Print composes the contact on screen and
+// prints it without a dialog.
+void frmMain::onToolButton(int command) {
+  if (command == id::PRINT && commandEnabled(command)) return printAtOnce();
+  runCommand(command);
 }
 
 void frmMain::addByUser() {

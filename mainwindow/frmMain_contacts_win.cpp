@@ -152,13 +152,6 @@ void frmMain::goTo(int index) {
   SETSAVE(windowing::textOfBoolean(wasModified));
 }
 
-void frmMain::fillNameBox() {
-  const windowing::ComboBox names = CBOTBARBOX();
-  const PaintingSuspended suspended(names.handle());
-  names.clear();
-  for (int i = 0; i < list_.count(); ++i) names.add(list_.nameEntry(i));
-}
-
 void frmMain::emptyFields() {
   const While filling(filling_);
   for (const document::Field& field : document::fields) {

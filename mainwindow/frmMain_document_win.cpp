@@ -13,6 +13,7 @@
 #include "mainwindow/document_file_win.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
+#include "mainwindow/name_box_win.h"
 #include "mainwindow/status_text.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
@@ -62,7 +63,7 @@ void frmMain::FILELOAD(const std::string& path) {
     list_.clear();
     failure = std::make_exception_ptr(RuntimeError(ErrorNumber::outOfMemory, "Out of memory"));
   }
-  fillNameBox();
+  fillNameBox(CBOTBARBOX(), list_);
   list_.setCurrent(0);
   ShowCurrent();
   SETSAVE("FALSE");

@@ -10,6 +10,7 @@
 #include "library/command_form_win.h"
 #include "windowing/file_calls_win.h"
 #include "windowing/form_win.h"
+#include "windowing/richtextbox_win.h"
 #include "windowing/toolbar_win.h"
 
 namespace mainwindow {
@@ -57,6 +58,7 @@ class frmMain : public library::CommandForm {
   bool onQueryUnload() override;
   void onUnload() override;
   void onCommand(int id) override { runCommand(id); }
+  void onToolButton(int id) override;
   void onChange(int id) override;
   void onSelect(int id) override;
   void onNotice(int id, int notice) override;
@@ -84,7 +86,6 @@ class frmMain : public library::CommandForm {
   void GoNext();
   void GoLast();
   void goTo(int index);
-  void fillNameBox();
   void emptyFields();
   void rewriteNameEntry();
   void refreshFieldState();
@@ -97,6 +98,12 @@ class frmMain : public library::CommandForm {
   void checkWebAddress(int id);
   void openLink(int id);
   void openMakerSite();
+
+  // Printing (frmMain_print_win.cpp).
+  void ComposeContactReport();
+  [[nodiscard]] windowing::RichTextBox& RTF1();
+  void printAtOnce();
+  void printLastReport();
 
   // The document (frmMain_document_win.cpp).
   void newDocument();
@@ -144,6 +151,7 @@ class frmMain : public library::CommandForm {
   /// from it was edited, and bytes that a box cannot carry survive a visit.
   std::array<std::string, document::fieldCount> shown_;
   FileDialogState CMD1;
+  windowing::RichTextBox RTF1_{"RTF1"};
   windowing::ImageList IMGLST;
   std::unique_ptr<controls::ICOMNU> ICOMNU;
   windowing::FileCalls realFileCalls_;

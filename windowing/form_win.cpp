@@ -283,7 +283,7 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
   }
   const auto sender = reinterpret_cast<HWND>(lParam);
   if (isClass(sender, TOOLBARCLASSNAMEA)) {
-    onCommand(id);
+    onToolButton(id);
   } else if (isClass(sender, "Button")) {
     if (notice == BN_CLICKED) onClick(id);
   } else if (isClass(sender, "ComboBox")) {

@@ -108,8 +108,10 @@ class Form : public Window {
   /// Whether the form may be closed.
   virtual bool onQueryUnload() { return true; }
   virtual void onUnload() {}
-  /// A menu item, toolbar button or shortcut.
+  /// A menu item or shortcut.
   virtual void onCommand(int id) { (void)id; }
+  /// A button of a toolbar; what it does is mostly what its menu item does.
+  virtual void onToolButton(int id) { onCommand(id); }
   virtual void onClick(int id) { (void)id; }   ///< button, check box, option button
   virtual void onChange(int id) { (void)id; }  ///< text of a box
   virtual void onSelect(int id) { (void)id; }  ///< entry of a list, by the user

@@ -22,6 +22,7 @@ namespace {
 
 using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
+using test_support::TestPrinters;
 namespace id = library::id::props;
 
 constexpr char placeKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\GLOBAL\\Window";
@@ -318,7 +319,7 @@ int laidOutPages(windowing::Printer& printer, const std::string& text) {
 }
 
 TEST_F(Properties, PagesAreThosePrinted) {
-  const test_support::TestPrinters printers;
+  const TestPrinters printers;
   windowing::Printer printer;
   form_.setPaper([&] { return reportPaper(printer); });
   std::string report;
@@ -329,7 +330,7 @@ TEST_F(Properties, PagesAreThosePrinted) {
     for (int i = 1; i < count; ++i) text += "\r\n" + line;
     return text;
   };
-  for (const char* name : {test_support::TestPrinters::letter, test_support::TestPrinters::a4}) {
+  for (const char* name : {TestPrinters::letter, TestPrinters::a4}) {
     printer.select(name);
     int highest = 0;
     for (int count = 50; count < 70; ++count) {

@@ -67,6 +67,40 @@ TEST(Writer, FileOrderAndEditedContacts) {
   EXPECT_EQ(written(list), text);
 }
 
+// Contacts that nobody touched go out as they stand in their file, unless they stand there in
+// another way than this program writes.
+TEST(Writer, WritesEveryContactAnewThatIsNotAsItWouldWriteIt) {
+  std::string text;
+  const char* const odd[] = {"\"%\"\r\n", "%\r\n",       " \"%\"\r\n",     "\"%\"\n",
+                             "\"%\",",    "\"%\" x\r\n", "\"a\r\n%\"\r\n", "\"%\"\r"};
+  constexpr int contacts = 40;
+  for (int i = 0; i < contacts; ++i)
+    for (int line = 0; line < fieldCount; ++line) {
+      // Every other contact has one odd line.
+      std::string item = odd[i % 2 == 1 && line == i % fieldCount ? i / 2 % 8 : 0];
+      item.replace(item.find('%'), 1, std::to_string(100 * i + line));
+      text += item;
+    }
+  ContactList list;
+  ASSERT_EQ(read(text, list).result, ReadResult::whole);
+  ASSERT_EQ(list.count(), contacts);
+  list.remove(20);
+  list.remove(6);
+  list.store(10, Slot::Comments, "changed");
+  ASSERT_TRUE(list.append());
+  std::string expected;
+  for (int i = 0; i < list.count(); ++i)
+    for (const Slot slot : slotAtFilePosition)
+      expected.append("\"").append(list.field(i, slot)).append("\"\r\n");
+  EXPECT_EQ(written(list), expected);
+
+  std::size_t pieces = 0;
+  const std::string whole = sample("thousand.tly");
+  read(whole, list);
+  write(list, [&](std::string_view) { ++pieces; });
+  EXPECT_EQ(pieces, 1U) << "an untouched file goes out in one";
+}
+
 TEST(Writer, LargeTextsAndListsComeInPieces) {
   ContactList list;
   const std::string large(3 * writeChunk, 'x');

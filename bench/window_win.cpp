@@ -1,0 +1,209 @@
+// The main window at work on a full document: stepping, typing, adding, removing, and filling
+// the name box, against the least that the controls themselves take:
+//   bench_window_win FULL_DOCUMENT THOUSAND_CONTACTS
+#include <windows.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "bench/measuring.h"
+#include "document/reader.h"
+#include "library/identifiers.h"
+#include "mainwindow/document_file_win.h"
+#include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_win.h"
+#include "mainwindow/name_box_win.h"
+
+namespace {
+
+namespace id = library::id;
+using mainwindow::frmMain;
+using windowing::ComboBox;
+
+constexpr int turns = 20;
+
+/// The main window's controls without anything behind them: boxes are the system's own.
+class BareForm : public windowing::Form {
+ public:
+  BareForm() : Form(mainwindow::design::form) {}
+
+ protected:
+  void onLoad() override {
+    for (const int page : {id::FRAMADDRESS, id::FRAMADDRESSWORK}) control(page).setVisible(false);
+    SetWindowPos(control(id::FRAMGENERAL).handle(), HWND_TOP, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+  HWND createCustom(const windowing::ControlDesign& design, HWND container,
+                    const RECT& place) override {
+    return CreateWindowExA(WS_EX_CLIENTEDGE, "EDIT", "",
+                           WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, place.left,
+                           place.top, place.right - place.left, place.bottom - place.top, container,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
+                           GetModuleHandleA(nullptr), nullptr);
+  }
+};
+
+/// Lets all of a window be painted that has to be, and the messages be handled that wait.
+void settle(const windowing::Form& form) {
+  RedrawWindow(form.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  MSG message{};
+  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
+}
+
+/// Average of some runs of `work`, each with the painting that it causes.
+template <typename Work>
+double average(const windowing::Form& form, const Work& work) {
+  settle(form);
+  return bench::milliseconds([&] {
+           for (int turn = 0; turn < turns; ++turn) {
+             work(turn);
+             settle(form);
+           }
+         }) /
+         turns;
+}
+
+void goTo(frmMain& form, int index) {
+  const windowing::Control box = form.control(id::CBOTBARBOX);
+  box.send(CB_SETCURSEL, static_cast<WPARAM>(index));
+  SendMessageA(GetParent(box.handle()), WM_COMMAND, MAKEWPARAM(id::CBOTBARBOX, CBN_SELCHANGE),
+               reinterpret_cast<LPARAM>(box.handle()));
+  if (form.contacts().current() != index) std::exit(3);
+}
+
+double step(frmMain& form) {
+  goTo(form, form.contacts().count() / 2);
+  return average(form, [&](int) { form.runCommand(id::NEXT); });
+}
+
+// A letter, and the same taken back.
+char typed(int turn) {
+  return turn % 2 == 0 ? 'x' : '\b';
+}
+
+double type(frmMain& form) {
+  goTo(form, form.contacts().count() / 2);
+  return average(form, [&](int turn) {
+    form.control(id::TXTITEMS).send(WM_CHAR, static_cast<WPARAM>(typed(turn)));
+  });
+}
+
+struct AddRemove {
+  double add = 0;
+  double remove = 0;
+};
+
+AddRemove addAndRemove(frmMain& form) {
+  AddRemove times;
+  for (int turn = 0; turn < turns; ++turn) {
+    goTo(form, form.contacts().count() / 2);
+    settle(form);
+    times.remove += bench::milliseconds([&] {
+      form.runCommand(id::REMOVE);
+      settle(form);
+    });
+    goTo(form, form.contacts().count() / 2);
+    settle(form);
+    times.add += bench::milliseconds([&] {
+      form.runCommand(id::ADD);
+      settle(form);
+    });
+  }
+  return {times.add / turns, times.remove / turns};
+}
+
+double stepFloor(const BareForm& bare, const document::ContactList& list) {
+  const int middle = list.count() / 2;
+  std::vector<document::ContactRecord> records;
+  for (int turn = 0; turn < turns; ++turn) records.push_back(list.record(middle + turn + 1));
+  const ComboBox names(bare.control(id::CBOTBARBOX).handle());
+  names.select(middle);
+  return average(bare, [&](int turn) {
+    const document::ContactRecord& record = records[static_cast<std::size_t>(turn)];
+    for (const document::Field& field : document::fields)
+      bare.control(mainwindow::design::boxId(field)).setText(record[field.slot]);
+    names.select(middle + turn + 1);
+  });
+}
+
+double typeFloor(const BareForm& bare, const document::ContactList& list) {
+  const int middle = list.count() / 2;
+  const std::string entry = list.nameEntry(middle);
+  const ComboBox names(bare.control(id::CBOTBARBOX).handle());
+  names.select(middle);
+  return average(bare, [&](int turn) {
+    bare.control(id::TXTITEMS).send(WM_CHAR, static_cast<WPARAM>(typed(turn)));
+    const windowing::PaintingSuspended suspended(names.handle());
+    names.replace(middle, entry + typed(turn));
+  });
+}
+
+/// The fastest of the ways there are, with all texts at hand.
+double fillFloor(const ComboBox& box, const std::vector<std::string>& entries) {
+  double fastest = 1e9;
+  for (const bool storage : {false, true}) {
+    box.clear();
+    fastest = std::min(fastest, bench::milliseconds([&] {
+                         const windowing::PaintingSuspended suspended(box.handle());
+                         if (storage) box.send(CB_INITSTORAGE, entries.size(), 1000000);
+                         for (const std::string& entry : entries)
+                           box.send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+                       }));
+  }
+  return fastest;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) return 2;
+  const std::string full = argv[1];
+  const std::string thousand = argv[2];
+  windowing::FileCalls files;
+  document::ContactList list;
+  if (document::read(mainwindow::readFile(full, files).bytes, list).contacts != list.maxCount)
+    return 3;
+  std::vector<std::string> entries;
+  for (int i = 0; i < list.count(); ++i) entries.push_back(list.nameEntry(i));
+
+  BareForm bare;
+  bare.show();
+  const ComboBox bareNames(bare.control(id::CBOTBARBOX).handle());
+  mainwindow::fillNameBox(bareNames, list);
+  frmMain form;
+  form.show();
+
+  bench::Figure overFloor;
+  bench::Figure flatStep;
+  bench::Figure typing;
+  bench::Figure flatTyping;
+  bench::Figure adding;
+  bench::Figure removing;
+  bench::Figure filling;
+  for (int round = 0; round < bench::rounds; ++round) {
+    form.FILELOAD(thousand);
+    const double smallStep = step(form);
+    const double smallTyping = type(form);
+    form.FILELOAD(full);
+    const double fullStep = step(form);
+    overFloor.add(fullStep, stepFloor(bare, list));
+    flatStep.add(fullStep, smallStep);
+    const double fullTyping = type(form);
+    typing.add(fullTyping, typeFloor(bare, list));
+    flatTyping.add(fullTyping, smallTyping);
+    const AddRemove times = addAndRemove(form);
+    adding.add(times.add, fullStep);
+    removing.add(times.remove, fullStep);
+    bareNames.clear();
+    const double filled = bench::milliseconds([&] { mainwindow::fillNameBox(bareNames, list); });
+    filling.add(filled, fillFloor(bareNames, entries));
+  }
+  overFloor.tell("Next / 28 texts, selection, painting (ms)", 1.5);
+  flatStep.tell("Next at 32,767 / at 1,000 contacts (ms)", 1.2);
+  typing.tell("letter in the surname / bare box and entry (ms)", 2.0);
+  flatTyping.tell("letter at 32,767 / at 1,000 contacts (ms)", 1.5);
+  adding.tell("Add / Next (ms)", 1.5);
+  removing.tell("Remove in the middle / Next (ms)", 1.5);
+  filling.tell("filling the name box / fastest filling (ms)", 1.3);
+  return 0;
+}

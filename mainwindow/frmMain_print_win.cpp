@@ -1,0 +1,66 @@
+// Printing the contact on screen.
+#include "library/clsLibrary_win.h"
+#include "library/identifiers.h"
+#include "mainwindow/frmMain_win.h"
+#include "printing/clsPrinting_win.h"
+#include "printing/compose_report_win.h"
+#include "printing/frmPPrev_win.h"
+#include "windowing/printer_win.h"
+
+namespace mainwindow {
+
+using library::LIBRARY;
+namespace id = library::id;
+
+namespace {
+
+constexpr int noPrinter = 13;  // message: there is no printer
+
+// An hourglass for the length of a scope, errors included.
+class Hourglass {
+ public:
+  Hourglass() : old_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {}
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+  ~Hourglass() { SetCursor(old_); }
+
+ private:
+  HCURSOR old_;
+};
+
+// Whether there is a printer; the user is told when there is none.
+bool printerInstalled() {
+  if (!windowing::printerNames().empty()) return true;
+  LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
+  return false;
+}
+
+}  // namespace
+
+// The box is made when something is printed for the first time: most sessions never do, and the
+// system's rich text library takes its time to load.
+windowing::RichTextBox& frmMain::RTF1() {
+  if (RTF1_.handle() == nullptr) RTF1_.create(handle(), id::RTF1, {0, 0, 100, 100});
+  return RTF1_;
+}
+
+// From what stands in the boxes: edits that are not stored yet are printed as they stand.
+void frmMain::ComposeContactReport() {
+  const Hourglass waiting;
+  printing::composeReport(valuesOnScreen(), RTF1(), printing::thePreview().RTF3());
+}
+
+// The toolbar's button prints the contact on screen at once. The menu's command prints the report
+// composed last, after the dialog; that is deliberate.
+void frmMain::printAtOnce() {
+  if (!printerInstalled()) return;
+  ComposeContactReport();
+  printing::PRINTING().PRINTDOCUMENT(printing::thePreview(), RTF1(), true);
+}
+
+void frmMain::printLastReport() {
+  if (!printerInstalled()) return;
+  printing::PRINTING().PRINTDOCUMENT(printing::thePreview(), RTF1(), false);
+}
+
+}  // namespace mainwindow

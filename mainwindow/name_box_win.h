@@ -1,0 +1,12 @@
+// The box in the toolbar that lists the contacts by name.
+#pragma once
+
+#include "document/ContactList.h"
+#include "windowing/control_win.h"
+
+namespace mainwindow {
+
+/// Makes the entries of `box` those of `list`, one for each contact; none is selected.
+void fillNameBox(const windowing::ComboBox& box, const document::ContactList& list);
+
+}  // namespace mainwindow
