@@ -3,9 +3,12 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "controls/ICOMNU_win.h"
-#include "dialogs/frmAbout_win.h"
+
 #include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_win.h"
 #include "printing/preview_commands.h"
@@ -35,6 +38,8 @@ bool isList(HWND window) {
 
 void frmPPrev::ICONMENUS() {
   load();
+  // Sizes that change with the menu bar are for the time when it is complete.
+  const bool ready = std::exchange(ready_, false);
   ICOMNU->clear();
   ICOMNU->setImages(IMGLST);
   for (const PreviewCommand& command : previewCommands) {
@@ -44,6 +49,7 @@ void frmPPrev::ICONMENUS() {
     LIBRARY().ICOMNUSETUP(*this, *this, command.number, std::string(command.key));
   }
   SetMenu(handle(), ICOMNU->bar());
+  ready_ = ready;
 }
 
 controls::ICOMNU& frmPPrev::iconMenus() {
@@ -84,7 +90,7 @@ bool frmPPrev::handleKey(const MSG& message) {
   return false;
 }
 
-void frmPPrev::runCommand(int command, bool fromToolbar) {
+void frmPPrev::runCommand(int command) {
   if (!commandEnabled(command)) return;
   for (const ZoomLevel& level : zoomLevels) {
     if (level.command != command) continue;
@@ -93,7 +99,7 @@ void frmPPrev::runCommand(int command, bool fromToolbar) {
   }
   switch (command) {
     case id::PRINT:
-      return print(fromToolbar);
+      return print(false);
     case id::CLOSE:
       static_cast<void>(unload());
       return;
@@ -113,10 +119,16 @@ void frmPPrev::runCommand(int command, bool fromToolbar) {
     case id::ZOOMOUT:
       return PRINTING().ZOOMOUT();
     case id::ABOUT:
-      return dialogs::frmAbout().showModal();
+      return library::modLibrary().showAbout();
     default:
       return;
   }
+}
+
+// Every button runs its menu item's command but one: Print prints everything without a dialog.
+void frmPPrev::onToolButton(int command) {
+  if (command == id::PRINT && commandEnabled(command)) return print(true);
+  runCommand(command);
 }
 
 void frmPPrev::print(bool atOnce) {
@@ -153,14 +165,9 @@ LRESULT frmPPrev::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT answer = 0;
   if (ICOMNU->handleMessage(handle(), message, wParam, lParam, answer)) return answer;
   if (message == WM_COMMAND && lParam != 0) {
-    const auto sender = reinterpret_cast<HWND>(lParam);
-    if (sender == TBARMAIN().handle()) {
-      // Print's button and its menu item differ in what they do.
-      runCommand(LOWORD(wParam), true);
-      return 0;
-    }
     // With the page chosen, the keys of the pages work again.
-    if (isList(sender) && HIWORD(wParam) == CBN_CLOSEUP) control(id::PICWINDOW).focus();
+    const bool closed = HIWORD(wParam) == CBN_CLOSEUP;
+    if (closed && isList(reinterpret_cast<HWND>(lParam))) control(id::PICWINDOW).focus();
   }
   if (message == WM_ENDSESSION && wParam != FALSE) onUnload();
   return CommandForm::handleMessage(message, wParam, lParam);

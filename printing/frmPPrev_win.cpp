@@ -13,6 +13,7 @@
 #include "printing/frmPPrev_design_win.h"
 #include "printing/preview_commands.h"
 #include "printing/preview_settings.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/number_text.h"
 #include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
@@ -50,8 +51,7 @@ void storeItem(const char* value, const std::string& text) {
 }
 
 void prepareList(const windowing::ComboBox& list, const char* rows) {
-  LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(list.handle())), rows, list,
-                      true);
+  LIBRARY().COMBOINIT(windowing::handleText(list.handle()), rows, list, true);
 }
 
 }  // namespace
@@ -117,13 +117,15 @@ HWND frmPPrev::createCustom(const windowing::ControlDesign& made, HWND container
 }
 
 void frmPPrev::onLoad() {
+  ready_ = false;
   takeIcon();
   buildToolbar();
+  arrangeStrip();
   prepareList(CBOPGNO(), "15");
   prepareList(CBOPGZOOM(), "8");
   ICONMENUS();
   applyView();
-  arrangeStrip();
+  ready_ = true;
   placeView();
   setFirstFocus(control(id::PICWINDOW));
 }
@@ -209,8 +211,7 @@ void frmPPrev::placeView() {
 }
 
 void frmPPrev::onSize() {
-  // The first sizes come before there is anything to place.
-  if (control(id::RTF2).handle() != nullptr) PRINTING().ZOOMSEL();
+  if (ready_) PRINTING().ZOOMSEL();
 }
 
 void frmPPrev::setPaperSize(const std::string& text) {

@@ -38,9 +38,8 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   void showPreview() override;
   void discardPreview() override;
 
-  /// Runs the command with this number, if it is offered; any other does nothing. `fromToolbar`
-  /// is for Print, whose button prints at once.
-  void runCommand(int command, bool fromToolbar = false);
+  /// Runs the command with this number, if it is offered; any other does nothing.
+  void runCommand(int command);
 
   [[nodiscard]] controls::ICOMNU& iconMenus() override;
   [[nodiscard]] const windowing::ImageList& imageList() const override { return IMGLST; }
@@ -53,6 +52,7 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   void onLoad() override;
   void onUnload() override;
   void onCommand(int command) override { runCommand(command); }
+  void onToolButton(int command) override;
   void onSelect(int id) override;
   void onSize() override;
   void onTimer(UINT_PTR timer) override { hints_.onTimer(timer); }
@@ -78,6 +78,7 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   windowing::RichTextBox RTF2_{"RTF2"};
   windowing::RichTextBox RTF3_{"RTF3"};
   windowing::PrintDialog CMD1_;
+  bool ready_ = false;  ///< controls and menus are complete
 };
 
 /// The program's one preview window.

@@ -19,9 +19,9 @@ using windowing::screenPixels;
 using windowing::screenTwips;
 
 constexpr int lineStep = 360;    // twips that an arrow scrolls: a line of text at 150 %
-constexpr int shadowReach = 3;   // pixels at 96 dots per inch, round the page
+constexpr int shadowReach = 4;   // pixels at 96 dots per inch, round the page
 constexpr int shadowDrop = 1;    // and how much lower than the page it lies
-constexpr int shadowParts = 12;  // the nearest ring takes 3 of them from the ground's light
+constexpr int shadowDepth = 40;  // hundredths of the ground's light that it takes at the page
 
 HWND child(const char* windowClass, DWORD style, HWND parent, int id) {
   const HWND made = CreateWindowExA(0, windowClass, "", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
@@ -53,9 +53,9 @@ void setBar(HWND bar, const PageSpan& span, double visible, LONG position) {
   SetScrollInfo(bar, SB_CTL, &info, TRUE);
 }
 
-COLORREF darker(COLORREF colour, int lessParts) {
-  const auto part = [lessParts](int channel) {
-    return static_cast<BYTE>(channel - channel * lessParts / shadowParts);
+COLORREF darker(COLORREF colour, int hundredths) {
+  const auto part = [hundredths](int channel) {
+    return static_cast<BYTE>(channel - channel * hundredths / 100);
   };
   return RGB(part(GetRValue(colour)), part(GetGValue(colour)), part(GetBValue(colour)));
 }
@@ -255,11 +255,13 @@ void PageView::drawShadow(HDC dc, const RECT& page) const {
   for (int ring = reach; ring > 0; --ring) {
     RECT area = lower;
     InflateRect(&area, ring, ring);
-    fill(dc, area, darker(ground, (reach + 1 - ring) * 3 / reach));
+    // Falling off with the square of the distance, as soft shadows do.
+    const int nearness = reach + 1 - ring;
+    fill(dc, area, darker(ground, shadowDepth * nearness * nearness / (reach * reach)));
   }
   RECT edge = page;
   InflateRect(&edge, 1, 1);
-  fill(dc, edge, darker(ground, 5));
+  fill(dc, edge, darker(ground, shadowDepth));
 }
 
 // All of it is drawn aside first, so that nothing flickers; what scrolling brings into view is
