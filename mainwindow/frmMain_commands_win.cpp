@@ -97,6 +97,8 @@ void frmMain::runCommand(int command) {
       return printLastReport();
     case id::PAGESETUP:
       return LIBRARY().PAGESETUPPAGESHOW();
+    case id::PRINTPREVIEW:
+      return previewLastReport();
     case id::EXIT:
       static_cast<void>(unload());
       return;
