@@ -73,31 +73,6 @@ MENUITEMINFOA infoAt(HMENU menu, UINT position) {
   return info;
 }
 
-TEST(IcoMnu, BuildsRealMenus) {
-  MenuForm form;
-  const HMENU top = GetMenu(form.handle());
-  ASSERT_EQ(GetMenuItemCount(top), 2);
-  EXPECT_EQ(infoAt(top, 0).fType & MFT_OWNERDRAW, 0u) << "the bar is the system's";
-  char text[32] = {};
-  GetMenuStringA(top, 1, text, sizeof text, MF_BYPOSITION);
-  EXPECT_STREQ(text, "&View");
-
-  const HMENU popup = GetSubMenu(top, 0);
-  EXPECT_EQ(popup, form.menus.popup(file));
-  ASSERT_EQ(GetMenuItemCount(popup), 4);
-  EXPECT_NE(infoAt(popup, 0).fType & MFT_OWNERDRAW, 0u);
-  EXPECT_EQ(infoAt(popup, 0).wID, 401u);
-  EXPECT_NE(infoAt(popup, 1).fState & MFS_GRAYED, 0u);
-  EXPECT_NE(infoAt(popup, 2).fType & MFT_SEPARATOR, 0u);
-  EXPECT_EQ(infoAt(popup, 3).hSubMenu, form.menus.popup(zoom));
-  EXPECT_NE(infoAt(form.menus.popup(zoom), 0).fState & MFS_CHECKED, 0u);
-
-  // What screen readers look for.
-  const auto* spoken = reinterpret_cast<const MSAAMENUINFO*>(infoAt(popup, 0).dwItemData);
-  EXPECT_EQ(spoken->dwMSAASignature, static_cast<DWORD>(MSAA_MENU_SIG));
-  EXPECT_STREQ(spoken->pszWText, L"Open... Ctrl+O");
-}
-
 TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
   MenuForm form;
   ICOMNU& menus = form.menus;
@@ -115,23 +90,6 @@ TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
     EXPECT_EQ(infoAt(menus.popup(file), 1).fState & MFS_GRAYED, 0u);
   }
   EXPECT_EQ(GetMenu(form.handle()), menus.bar());
-}
-
-TEST(IcoMnu, IsReadAndChangedByNumber) {
-  MenuForm form;
-  ICOMNU& menus = form.menus;
-  menus.CAPTION(open, "&Open");
-  EXPECT_EQ(menus.CAPTION(open), "&Open");
-  EXPECT_EQ(menus.ItemIcon(open), library::imageIndex("OPEN"));
-  EXPECT_EQ(menus.ItemIcon(save), -1);
-  EXPECT_EQ(menus.numberOf(402), save);
-  EXPECT_EQ(menus.numberOf(999), 0);
-  EXPECT_EQ(menus.numberWithIcon(library::imageIndex("OPEN")), open);
-  EXPECT_EQ(menus.numberWithIcon(-1), 0);
-  EXPECT_THROW((void)menus.CAPTION(99), windowing::RuntimeError);
-  EXPECT_THROW(menus.ItemIcon(99, 0), windowing::RuntimeError);
-  EXPECT_THROW(menus.AddItem(50, 99, "x", true, false, 0, false, false), windowing::RuntimeError);
-  EXPECT_THROW((void)menus.CAPTION(50), windowing::RuntimeError) << "half added";
 }
 
 TEST(IcoMnu, HighlightsCarryNumbers) {
@@ -159,38 +117,6 @@ TEST(IcoMnu, KeysRunItemsOfOpenMenus) {
   EXPECT_EQ(form.press(form.menus.popup(zoom), '2'), MAKELRESULT(1, MNC_EXECUTE));
   EXPECT_EQ(HIWORD(form.press(popup, 'q')), MNC_IGNORE);
   EXPECT_EQ(HIWORD(form.press(form.menus.bar(), 'f')), MNC_IGNORE) << "the system's own";
-}
-
-TEST(IcoMnu, MeasuresItsItems) {
-  MenuForm form;
-  const HMENU popup = form.menus.popup(file);
-  const auto measured = [&](UINT position) {
-    MEASUREITEMSTRUCT item{};
-    item.CtlType = ODT_MENU;
-    item.itemData = infoAt(popup, position).dwItemData;
-    SendMessageA(form.handle(), WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
-    return SIZE{static_cast<LONG>(item.itemWidth), static_cast<LONG>(item.itemHeight)};
-  };
-  EXPECT_GT(measured(0).cx, measured(1).cx) << "a shortcut takes room";
-  EXPECT_GE(measured(1).cy, form.images.size() + 4);
-  EXPECT_GT(measured(2).cy, 2);
-  EXPECT_LT(measured(2).cy, measured(1).cy / 2);
-
-  MEASUREITEMSTRUCT foreign{};
-  foreign.CtlType = ODT_MENU;
-  foreign.itemData = 12345;
-  LRESULT result = 0;
-  EXPECT_FALSE(form.menus.handleMessage(form.handle(), WM_MEASUREITEM, 0,
-                                        reinterpret_cast<LPARAM>(&foreign), result));
-}
-
-TEST(IcoMnu, LivesOnWhenItsFormIsLoadedAgain) {
-  MenuForm form;
-  form.menus.setEnabled(save, true);
-  ASSERT_TRUE(form.unload());
-  form.load();
-  EXPECT_EQ(GetMenuItemCount(GetMenu(form.handle())), 2);
-  EXPECT_FALSE(form.menus.isEnabled(save)) << "a new form starts anew";
 }
 
 /// One item painted into memory.
@@ -245,20 +171,6 @@ TEST(MenuDrawing, ShowsPictureCheckMarkShortcutAndArrow) {
   const Painted shortcut({"&Open\tCtrl+O", false, false, -1}, 0, images);
   EXPECT_GT(shortcut.marks(none.width() + windowing::scaled(2), shortcut.width(), ground), 20);
   EXPECT_GT(Painted({"", true, false, -1}, 0, images).width(), 0);
-}
-
-TEST(MenuDrawing, StatesLookDifferent) {
-  const windowing::ImageList images(strips);
-  MenuItemLook look{"&Open", false, false, library::imageIndex("OPEN")};
-  constexpr UINT noAccessKeys = 0x0100;
-  const UINT states[] = {0,           ODS_SELECTED, ODS_GRAYED, ODS_GRAYED | ODS_SELECTED,
-                         ODS_CHECKED, noAccessKeys};
-  for (const int image : {look.image, -1}) {
-    look.image = image;
-    for (const UINT a : states)
-      for (const UINT b : states)
-        EXPECT_EQ(Painted(look, a, images) == Painted(look, b, images), a == b) << a << ' ' << b;
-  }
 }
 
 }  // namespace

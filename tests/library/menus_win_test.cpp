@@ -113,14 +113,4 @@ TEST(LibraryMenus, DescribesToolbarButtons) {
   EXPECT_EQ(describe("SAVE"), "Zoom out of tellary.") << "no such item here";
 }
 
-TEST(LibraryMenus, RaisesWithoutItsControls) {
-  BareForm bare;
-  MenuForm form("frmMain");
-  fill(form);
-  EXPECT_THROW(LIBRARY().MENUCREATE(bare, form, "&New", "", 0, true, false, 1),
-               windowing::RuntimeError);
-  EXPECT_THROW(LIBRARY().ICOMNUSETUP(form, bare, 21, "NEW"), windowing::RuntimeError);
-  EXPECT_THROW(LIBRARY().STATUSTEXTDESC(bare, form, 21, true, ""), windowing::RuntimeError);
-}
-
 }  // namespace
