@@ -9,6 +9,7 @@
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/handles_win.h"
 #include "windowing/screen_win.h"
 
@@ -105,8 +106,7 @@ void frmAbout::onLoad() {
 void frmAbout::onClick(int clicked) {
   if (clicked == id::BTNCLOSE) unload();
   if (clicked == id::IMGLOGO)
-    LIBRARY().INTERNETACCESS(std::to_string(reinterpret_cast<std::intptr_t>(handle())), "",
-                             library::makerSite);
+    LIBRARY().INTERNETACCESS(windowing::handleText(handle()), "", library::makerSite);
 }
 
 // The two lines below the title make one edge: dark above light.

@@ -8,8 +8,8 @@
 #include "library/path_utilities.h"
 #include "library/text_utilities.h"
 #include "windowing/application_win.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/number_text.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
@@ -26,9 +26,6 @@ DWORD attributesOf(const std::string& path) {
 bool isPlainTarget(const std::string& path) {
   return isFullPath(path) && !hasWildcards(path) && path.find('\0') == std::string::npos;
 }
-
-// Longer addresses overrun a buffer of the shell on some systems and would end the program.
-constexpr std::size_t longestAddress = 960;
 
 // The shell copies paths into buffers of this size and does not survive longer ones.
 bool fitsShell(const std::string& path) {
@@ -102,11 +99,8 @@ void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& C
 void clsLibrary::INTERNETACCESS(const std::string& HWNDTEXT, const std::string& LINKTYPESTR,
                                 const std::string& ADDRESS) {
   if (ADDRESS.empty()) return;
-  const auto owner =
-      reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.')));
-  const std::string file = LINKTYPESTR + ADDRESS;
-  if (file.size() > longestAddress) return;
-  windowing::seams().shellOpen(owner, "Open", file, windowing::programFolder());
+  windowing::seams().shellOpen(windowing::handleOfText(HWNDTEXT), "Open", LINKTYPESTR + ADDRESS,
+                               windowing::programFolder());
 }
 
 std::string clsLibrary::HTMLFORMATCHECK(const std::string& ADDRESS) {

@@ -2,6 +2,7 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "library/text_utilities.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/number_text.h"
 #include "windowing/user_locale_win.h"
 
@@ -73,15 +74,14 @@ void clsLibrary::COMBOINIT(const std::string& HWNDTEXT, const std::string& ITEMC
     variables.flatCombos.back() = std::make_unique<FlatCombo>(CBONAME.handle());
   }
 
-  const windowing::ComboBox combo(
-      reinterpret_cast<HWND>(static_cast<LONG_PTR>(windowing::toInteger32(HWNDTEXT, '.'))));
+  const windowing::ComboBox combo(windowing::handleOfText(HWNDTEXT));
   const int width = static_cast<int>(combo.send(CB_GETDROPPEDWIDTH));
   const int height = comboListHeight(ITEMCOUNT, static_cast<int>(combo.send(CB_GETITEMHEIGHT)));
   const HWND found = childAtSamePlace(combo.handle());
   if (found == nullptr) return;
   SetWindowPos(found, nullptr, 0, 0, width, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
-  SendMessageA(found, WM_NULL, static_cast<WPARAM>(-1), 0);
+  combo.send(WM_NULL, static_cast<WPARAM>(-1));
   // Controls of the current look size their lists by rows and would open twice as many.
   constexpr UINT setMinimumVisible = 0x1701;  // CB_SETMINVISIBLE
   combo.send(setMinimumVisible, static_cast<WPARAM>(windowing::toInteger32(ITEMCOUNT, '.')));

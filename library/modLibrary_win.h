@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,10 +27,14 @@ struct ProgramVariables {
   std::string printerName;
   std::string paperCode;
 
+  /// Shows the about box. Forms that may not know it, as the preview, ask here.
+  std::function<void()> showAbout = [] {};
+
   int preparedCombos = 0;                              ///< combo boxes prepared so far, flat or not
   std::vector<std::unique_ptr<FlatCombo>> flatCombos;  ///< by that count less one
 };
 
+/// The one set of them.
 [[nodiscard]] ProgramVariables& modLibrary();
 
 }  // namespace library

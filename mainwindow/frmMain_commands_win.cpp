@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "controls/ICOMNU_win.h"
-#include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
 #include "mainwindow/availability.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
@@ -95,6 +95,8 @@ void frmMain::runCommand(int command) {
       return;
     case id::PRINT:
       return printLastReport();
+    case id::PAGESETUP:
+      return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:
       static_cast<void>(unload());
       return;
@@ -115,10 +117,12 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoLast);
     case id::WEBSITE:
       return openMakerSite();
+    case id::HEADERFOOTER:
+      return LIBRARY().PAGESETUPHEADFOOTSHOW();
     case id::PROPERTIES:
       return showProperties();
     case id::ABOUT:
-      return dialogs::frmAbout().showModal();
+      return library::modLibrary().showAbout();
     default:
       return;
   }

@@ -4,8 +4,10 @@
 #include <commctrl.h>
 
 #include "controls/ICOMNU_win.h"
+#include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
+#include "library/modLibrary_win.h"
 #include "library/own_keys_win.h"
 #include "library/resource_ids.h"
 #include "mainwindow/commands.h"
@@ -15,6 +17,7 @@
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/number_text.h"
 #include "windowing/screen_win.h"
 
@@ -90,6 +93,7 @@ windowing::TextBox frmMain::TXTITEMS(int index) const {
 
 void frmMain::onLoad() {
   windowing::setMainWindow(handle());
+  library::modLibrary().showAbout = [] { dialogs::frmAbout().showModal(); };
   SetWindowTextA(handle(), windowing::productName().c_str());
   for (const int size : {ICON_BIG, ICON_SMALL}) {
     const bool big = size == ICON_BIG;
@@ -100,7 +104,7 @@ void frmMain::onLoad() {
                                 GetSystemMetrics(big ? SM_CYICON : SM_CYSMICON), LR_SHARED)));
   }
   windowing::setSurface(control(id::PICHEADER).handle(), windowing::Surface::window);
-  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10, true));
+  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10));
   for (const char* caption : {"General", "Home Address", "Work Address"}) TABMAIN().add(caption);
   for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL}) {
     const HWND frame = control(page).handle();
@@ -111,8 +115,7 @@ void frmMain::onLoad() {
   buildToolbar();
   prepareLinks();
 
-  LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(CBOTBARBOX().handle())), "15",
-                      CBOTBARBOX(), true);
+  LIBRARY().COMBOINIT(windowing::handleText(CBOTBARBOX().handle()), "15", CBOTBARBOX(), true);
   ICONMENUS();
   try {
     LIBRARY().FORMLOAD(name(), *this, false);

@@ -8,11 +8,13 @@
 #include "library/text_utilities.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
+#include "windowing/handle_text_win.h"
 
 namespace mainwindow {
 
 using controls::TXTBTN;
 using library::LIBRARY;
+using windowing::handleText;
 namespace id = library::id;
 
 namespace {
@@ -30,11 +32,6 @@ bool isWeb(int box) {
   for (const Link& link : links)
     if (link.id == box) return link.web;
   return false;
-}
-
-// Windows travel through the library as the decimal text of their handles.
-std::string handleText(HWND window) {
-  return std::to_string(static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(window)));
 }
 
 }  // namespace

@@ -24,7 +24,8 @@ std::u16string readText(HWND control) {
   const LRESULT size = ask(control, EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&length), nullptr);
   std::wstring wide(static_cast<std::size_t>(std::max<LRESULT>(size, 0)) + 1, L'\0');
   GETTEXTEX wanted{};
-  wanted.cb = static_cast<DWORD>(wide.size() * sizeof(wchar_t));
+  const std::size_t room = wide.size() * sizeof(wchar_t);
+  wanted.cb = static_cast<DWORD>(room);
   wanted.flags = GT_DEFAULT;
   wanted.codepage = wideText;
   const LRESULT read = ask(control, EM_GETTEXTEX, reinterpret_cast<WPARAM>(&wanted), wide.data());

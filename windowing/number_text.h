@@ -1,6 +1,6 @@
 // Numbers and truth values as text: what settings, controls and labels hold. Every room
-// converts here, so that a fraction stored under one user's decimal sign reads right under
-// another's, and nothing depends on the C library's locale.
+// converts here, so that "." and the user's own decimal sign read right everywhere, and nothing
+// depends on the C library's locale.
 #pragma once
 
 #include <cstdint>

@@ -1,9 +1,10 @@
 #include "windowing/page_picture_win.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <span>
 
+#include "windowing/smooth_shrink.h"
 #include "windowing/system_error_win.h"
 #include "windowing/units.h"
 
@@ -12,6 +13,7 @@ namespace {
 
 // How many times finer than shown a picture is drawn before it is brought to its size: small
 // pages need it to stay readable, large ones would only take memory.
+// StretchBlt is no help: some hosts leave thin lines out whatever its mode.
 int fineness(const SIZE& shown) {
   constexpr std::int64_t mostPixels = 6'000'000;
   constexpr int finest = 4;
@@ -20,6 +22,41 @@ int fineness(const SIZE& shown) {
   while (factor > 1 && pixels * factor * factor > mostPixels) --factor;
   return factor;
 }
+
+// A bitmap in memory whose pixels can be reached directly, rows from the top.
+class PixelSurface {
+ public:
+  explicit PixelSurface(const SIZE& size)
+      : count_(static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy)),
+        dc_(CreateCompatibleDC(nullptr)) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    bitmap_.reset(CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    bits_ = static_cast<std::uint32_t*>(bits);
+    if (bitmap_) old_ = SelectObject(dc_.get(), bitmap_.get());
+  }
+  PixelSurface(const PixelSurface&) = delete;
+  PixelSurface& operator=(const PixelSurface&) = delete;
+  ~PixelSurface() {
+    if (bitmap_) SelectObject(dc_.get(), old_);
+  }
+  [[nodiscard]] bool usable() const { return bits_ != nullptr; }
+  [[nodiscard]] HDC dc() const { return dc_.get(); }
+  [[nodiscard]] std::span<std::uint32_t> pixels() const { return {bits_, count_}; }
+
+ private:
+  std::size_t count_;
+  std::uint32_t* bits_ = nullptr;
+  MemoryDc dc_;
+  BitmapHandle bitmap_;
+  HGDIOBJ old_ = nullptr;
+};
 
 }  // namespace
 
@@ -47,17 +84,15 @@ void PagePicture::draw(HDC device, const RECT& place) const {
   const SIZE shown{place.right - place.left, place.bottom - place.top};
   if (shown.cx <= 0 || shown.cy <= 0) return;
   const int factor = fineness(shown);
+  const PixelSurface fine({shown.cx * factor, shown.cy * factor});
+  const PixelSurface coarse(shown);
+  if (!fine.usable() || !coarse.usable()) return;
   const RECT all{0, 0, shown.cx * factor, shown.cy * factor};
-  const MemoryDc memory(CreateCompatibleDC(device));
-  const BitmapHandle bitmap(CreateCompatibleBitmap(device, all.right, all.bottom));
-  if (!memory || !bitmap) return;
-  const Selected selected(memory.get(), bitmap.get());
-  FillRect(memory.get(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-  if (recording_) PlayEnhMetaFile(memory.get(), recording_.get(), &all);
-  SetStretchBltMode(device, HALFTONE);
-  SetBrushOrgEx(device, 0, 0, nullptr);
-  StretchBlt(device, place.left, place.top, shown.cx, shown.cy, memory.get(), 0, 0, all.right,
-             all.bottom, SRCCOPY);
+  FillRect(fine.dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &all);
+  GdiFlush();
+  shrinkSmoothly(fine.pixels(), coarse.pixels(), shown.cx, factor);
+  BitBlt(device, place.left, place.top, shown.cx, shown.cy, coarse.dc(), 0, 0, SRCCOPY);
 }
 
 }  // namespace windowing

@@ -54,6 +54,16 @@ std::optional<std::string> askForFile(HWND owner, const FileDialog& wanted) {
   return std::nullopt;
 }
 
+// How long an address may be is the shell's concern. But one that stands in for Windows, known by
+// an export of its own, copies addresses into a buffer of fixed size, and a longer one would end
+// the program.
+bool shellSurvives(const std::string& file) {
+  constexpr std::size_t longest = 960;
+  static const bool standIn =
+      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+  return !standIn || file.size() <= longest;
+}
+
 Seams realSeams() {
   Seams real;
   real.messageBox = [](HWND owner, const std::string& text, const std::string& title, UINT flags) {
@@ -64,7 +74,8 @@ Seams realSeams() {
   real.fileDialog = askForFile;
   real.shellOpen = [](HWND owner, const std::string& verb, const std::string& file,
                       const std::string& folder) {
-    ShellExecuteA(owner, verb.c_str(), file.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL);
+    if (shellSurvives(file))
+      ShellExecuteA(owner, verb.c_str(), file.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL);
   };
   real.localTime = [] {
     SYSTEMTIME now{};

@@ -199,8 +199,10 @@ TEST(Files, AddressesAreHandedToTheShellAsTheyStand) {
   LIBRARY().INTERNETACCESS("66", "mailto:", "");
   LIBRARY().INTERNETACCESS("66", "", "");
   EXPECT_TRUE(handed.empty());
-  for (const std::string address :
-       {"a@b.c", " two words ", "\"quoted\"", "100%20%", "javascript:x"}) {
+  for (const std::string& address :
+       {std::string("a@b.c"), std::string(" two words "), std::string("\"quoted\""),
+        std::string("100%20%"), std::string("javascript:x"), std::string(2000, 'x'),
+        std::string(32767, 'x')}) {
     LIBRARY().INTERNETACCESS("66", "mailto:", address);
     EXPECT_EQ(handed.back(), "Open mailto:" + address);
     LIBRARY().INTERNETACCESS("66", "", LIBRARY().HTMLFORMATCHECK(address));
@@ -276,6 +278,9 @@ TEST(Files, AddressesReachTheRegisteredProgram) {
   EXPECT_EQ(handedOver("mailto:", "anna b@example.org"), "mailto:anna b@example.org");
   EXPECT_EQ(handedOver("", LIBRARY().HTMLFORMATCHECK("www.example.org/a?b=c&d=%20")),
             "http://www.example.org/a?b=c&d=%20");
+  // Some shells have 1,024 characters for the program's path and the address together.
+  const std::string longAddress = "http://" + std::string(800, 'x');
+  EXPECT_EQ(handedOver("", longAddress), longAddress);
   // A program's path typed as a web address starts nothing but the browser.
   EXPECT_EQ(handedOver("", LIBRARY().HTMLFORMATCHECK("C:\\windows\\notepad.exe")),
             "http://C:\\windows\\notepad.exe");

@@ -7,12 +7,14 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "tests/support/plain_form_win.h"
+#include "windowing/handle_text_win.h"
 #include "windowing/runtime_error.h"
 
 namespace library {
 namespace {
 
 using test_support::PlainForm;
+using windowing::handleText;
 
 TEST(StatusBar, CaptionsEndInOneFullStop) {
   PlainForm form;
@@ -59,10 +61,6 @@ TEST(StatusBar, PointerInAnArea) {
   EXPECT_FALSE(pointAt(50, 65));
 }
 
-std::string handleText(const windowing::Control& control) {
-  return std::to_string(reinterpret_cast<LONG_PTR>(control.handle()));
-}
-
 // Whole rows that the open list shows.
 int droppedRows(const windowing::ComboBox& combo) {
   COMBOBOXINFO info{};
@@ -81,7 +79,7 @@ TEST(Combos, OpenTallEnoughAndStayClosedAsTheyWere) {
   for (int i = 0; i < 40; ++i) combo.add("entry");
   const RECT before = combo.pixels();
   const int prepared = modLibrary().preparedCombos;
-  LIBRARY().COMBOINIT(handleText(combo), "15", combo, false);
+  LIBRARY().COMBOINIT(handleText(combo.handle()), "15", combo, false);
   EXPECT_EQ(modLibrary().preparedCombos, prepared + 1);
   const RECT after = combo.pixels();
   EXPECT_TRUE(EqualRect(&before, &after));
@@ -90,10 +88,10 @@ TEST(Combos, OpenTallEnoughAndStayClosedAsTheyWere) {
   combo.send(CB_SHOWDROPDOWN, FALSE);
   // The box takes the width of its list.
   combo.send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(after.right - after.left + 40));
-  LIBRARY().COMBOINIT(handleText(combo), "15", combo, false);
+  LIBRARY().COMBOINIT(handleText(combo.handle()), "15", combo, false);
   EXPECT_EQ(combo.pixels().right, after.right + 40);
   for (const char* count : {"", "many", "99999999999"})
-    EXPECT_THROW(LIBRARY().COMBOINIT(handleText(combo), count, combo, false),
+    EXPECT_THROW(LIBRARY().COMBOINIT(handleText(combo.handle()), count, combo, false),
                  windowing::RuntimeError)
         << count;
 }
@@ -104,7 +102,7 @@ TEST(Combos, FlatHelpersOutliveTheirWindow) {
     PlainForm form;
     form.show();
     const windowing::ComboBox combo(form.control("CBONAMES").handle());
-    LIBRARY().COMBOINIT(handleText(combo), "15", combo, true);
+    LIBRARY().COMBOINIT(handleText(combo.handle()), "15", combo, true);
     EXPECT_EQ(modLibrary().flatCombos.back()->combo(), combo.handle());
     combo.send(WM_MOUSEMOVE);
     combo.send(WM_MOUSELEAVE);

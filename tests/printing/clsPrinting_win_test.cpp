@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "library/settings_text.h"
 #include "printing/compose_report_win.h"
 #include "printing/frmPPrev_win.h"
@@ -116,6 +118,9 @@ TEST_F(Printing, SendsHeaderFooterAndBodyOfEveryPage) {
   EXPECT_EQ(first.find("Line 1").x, (1440 - 360) * 10 / 24);
   EXPECT_EQ(first.find("05/02").x, (1640 * 10 + 12) / 24);
   EXPECT_EQ(first.find("Ann").x, 1740 * 10 / 24);
+  const int foot = (15840 - 1440 - 720) * 10 / 24;
+  EXPECT_LE(first.texts.back().y, foot);
+  EXPECT_GT(first.texts.back().y, foot - 120) << "the page is filled";
   EXPECT_NEAR(first.find("Untitled").x, (11400 - 4000) / 2.4, 1.5);
   EXPECT_NEAR(first.find("Ann").y - first.find("05/02").y, (14520 - 1440 + 360 - 740) / 2.4, 1.5);
 }
@@ -153,6 +158,10 @@ TEST_F(Printing, EndsSilentlyWhereMarginsAreWrong) {
     setMargin("2", wrong);
     EXPECT_TRUE(print().empty()) << wrong;
   }
+  // So far above the page that the header's place overflows, with the job open by then.
+  setMargin("2", "-22.4");
+  print();
+  EXPECT_FALSE(printer().documentOpen());
   setMargin("2", "22");
   EXPECT_FALSE(print().empty()) << "no room is no error";
   setMargin("2", "1");
@@ -288,6 +297,20 @@ TEST_F(Printing, DrawsThePageOnShow) {
   EXPECT_NEAR(drawing.texts[6].y - printed.texts[6].y, 300, 1);
   EXPECT_NEAR(drawing.texts[2].x, ((12240 - 15 * 170) / 2.0 + 700) / 2.4, 0.6);
   EXPECT_NEAR(drawing.texts[4].x, (12240 - 5000) / 2.4, 0.6);
+}
+
+TEST_F(Printing, FillsTheLinesUpToTheRightMargin) {
+  std::string text;
+  for (int i = 0; i < 500; ++i) text += "ii ";  // narrow, so that lines end close to the edge
+  RTF1_.setPlain(text);
+  engine_.INITIALIZEPATH(thePreview(), RTF1_);
+  engine_.PAGESEL(1, thePreview().PICSTDPAGE());
+  int widest = 0;
+  for (const test_support::DrawnText& line :
+       test_support::drawingOf(thePreview().PICSTDPAGE().recording()).texts)
+    if (line.text.rfind("ii", 0) == 0) widest = std::max(widest, line.x + line.width);
+  EXPECT_LE(widest, (12240 - 1440) * 10 / 24);
+  EXPECT_GT(widest, (12240 - 1440 - 200) * 10 / 24);
 }
 
 TEST_F(Printing, ComposesTheReport) {

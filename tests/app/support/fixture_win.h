@@ -27,7 +27,7 @@ class AppTest : public testing::Test {
   /// Takes over a program that something else started.
   Program& adopt(HWND window);
   [[nodiscard]] Program& program() const { return *program_; }
-  /// Closes the program's window, answers nothing, and waits for its end.
+  /// Closes the program's window, with nothing to ask about, and waits for its end.
   void close();
 
   /// Full path of a file in the scratch folder.

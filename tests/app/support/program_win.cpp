@@ -217,8 +217,10 @@ bool Program::running() const {
 }
 
 DWORD Program::waitForEnd() const {
-  if (WaitForSingleObject(process_, limit) != WAIT_OBJECT_0)
-    throw std::runtime_error("the program did not end");
+  waitFor("the program to end", [this] {
+    if (hasDialog()) throw std::runtime_error("the program asks instead of ending");
+    return !running();
+  });
   DWORD code = 0;
   GetExitCodeProcess(process_, &code);
   return code;

@@ -58,7 +58,7 @@ class Program {
   [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] DWORD processId() const { return processId_; }
   [[nodiscard]] bool running() const;
-  /// Waits until the program has ended by itself; its exit code.
+  /// Waits until the program has ended by itself, asking nothing; its exit code.
   DWORD waitForEnd() const;
   /// Waits until the program has done all that was asked of it: posted messages, keys and mouse.
   void settle() const;
