@@ -180,28 +180,6 @@ TEST(CentringHook, ServesTheNextDialogOnlyAndKeepsItsKind) {
   }
 }
 
-TEST(CentringHook, ArmingAndDisarmingTwiceIsHarmless) {
-  DialogDriver driver(IDOK);
-  LIBRARY().HOOKFRMUNLOAD();
-  LIBRARY().HOOKFRMLOAD();
-  LIBRARY().HOOKFRMLOAD();
-  LIBRARY().HOOKFRMUNLOAD();
-  LIBRARY().HOOKFRMUNLOAD();
-  ansiDialog();
-  for (int i = 0; i < 3; ++i) {
-    const CentredDialog neverCame;
-  }
-  ansiDialog();
-  LIBRARY().HOOKFRMLOAD();
-  LIBRARY().HOOKFRMLOAD();
-  ansiDialog();
-  ansiDialog();
-  LIBRARY().HOOKFRMUNLOAD();
-  std::string places;
-  for (const auto& dialog : driver.seen()) places += isCentred(dialog) ? "centre " : "corner ";
-  EXPECT_EQ(places, "corner corner centre corner ");
-}
-
 TEST(CentringHook, MessageBoxOpensInTheMiddle) {
   DialogDriver driver(IDOK);
   const CentredDialog centred;
