@@ -24,7 +24,8 @@ std::u16string readText(HWND control) {
   const LRESULT size = ask(control, EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&length), nullptr);
   std::wstring wide(static_cast<std::size_t>(std::max<LRESULT>(size, 0)) + 1, L'\0');
   GETTEXTEX wanted{};
-  wanted.cb = static_cast<DWORD>(wide.size() * sizeof(wchar_t));
+  const std::size_t room = wide.size() * sizeof(wchar_t);
+  wanted.cb = static_cast<DWORD>(room);
   wanted.flags = GT_DEFAULT;
   wanted.codepage = wideText;
   const LRESULT read = ask(control, EM_GETTEXTEX, reinterpret_cast<WPARAM>(&wanted), wide.data());
@@ -66,10 +67,12 @@ FormattedText readFormattedText(HWND control) {
   read.text = readText(control);
   CHARRANGE selection{};
   ask(control, EM_EXGETSEL, 0, &selection);
-  ask(control, WM_SETREDRAW, FALSE, nullptr);
+  // Letting a control paint again shows it, and this one may be hidden.
+  const bool shown = (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown) ask(control, WM_SETREDRAW, FALSE, nullptr);
   collectRuns(control, 0, static_cast<int>(read.text.size()), read.runs);
   ask(control, EM_EXSETSEL, 0, &selection);
-  ask(control, WM_SETREDRAW, TRUE, nullptr);
+  if (shown) ask(control, WM_SETREDRAW, TRUE, nullptr);
   return read;
 }
 

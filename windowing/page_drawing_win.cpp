@@ -31,7 +31,7 @@ void drawPageText(HDC page, const TextFormat& format, double x, double y, const 
   SelectObject(page, font.get());
   SetTextColor(page, RGB(0, 0, 0));
   SetBkMode(page, TRANSPARENT);
-  SetTextAlign(page, TA_LEFT | TA_TOP | TA_NOUPDATECP);
+  SetTextAlign(page, TA_TOP);
   TextOutA(page, left, top, text.c_str(), length);
   GetTextExtentPoint32A(page, text.c_str(), length, &size);
   RestoreDC(page, saved);

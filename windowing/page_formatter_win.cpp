@@ -29,7 +29,7 @@ class Canvas {
         top_(static_cast<double>(area.top) * dpiY_ / twipsPerInch),
         saved_(SaveDC(dc)) {
     SetBkMode(dc, TRANSPARENT);
-    SetTextAlign(dc, TA_LEFT | TA_BASELINE | TA_NOUPDATECP);
+    SetTextAlign(dc, TA_BASELINE);
   }
   Canvas(const Canvas&) = delete;
   Canvas& operator=(const Canvas&) = delete;

@@ -81,18 +81,27 @@ void PagePicture::finish() {
 }
 
 void PagePicture::draw(HDC device, const RECT& place) const {
-  const SIZE shown{place.right - place.left, place.bottom - place.top};
-  if (shown.cx <= 0 || shown.cy <= 0) return;
-  const int factor = fineness(shown);
+  draw(device, place, place);
+}
+
+void PagePicture::draw(HDC device, const RECT& place, const RECT& part) const {
+  const SIZE whole{place.right - place.left, place.bottom - place.top};
+  RECT visible{};
+  if (!IntersectRect(&visible, &place, &part)) return;
+  const SIZE shown{visible.right - visible.left, visible.bottom - visible.top};
+  // By the whole picture's size, so that every part of it is drawn alike.
+  const int factor = fineness(whole);
   const PixelSurface fine({shown.cx * factor, shown.cy * factor});
   const PixelSurface coarse(shown);
   if (!fine.usable() || !coarse.usable()) return;
   const RECT all{0, 0, shown.cx * factor, shown.cy * factor};
   FillRect(fine.dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-  if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &all);
+  RECT page{0, 0, whole.cx * factor, whole.cy * factor};
+  OffsetRect(&page, (place.left - visible.left) * factor, (place.top - visible.top) * factor);
+  if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &page);
   GdiFlush();
   shrinkSmoothly(fine.pixels(), coarse.pixels(), shown.cx, factor);
-  BitBlt(device, place.left, place.top, shown.cx, shown.cy, coarse.dc(), 0, 0, SRCCOPY);
+  BitBlt(device, visible.left, visible.top, shown.cx, shown.cy, coarse.dc(), 0, 0, SRCCOPY);
 }
 
 }  // namespace windowing

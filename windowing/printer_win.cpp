@@ -35,8 +35,8 @@ PrinterHandle open(const std::string& name) {
 std::string defaultPrinterName() {
   DWORD size = 0;
   GetDefaultPrinterA(nullptr, &size);
-  std::string name(size, '\0');
-  if (size != 0 && GetDefaultPrinterA(name.data(), &size)) return name.c_str();
+  std::vector<char> name(size + 1, '\0');
+  if (size != 0 && GetDefaultPrinterA(name.data(), &size)) return name.data();
   // Printers without a default among them are as good as one.
   const std::vector<std::string> names = printerNames();
   return names.empty() ? std::string() : names.front();
@@ -51,9 +51,9 @@ std::vector<std::string> printerNames() {
   DWORD count = 0;
   EnumPrintersA(kinds, nullptr, level, nullptr, 0, &size, &count);
   std::vector<PRINTER_INFO_4A> found(size / sizeof(PRINTER_INFO_4A) + 1);
-  if (size == 0 ||
-      !EnumPrintersA(kinds, nullptr, level, reinterpret_cast<BYTE*>(found.data()),
-                     static_cast<DWORD>(found.size() * sizeof(PRINTER_INFO_4A)), &size, &count))
+  const std::size_t room = found.size() * sizeof(PRINTER_INFO_4A);
+  if (size == 0 || !EnumPrintersA(kinds, nullptr, level, reinterpret_cast<BYTE*>(found.data()),
+                                  static_cast<DWORD>(room), &size, &count))
     return {};
   std::vector<std::string> names;
   for (DWORD i = 0; i < count; ++i) names.emplace_back(found[i].pPrinterName);
@@ -112,10 +112,11 @@ DEVMODEA& Printer::mode() {
 
 // Has the driver make one consistent whole of the settings: it replaces what it cannot do.
 void Printer::applyMode() {
+  DEVMODEA& wanted = mode();
   const PrinterHandle device = open(name_);
   std::vector<BYTE> result(settings_.size());
   if (DocumentPropertiesA(nullptr, device.get(), const_cast<char*>(name_.c_str()),
-                          reinterpret_cast<DEVMODEA*>(result.data()), &mode(),
+                          reinterpret_cast<DEVMODEA*>(result.data()), &wanted,
                           DM_IN_BUFFER | DM_OUT_BUFFER) < 0)
     raisePrinter();
   settings_ = std::move(result);

@@ -80,11 +80,13 @@ std::string description(const Device& device) {
     const std::string name = paper.name;
     const std::string size = numbers(paper.width, paper.height);
     const std::string set = "\"<</PageSize[" + size + "]/ImagingBBox null>>setpagedevice\"\n";
-    sizes += "*PageSize " + name + ": " + set;
-    regions += "*PageRegion " + name + ": " + set;
-    areas += "*ImageableArea " + name + ": \"" + numbers(device.left, device.bottom) + ' ' +
-             numbers(paper.width - device.right, paper.height - device.top) + "\"\n";
-    dimensions += "*PaperDimension " + name + ": \"" + size + "\"\n";
+    const std::string area = numbers(device.left, device.bottom) + ' ' +
+                             numbers(paper.width - device.right, paper.height - device.top);
+    sizes.append("*PageSize ").append(name).append(": ").append(set);
+    regions.append("*PageRegion ").append(name).append(": ").append(set);
+    areas.append("*ImageableArea ").append(name).append(": \"").append(area).append("\"\n");
+    dimensions.append("*PaperDimension ").append(name).append(": \"");
+    dimensions.append(size).append("\"\n");
   }
   const std::string standard = device.first.name;
   const std::string choice = "PickOne\n*OrderDependency: 10 AnySetup *";

@@ -83,7 +83,8 @@ TEST_F(PrintDialogs, HandTheirChoiceToTheCurrentPrinter) {
     dialog.hDevNames = GlobalAlloc(GHND, 200);
     auto* names = static_cast<DEVNAMES*>(GlobalLock(dialog.hDevNames));
     names->wDeviceOffset = 50;
-    std::strcpy(reinterpret_cast<char*>(names) + 50, TestPrinters::a4);
+    std::memcpy(reinterpret_cast<char*>(names) + 50, TestPrinters::a4,
+                std::strlen(TestPrinters::a4) + 1);
     GlobalUnlock(dialog.hDevNames);
     dialog.hDC = returned = CreateDCA("WINSPOOL", TestPrinters::a4, nullptr, nullptr);
     dialog.Flags |= PD_PAGENUMS;
