@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "controls/menu_drawing_win.h"
 #include "library/images.h"
 #include "library/resource_ids.h"

@@ -12,7 +12,6 @@
 #include "tests/support/plain_form_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "windowing/application_win.h"
-#include "windowing/modal_win.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 

@@ -2,13 +2,10 @@
 
 #include <windows.h>
 
-#include <commdlg.h>
-
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
 #include "tests/support/dialog_driver_win.h"
 #include "tests/support/plain_form_win.h"
-#include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
 #include "windowing/application_win.h"
 #include "windowing/runtime_error.h"
@@ -20,10 +17,7 @@ namespace {
 
 using test_support::DialogDriver;
 using test_support::PlainForm;
-using test_support::pumpUntil;
-using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
-using windowing::ErrorNumber;
 using windowing::screenPixels;
 
 std::string windowKeyOf(const std::string& form) {

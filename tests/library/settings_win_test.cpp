@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <limits>
-
 #include "library/clsLibrary_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
