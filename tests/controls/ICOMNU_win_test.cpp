@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "controls/menu_drawing_win.h"
 #include "library/images.h"
 #include "library/resource_ids.h"
@@ -52,10 +50,6 @@ class MenuForm : public windowing::Form {
   }
   LRESULT select(HMENU menu, int item, UINT flags) {
     return SendMessageA(handle(), WM_MENUSELECT, MAKEWPARAM(item, flags),
-                        reinterpret_cast<LPARAM>(menu));
-  }
-  LRESULT press(HMENU menu, char key) {
-    return SendMessageA(handle(), WM_MENUCHAR, MAKEWPARAM(static_cast<BYTE>(key), MF_POPUP),
                         reinterpret_cast<LPARAM>(menu));
   }
 
@@ -108,69 +102,33 @@ TEST(IcoMnu, HighlightsCarryNumbers) {
   EXPECT_EQ(form.highlights.size(), 6u);
 }
 
-TEST(IcoMnu, KeysRunItemsOfOpenMenus) {
-  MenuForm form;
-  const HMENU popup = form.menus.popup(file);
-  EXPECT_EQ(form.press(popup, 'o'), MAKELRESULT(0, MNC_EXECUTE));
-  EXPECT_EQ(form.press(popup, 's'), MAKELRESULT(1, MNC_SELECT)) << "not available";
-  EXPECT_EQ(form.press(popup, 'Z'), MAKELRESULT(3, MNC_EXECUTE));
-  EXPECT_EQ(form.press(form.menus.popup(zoom), '2'), MAKELRESULT(1, MNC_EXECUTE));
-  EXPECT_EQ(HIWORD(form.press(popup, 'q')), MNC_IGNORE);
-  EXPECT_EQ(HIWORD(form.press(form.menus.bar(), 'f')), MNC_IGNORE) << "the system's own";
+// Painted into memory: pixels from the column `left` on that do not show the menu's ground.
+int marks(const MenuItemLook& look, UINT state, LONG left, LONG right) {
+  const windowing::ImageList images(strips);
+  const SIZE size = menuItemSize(look, &images);
+  const windowing::WindowDc screen(nullptr);
+  const MemoryDc dc(CreateCompatibleDC(screen.get()));
+  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), size.cx, size.cy));
+  const windowing::Selected chosen(dc.get(), bitmap.get());
+  drawMenuItem(dc.get(), {0, 0, size.cx, size.cy}, look, state, &images);
+  int count = 0;
+  for (int y = 0; y < size.cy; ++y)
+    for (LONG x = left; x < std::min(right, size.cx); ++x)
+      if (GetPixel(dc.get(), x, y) != GetSysColor(COLOR_MENU)) ++count;
+  return count;
 }
 
-/// One item painted into memory.
-class Painted {
- public:
-  Painted(const MenuItemLook& look, UINT state, const windowing::ImageList& images)
-      : size_(menuItemSize(look, &images)) {
-    const windowing::WindowDc screen(nullptr);
-    const MemoryDc dc(CreateCompatibleDC(screen.get()));
-    const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(
-        screen.get(), static_cast<int>(size_.cx), static_cast<int>(size_.cy)));
-    const windowing::Selected chosen(dc.get(), bitmap.get());
-    drawMenuItem(dc.get(), {0, 0, size_.cx, size_.cy}, look, state, &images);
-    for (int y = 0; y < size_.cy; ++y)
-      for (int x = 0; x < size_.cx; ++x) pixels_.push_back(GetPixel(dc.get(), x, y));
-  }
-  /// Pixels in the columns from `left` to before `right` that do not show `ground`.
-  [[nodiscard]] int marks(LONG left, LONG right, COLORREF ground) const {
-    int count = 0;
-    for (LONG y = 0; y < size_.cy; ++y)
-      for (LONG x = left; x < right; ++x)
-        if (pixels_[static_cast<std::size_t>(y * size_.cx + x)] != ground) ++count;
-    return count;
-  }
-  [[nodiscard]] LONG width() const { return size_.cx; }
-  friend bool operator==(const Painted& a, const Painted& b) { return a.pixels_ == b.pixels_; }
-  friend bool operator!=(const Painted& a, const Painted& b) { return !(a == b); }
-
- private:
-  SIZE size_;
-  std::vector<COLORREF> pixels_;
-};
-
 TEST(MenuDrawing, ShowsPictureCheckMarkShortcutAndArrow) {
-  const windowing::ImageList images(strips);
-  const COLORREF ground = GetSysColor(COLOR_MENU);
   const LONG column = windowing::scaled(24);
-  const int picture = library::imageIndex("OPEN");
   const MenuItemLook plain{"&Open"};
-  const MenuItemLook pictured{"&Open", false, false, picture};
-
-  const Painted none(plain, 0, images);
-  EXPECT_EQ(none.marks(0, column, ground), 0);
-  EXPECT_GT(none.marks(column, none.width(), ground), 20) << "words";
-  EXPECT_GT(Painted(pictured, 0, images).marks(0, column, ground), 60) << "picture";
-  EXPECT_GT(Painted(plain, ODS_CHECKED, images).marks(0, column, ground), 10) << "check mark";
-  EXPECT_NE(Painted(pictured, ODS_CHECKED, images), Painted(pictured, 0, images)) << "box";
-
-  const Painted arrow({"&Open", false, true, -1}, 0, images);
-  EXPECT_NE(arrow, none);
-  EXPECT_GT(arrow.marks(arrow.width() - windowing::scaled(20), arrow.width(), ground), 8);
-  const Painted shortcut({"&Open\tCtrl+O", false, false, -1}, 0, images);
-  EXPECT_GT(shortcut.marks(none.width() + windowing::scaled(2), shortcut.width(), ground), 20);
-  EXPECT_GT(Painted({"", true, false, -1}, 0, images).width(), 0);
+  const LONG end = menuItemSize(plain, nullptr).cx + windowing::scaled(2);
+  EXPECT_EQ(marks(plain, 0, 0, column), 0);
+  EXPECT_GT(marks(plain, 0, column, end), 20) << "words";
+  EXPECT_GT(marks({"&Open", false, false, library::imageIndex("OPEN")}, 0, 0, column), 60);
+  EXPECT_GT(marks(plain, ODS_CHECKED, 0, column), 10) << "check mark";
+  EXPECT_GT(marks(plain, ODS_SELECTED, column, end), marks(plain, 0, column, end));
+  EXPECT_GT(marks({"&Open\tCtrl+O"}, 0, end, 10000), 20) << "shortcut";
+  EXPECT_GT(marks({"&Open", false, true}, 0, 0, 10000), marks(plain, 0, 0, 10000) + 8) << "arrow";
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include "library/images.h"
 #include "library/resource_ids.h"
 #include "tests/controls/control_form_win.h"
-#include "windowing/handles_win.h"
 
 using namespace controls;
 using controls::test::ControlForm;

@@ -359,16 +359,6 @@ TEST_F(Properties, KeepsNoHandles) {
   const int before = handles();
   openings(50);
   EXPECT_LT(handles(), before + 10);
-
-  show(path);
-  const auto icon =
-      reinterpret_cast<HICON>(form_.control(id::PICICON).send(STM_GETIMAGE, IMAGE_ICON));
-  ICONINFO facts{};
-  ASSERT_TRUE(GetIconInfo(icon, &facts));
-  const windowing::BitmapHandle mask(facts.hbmMask);
-  const windowing::BitmapHandle colour(facts.hbmColor);
-  show("");
-  EXPECT_FALSE(GetIconInfo(icon, &facts));
 }
 
 }  // namespace

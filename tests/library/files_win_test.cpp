@@ -8,10 +8,10 @@
 #include "library/modLibrary_win.h"
 #include "library/proper_case_win.h"
 #include "tests/support/dialog_driver_win.h"
+#include "tests/support/failing_files_win.h"
 #include "tests/support/plain_form_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "windowing/application_win.h"
-#include "windowing/modal_win.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
@@ -24,18 +24,6 @@ using test_support::pumpUntil;
 using test_support::ScratchFolder;
 using windowing::Replaced;
 using windowing::seams;
-
-std::string contents(const std::string& path) {
-  const windowing::FileHandle file(CreateFileA(
-      path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-      OPEN_EXISTING, 0, nullptr));
-  std::string bytes(70000, '\0');
-  DWORD got = 0;
-  if (!file || !ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr))
-    return "(none)";
-  bytes.resize(got);
-  return bytes;
-}
 
 TEST(Files, DeletingAsksAndPutsIntoTheRecycleBin) {
   const ScratchFolder folder;
@@ -72,7 +60,7 @@ TEST(Files, MovingAndRenaming) {
   LIBRARY().FILERENAME(file, folder / "two.tly");
   EXPECT_FALSE(ScratchFolder::exists(file));
   LIBRARY().FILEMOVE(folder / "two.tly", inner);
-  EXPECT_EQ(contents(inner + "\\two.tly"), "text");
+  EXPECT_EQ(support::bytesOf(inner + "\\two.tly"), "text");
 }
 
 TEST(Files, OverwritingIsAskedForExistingFilesOnly) {
@@ -90,43 +78,6 @@ TEST(Files, OverwritingIsAskedForExistingFilesOnly) {
   DialogDriver driver(IDNO);
   EXPECT_FALSE(LIBRARY().OVERWRITECHK(file));
 }
-
-// A scheme whose addresses go to the recording program, as mail and web addresses go to
-// theirs; what stood there before comes back.
-class Handler {
- public:
-  Handler(const std::string& scheme, const std::string& command)
-      : scheme_(scheme), saved_("Software\\TellaryTests\\saved " + scheme) {
-    copyTree(HKEY_CLASSES_ROOT, scheme_, HKEY_CURRENT_USER, saved_);
-    RegDeleteTreeA(HKEY_CLASSES_ROOT, scheme_.c_str());
-    set("", "", "URL:Test");
-    set("", "URL Protocol", "");
-    set("\\shell\\open\\command", "", command);
-  }
-  Handler(const Handler&) = delete;
-  Handler& operator=(const Handler&) = delete;
-  ~Handler() {
-    RegDeleteTreeA(HKEY_CLASSES_ROOT, scheme_.c_str());
-    copyTree(HKEY_CURRENT_USER, saved_, HKEY_CLASSES_ROOT, scheme_);
-    RegDeleteTreeA(HKEY_CURRENT_USER, saved_.c_str());
-  }
-
- private:
-  static void copyTree(HKEY from, const std::string& source, HKEY to, const std::string& target) {
-    HKEY opened = nullptr;
-    if (RegOpenKeyExA(from, source.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return;
-    const windowing::RegistryKey key(opened);
-    HKEY created = nullptr;
-    RegCreateKeyExA(to, target.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &created, nullptr);
-    const windowing::RegistryKey copy(created);
-    RegCopyTreeA(opened, nullptr, created);
-  }
-  void set(const std::string& key, const std::string& name, const std::string& text) const {
-    RegSetKeyValueA(HKEY_CLASSES_ROOT, (scheme_ + key).c_str(), name.c_str(), REG_SZ, text.c_str(),
-                    static_cast<DWORD>(text.size() + 1));
-  }
-  std::string scheme_, saved_;
-};
 
 TEST(Files, AddressesThatNothingHandlesAreSilent) {
   DialogDriver driver(IDOK);

@@ -99,18 +99,4 @@ TEST(LibraryMenus, PreviewAndPopUpReadTheItemOfTheStatusForm) {
                windowing::RuntimeError);
 }
 
-TEST(LibraryMenus, DescribesToolbarButtons) {
-  MenuForm form("frmPPrev");
-  fill(form);
-  const auto describe = [&](const char* key) {
-    LIBRARY().GETTBARDESCRIPTIONS(form, key, "tellary");
-    return form.status();
-  };
-  EXPECT_EQ(describe("NEW"), "Create a new tellary.");
-  EXPECT_EQ(describe("NO SUCH KEY"), "Create a new tellary.");
-  EXPECT_EQ(describe("ZOOM IN"), "Zoom in to tellary.");
-  EXPECT_EQ(describe("ZOOM OUT"), "Zoom out of tellary.");
-  EXPECT_EQ(describe("SAVE"), "Zoom out of tellary.") << "no such item here";
-}
-
 }  // namespace

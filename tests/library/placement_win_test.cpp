@@ -2,13 +2,10 @@
 
 #include <windows.h>
 
-#include <commdlg.h>
-
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
 #include "tests/support/dialog_driver_win.h"
 #include "tests/support/plain_form_win.h"
-#include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
 #include "windowing/application_win.h"
 #include "windowing/runtime_error.h"
@@ -20,10 +17,7 @@ namespace {
 
 using test_support::DialogDriver;
 using test_support::PlainForm;
-using test_support::pumpUntil;
-using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
-using windowing::ErrorNumber;
 using windowing::screenPixels;
 
 std::string windowKeyOf(const std::string& form) {
@@ -178,28 +172,6 @@ TEST(CentringHook, ServesTheNextDialogOnlyAndKeepsItsKind) {
     }
     EXPECT_EQ(driver.seen()[1].unicode, open == unicodeDialog);
   }
-}
-
-TEST(CentringHook, ArmingAndDisarmingTwiceIsHarmless) {
-  DialogDriver driver(IDOK);
-  LIBRARY().HOOKFRMUNLOAD();
-  LIBRARY().HOOKFRMLOAD();
-  LIBRARY().HOOKFRMLOAD();
-  LIBRARY().HOOKFRMUNLOAD();
-  LIBRARY().HOOKFRMUNLOAD();
-  ansiDialog();
-  for (int i = 0; i < 3; ++i) {
-    const CentredDialog neverCame;
-  }
-  ansiDialog();
-  LIBRARY().HOOKFRMLOAD();
-  LIBRARY().HOOKFRMLOAD();
-  ansiDialog();
-  ansiDialog();
-  LIBRARY().HOOKFRMUNLOAD();
-  std::string places;
-  for (const auto& dialog : driver.seen()) places += isCentred(dialog) ? "centre " : "corner ";
-  EXPECT_EQ(places, "corner corner centre corner ");
 }
 
 TEST(CentringHook, MessageBoxOpensInTheMiddle) {

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <limits>
-
 #include "library/clsLibrary_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
@@ -103,25 +101,12 @@ TEST(Settings, DocumentsFolder) {
   EXPECT_EQ(registry.text(registry.user(), product + "\\frmPrefs\\Items", "Files Location"), gone);
 }
 
-TEST(Settings, AreReadByTypeAndLength) {
+TEST(Settings, WhatIsNoTextOrTooLongReadsAsTheDefault) {
   const ScratchRegistry registry;
-  const struct {
-    DWORD type;
-    std::string bytes, expected;
-  } rows[] = {{REG_EXPAND_SZ, std::string("%TEMP%\0", 7), "%TEMP%"},
-              {REG_SZ, "", ""},
-              {REG_SZ, std::string(254, 'x') + '\0', std::string(254, 'x')},
-              {REG_SZ, std::string(255, 'x') + '\0', "default"},
-              {REG_SZ, std::string(10000, 'x') + '\0', "default"},
-              {REG_SZ, std::string("a\0b\0", 4), std::string("a\0b", 3)},
-              {REG_DWORD, std::string("\1\0\0\0", 4), "default"},
-              {REG_BINARY, std::string(10000, 'x'), "default"}};
-  for (const auto& row : rows) {
-    registry.put(registry.user(), key, "v", row.type, row.bytes);
-    EXPECT_EQ(read("v"), row.expected) << "type " << row.type << ", " << row.bytes.size();
-  }
-  EXPECT_EQ(read("missing"), "default");
-  EXPECT_EQ(read("v", "0"), "default") << "a number, but of no root";
+  registry.put(registry.user(), key, "v", REG_DWORD, std::string("\1\0\0\0", 4));
+  EXPECT_EQ(read("v"), "default");
+  registry.putText(registry.user(), key, "v", std::string(255, 'x'));
+  EXPECT_EQ(read("v"), "default");
   EXPECT_EQ(read("v", "HKCU"), "");
   EXPECT_FALSE(LIBRARY().REGSTRWRITE("HKCU", key, "v", "y"));
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "library/command_descriptions.h"
 #include "mainwindow/availability.h"
 
 using namespace mainwindow;

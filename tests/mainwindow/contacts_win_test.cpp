@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "library/identifiers.h"
+#include "tests/support/failing_files_win.h"
 #include "tests/support/main_window_win.h"
 
 namespace {
@@ -49,7 +50,7 @@ TEST_F(Contacts, BytesThatABoxCannotCarrySurviveAVisit) {
   open(path);
   for (const int step : {id::NEXT, id::FIRST, id::LAST, id::FIRST}) run(step);
   form.FILESAVEAS(path);
-  EXPECT_EQ(contentOf(path), bytes);
+  EXPECT_EQ(support::bytesOf(path), bytes);
   // Nor does an edit of another contact, or of another box, touch them.
   type(id::textItem(3), "Joiner");
   run(id::NEXT);
@@ -58,7 +59,7 @@ TEST_F(Contacts, BytesThatABoxCannotCarrySurviveAVisit) {
   fields[3] = "Joiner";
   std::vector<std::string> other(28, "plain");
   other[0] = "\x01\x1F\x7F\x81 tab\t.";
-  EXPECT_EQ(contentOf(path), fileOf({fields, other}));
+  EXPECT_EQ(support::bytesOf(path), fileOf({fields, other}));
 }
 
 TEST_F(Contacts, AWebAddressGetsItsSchemeWhenTheBoxIsLeft) {

@@ -46,6 +46,18 @@ std::string windowsDefault() {
   return GetDefaultPrinterA(name, &size) ? name : "";
 }
 
+TEST(NoPrinter, EveryOperationRaisesAPrinterError) {
+  ASSERT_TRUE(printerNames().empty());
+  Printer none;
+  EXPECT_EQ(errorOf([&] { (void)none.dc(); }), printerError);
+  EXPECT_EQ(errorOf([&] { (void)none.scaleHeight(); }), printerError);
+  EXPECT_EQ(errorOf([&] { none.setPaperSize(1); }), printerError);
+  EXPECT_EQ(errorOf([&] { none.newPage(); }), printerError);
+  EXPECT_EQ(errorOf([&] { none.endDocument(); }), 0) << "there is nothing to end";
+  const TestPrinters printers;
+  EXPECT_EQ(none.name(), TestPrinters::letter) << "as soon as there is one it is found";
+}
+
 class Printers : public testing::Test {
  protected:
   TestPrinters printers_;
