@@ -16,7 +16,7 @@ target_link_options(tellary_options INTERFACE -fstack-protector-strong)
 string(REPLACE "-O3" "-Os" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 foreach(source IN LISTS plain_sources)
   if(source MATCHES "/document/[^/]*$")
-    set_property(SOURCE ${source} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O3>)
+    set_property(SOURCE ${source} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
   endif()
 endforeach()
 

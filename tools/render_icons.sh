@@ -13,7 +13,8 @@ drawing() {
   if [ -f "$icons/src/$1.$2.svg" ]; then echo "$icons/src/$1.$2.svg"; else echo "$icons/src/$1.svg"; fi
 }
 
-# icon NAME SIZE...: an .ico; 256 goes in as PNG, the others as 32-bit bitmaps.
+# icon NAME SIZE...: an .ico; 64 and 256 go in as PNG, which keeps them small, the others as
+# 32-bit bitmaps.
 icon() {
   name=$1
   shift
@@ -23,7 +24,7 @@ icon() {
     shift
     base=$scratch/$name-$size
     rsvg-convert -w "$size" -h "$size" "$(drawing "$name" "$size")" -o "$base.png"
-    if [ "$size" = 256 ]; then
+    if [ "$size" -ge 64 ]; then
       convert "$base.png" -strip -define png:compression-level=9 -define png:compression-filter=5 \
         -define png:exclude-chunks=all "PNG32:$base.small.png"
       set -- "$@" "$size=$base.small.png"
