@@ -71,7 +71,12 @@ if(TELLARY_BENCH)
   file(GLOB programs CONFIGURE_DEPENDS bench/*_win.cpp)
   foreach(source IN LISTS programs)
     get_filename_component(name ${source} NAME_WE)
-    add_executable(bench_${name} ${source})
+    # With the program's own manifest: it decides which controls are used.
+    add_executable(bench_${name} ${source} app/tellary.rc)
     target_link_libraries(bench_${name} PRIVATE tellary_windows)
+    # Nobody can wait for a console program to be ready for the user.
+    if(name MATCHES "^empty_window")
+      set_target_properties(bench_${name} PROPERTIES WIN32_EXECUTABLE ON)
+    endif()
   endforeach()
 endif()

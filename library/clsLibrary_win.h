@@ -178,8 +178,13 @@ class clsLibrary {
 
   // Page setup, header and footer; their bodies live with the page setup form.
 
+  /// Opens the page setup, modal, on its page settings or on its header and footer. Where no
+  /// printer is installed, the user is told so instead.
   void PAGESETUPPAGESHOW();
   void PAGESETUPHEADFOOTSHOW();
+  /// Inches of a distance in pixels of the current printer. Raises a printer error where there is
+  /// none.
+  double SHOWUNITS(std::int32_t PIXELS, bool VERTICAL);
   /// Draws header and footer on the current printer's open page, or on a preview's picture.
   /// Margins are twips. The engine hands them over as left, top, right, bottom; the crossing is
   /// deliberate. Raises overflow where a place leaves 16 bits.

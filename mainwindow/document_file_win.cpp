@@ -7,6 +7,7 @@
 #include "library/path_utilities.h"
 #include "windowing/handles_win.h"
 #include "windowing/system_error_win.h"
+#include "windowing/user_locale_win.h"
 
 namespace mainwindow {
 
@@ -56,7 +57,7 @@ bool sameFile(const std::string& one, const std::string& other) {
 }
 
 std::string fileNameOf(const std::string& path) {
-  const std::size_t slash = library::lastBackslash(path);
+  const std::size_t slash = library::lastBackslash(path, windowing::isLeadByte);
   return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 

@@ -97,6 +97,8 @@ void frmMain::runCommand(int command) {
       return printLastReport();
     case id::PRINTPREVIEW:
       return previewLastReport();
+    case id::PAGESETUP:
+      return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:
       static_cast<void>(unload());
       return;
@@ -117,6 +119,8 @@ void frmMain::runCommand(int command) {
       return move(&frmMain::GoLast);
     case id::WEBSITE:
       return openMakerSite();
+    case id::HEADERFOOTER:
+      return LIBRARY().PAGESETUPHEADFOOTSHOW();
     case id::PROPERTIES:
       return showProperties();
     case id::ABOUT:
@@ -151,7 +155,10 @@ void frmMain::RefreshCommands() {
     if (command.id == id::SAVE) continue;
     setCommandEnabled(command.id, commandAvailable(command.id, state));
   }
-  CBOTBARBOX().setEnabled(nameBoxAvailable(state));
+  const bool anyName = nameBoxAvailable(state);
+  // A disabled control that kept the focus would leave the keyboard dead.
+  if (!anyName && CBOTBARBOX().focused()) TABMAIN().focus();
+  CBOTBARBOX().setEnabled(anyName);
 }
 
 bool frmMain::modified() const {

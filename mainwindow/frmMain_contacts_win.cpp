@@ -196,6 +196,7 @@ void frmMain::showPage(int index) {
 
 // Where a user goes on after a new contact or document came up: its first names.
 void frmMain::focusFirstField() {
+  const While filling(filling_);
   TABMAIN().select(0);
   showPage(0);
   const windowing::TextBox names = TXTITEMS(1);

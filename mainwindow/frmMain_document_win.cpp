@@ -20,6 +20,7 @@
 #include "windowing/runtime_error.h"
 #include "windowing/safe_file_win.h"
 #include "windowing/seams_win.h"
+#include "windowing/user_locale_win.h"
 
 namespace mainwindow {
 
@@ -158,6 +159,7 @@ void frmMain::openDocument() {
   dialog.title = "Open";
   dialog.filter = filter;
   dialog.folder = rememberedFolder(openFolderValue);
+  dialog.extension = extension;  // of a name typed without one
   dialog.flags = openFlags;
   std::optional<std::string> chosen;
   {
@@ -216,7 +218,8 @@ bool frmMain::saveAs() {
       answer = windowing::seams().fileDialog(windowing::dialogOwner(), dialog);
     }
     if (!answer) return false;
-    chosen = library::withDefaultExtension(*answer, std::string(".") + extension);
+    chosen =
+        library::withDefaultExtension(*answer, std::string(".") + extension, windowing::isLeadByte);
     rememberFolder(saveFolderValue, chosen);
     if (!readWhole_ && sameFile(chosen, CMD1.fileName)) {
       windowing::seams().messageBox(windowing::dialogOwner(),

@@ -104,7 +104,7 @@ void frmMain::onLoad() {
                                 GetSystemMetrics(big ? SM_CYICON : SM_CYSMICON), LR_SHARED)));
   }
   windowing::setSurface(control(id::PICHEADER).handle(), windowing::Surface::window);
-  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10, true));
+  control(id::LBLDESC).setFont(windowing::font("Tahoma", 10));
   for (const char* caption : {"General", "Home Address", "Work Address"}) TABMAIN().add(caption);
   for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL}) {
     const HWND frame = control(page).handle();
@@ -181,6 +181,13 @@ void frmMain::layOut() {
   place.bottom = place.top + windowing::screenPixels(windowHeight(heights));
   moveOuter(place);
   arrange();
+}
+
+// The room inside changes with the height of captions and menus, too.
+void frmMain::onSize() {
+  // Before everything is made, and while the menus are built anew, there is nothing to go by.
+  const bool ready = SBMAIN().handle() != nullptr && ICOMNU->numberOf(id::STANDARDBAR) != 0;
+  if (ready) arrange();
 }
 
 // Strips from the top, the status bar at the foot, the body in what is left.

@@ -51,7 +51,8 @@ void frmMain::prepareLinks() {
 }
 
 void frmMain::onNotice(int box, int notice) {
-  if (notice == TXTBTN::left && isWeb(box)) checkWebAddress(box);
+  // Where a command moves the focus on, the box may hold another contact's address by now.
+  if (notice == TXTBTN::left && isWeb(box) && !filling_) checkWebAddress(box);
   if (notice == TXTBTN::clicked) openLink(box);
 }
 

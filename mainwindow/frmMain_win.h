@@ -63,6 +63,7 @@ class frmMain : public library::CommandForm {
   void onSelect(int id) override;
   void onNotice(int id, int notice) override;
   void onTab(int id) override;
+  void onSize() override;
   void onTimer(UINT_PTR timer) override;
   LRESULT onNotify(NMHDR& header) override;
   HWND createCustom(const windowing::ControlDesign& design, HWND container,

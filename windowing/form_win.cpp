@@ -65,6 +65,12 @@ bool isPushButton(HWND window) {
                                        (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
+// Windows tells top-level windows only.
+BOOL CALLBACK passColourChange(HWND control, LPARAM) {
+  SendMessageA(control, WM_SYSCOLORCHANGE, 0, 0);
+  return TRUE;
+}
+
 // Dialog keys that the system's dialog handling does not answer as users expect outside its
 // own dialogs. True when the key was used.
 bool handleDialogKey(Form& form, const MSG& message) {
@@ -344,11 +350,15 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       restoreFocus();
       return 0;
     case WM_CLOSE:
-      unload();
+      // Below a box or a dialog the form stays: what opened it goes on when it is answered.
+      if (IsWindowEnabled(handle())) unload();
       return 0;
+    case WM_SYSCOLORCHANGE:
+      EnumChildWindows(handle(), passColourChange, 0);
+      break;
     case WM_NEXTDLGCTL:
       if (LOWORD(lParam) != 0) {
-        SetFocus(reinterpret_cast<HWND>(wParam));
+        focusOn(reinterpret_cast<HWND>(wParam));
       } else {
         focusNext(wParam != 0);
       }
@@ -357,6 +367,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       RemovePropA(handle(), formProperty);
       controls_.clear();
       lastFocus_ = nullptr;
+      // A message that another program sends does not bring a loop round; this one does.
+      PostMessageA(nullptr, WM_NULL, 0, 0);
       break;
     default:
       break;

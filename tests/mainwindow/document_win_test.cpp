@@ -35,6 +35,7 @@ TEST_F(Document, OpeningShowsTheFirstContactAndRemembersTheFolder) {
   EXPECT_EQ(dialogs[0].title, "Open");
   EXPECT_EQ(dialogs[0].fileName, "");
   EXPECT_EQ(dialogs[0].flags, 0x280004U);
+  EXPECT_EQ(dialogs[0].extension, "tly");
   EXPECT_EQ(dialogs[0].filter, "Tellary Document (*.tly)|*.tly");
   run(id::OPEN);
   EXPECT_EQ(dialogs[1].folder, scratch.path());
@@ -230,6 +231,17 @@ TEST_F(Document, NothingIsClipped) {
   }
   const RECT place = form.outerPixels();
   EXPECT_LE(place.bottom - place.top, 512);
+}
+
+// Other captions and menus chosen in the system's settings change the room inside the window.
+TEST_F(Document, TheStatusBarStaysAtTheFoot) {
+  RECT place = form.outerPixels();
+  place.bottom += 30;
+  form.moveOuter(place);
+  RECT inside{};
+  GetClientRect(form.handle(), &inside);
+  EXPECT_EQ(form.control(id::SBMAIN).pixels().bottom, inside.bottom);
+  EXPECT_EQ(form.control(id::PICMAINBOX).pixels().bottom, form.control(id::SBMAIN).pixels().top);
 }
 
 }  // namespace

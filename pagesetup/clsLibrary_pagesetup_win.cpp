@@ -1,0 +1,76 @@
+// The library's ways into the page setup.
+#include <windows.h>
+
+#include "library/clsLibrary_win.h"
+#include "pagesetup/frmPSetup_win.h"
+#include "pagesetup/ignoring_errors.h"
+#include "windowing/modal_win.h"
+#include "windowing/printer_win.h"
+#include "windowing/units.h"
+
+namespace library {
+namespace {
+
+/// Asking printers may take a while. As long as it lives, the main window says so and the pointer
+/// is an hourglass; both are gone at its end, also after a step that failed.
+class Obtaining {
+ public:
+  Obtaining() : pointer_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {
+    tell("Obtaining settings...");
+  }
+  Obtaining(const Obtaining&) = delete;
+  Obtaining& operator=(const Obtaining&) = delete;
+  ~Obtaining() {
+    tell("");
+    SetCursor(pointer_);
+  }
+
+ private:
+  static void tell(const std::string& text) {
+    pagesetup::ignoringErrors([&] {
+      windowing::Form* const main = windowing::formOf(windowing::mainWindow());
+      if (main == nullptr) return;
+      LIBRARY().STATUSBARCAPTION(*main, text, false);
+      UpdateWindow(main->control("SBMAIN").handle());
+    });
+  }
+
+  HCURSOR pointer_;
+};
+
+void showPageSetup(const char* tab) {
+  pagesetup::frmPSetup form;
+  bool printers = false;
+  {
+    const Obtaining obtaining;
+    printers = !windowing::printerNames().empty();
+    if (printers) {
+      form.load();
+      form.selectTab(tab);
+    }
+  }
+  if (!printers) {
+    constexpr int noPrinter = 13;
+    LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
+    return;
+  }
+  form.showModal();
+}
+
+}  // namespace
+
+void clsLibrary::PAGESETUPPAGESHOW() {
+  showPageSetup("PAGE");
+}
+
+void clsLibrary::PAGESETUPHEADFOOTSHOW() {
+  showPageSetup("HEADERFOOTER");
+}
+
+double clsLibrary::SHOWUNITS(std::int32_t PIXELS, bool VERTICAL) {
+  windowing::Printer& printer = windowing::printer();
+  const double twips = VERTICAL ? printer.twipsPerPixelY() : printer.twipsPerPixelX();
+  return PIXELS * twips / windowing::twipsPerInch;
+}
+
+}  // namespace library

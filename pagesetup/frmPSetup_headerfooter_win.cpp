@@ -1,0 +1,193 @@
+// The second page: what stands above and below the text of every printed page. Title and fields
+// are typed in the samples themselves.
+#include <windows.h>
+
+#include "library/clsLibrary_win.h"
+#include "library/settings_text.h"
+#include "pagesetup/frmPSetup_design_win.h"
+#include "pagesetup/frmPSetup_win.h"
+#include "pagesetup/stored_options_win.h"
+#include "windowing/container_win.h"
+#include "windowing/number_text.h"
+
+namespace pagesetup {
+
+using library::LIBRARY;
+namespace id = library::id::psetup;
+
+namespace {
+
+/// A box to tick, the group that it belongs to, and the item of the sample that it shows or
+/// hides; the boxes that switch a whole group have none.
+struct OptionBox {
+  Option option;
+  int box;
+  int master;
+  int sample;
+};
+// In the order in which they are loaded and set to their defaults: a group's own box last, so
+// that it finds the others as they are to be.
+// clang-format off
+constexpr OptionBox optionBoxes[] = {
+  {Option::field1,     id::CHKFOOTFIELD1, id::CHKFOOTER, id::TXTFOOTFIELD1},
+  {Option::field2,     id::CHKFOOTFIELD2, id::CHKFOOTER, id::TXTFOOTFIELD2},
+  {Option::footerRule, id::CHKFOOTLINE,   id::CHKFOOTER, id::LNFOOTLINE},
+  {Option::pageNumber, id::CHKFOOTPGNO,   id::CHKFOOTER, id::TXTFOOTPGNO},
+  {Option::footer,     id::CHKFOOTER,     id::CHKFOOTER, 0},
+  {Option::title,      id::CHKHEADTITLE,  id::CHKHEADER, id::TXTHEADTITLE},
+  {Option::headerRule, id::CHKHEADLINE,   id::CHKHEADER, id::LNHEADLINE},
+  {Option::date,       id::CHKHEADDATE,   id::CHKHEADER, id::TXTHEADDATE},
+  {Option::time,       id::CHKHEADTIME,   id::CHKHEADER, id::TXTHEADTIME},
+  {Option::header,     id::CHKHEADER,     id::CHKHEADER, 0},
+};
+
+struct OptionText {
+  Option option;
+  int box;
+  int master;
+};
+constexpr OptionText optionTexts[] = {
+  {Option::titleText,  id::TXTHEADTITLE,  id::CHKHEADER},
+  {Option::field1Text, id::TXTFOOTFIELD1, id::CHKFOOTER},
+  {Option::field2Text, id::TXTFOOTFIELD2, id::CHKFOOTER},
+};
+
+struct Sample {
+  int master;
+  int picture;
+  int texts[3];
+};
+constexpr Sample samples[] = {
+  {id::CHKHEADER, id::PICHEAD, {id::TXTHEADTITLE, id::TXTHEADDATE, id::TXTHEADTIME}},
+  {id::CHKFOOTER, id::PICFOOT, {id::TXTFOOTPGNO, id::TXTFOOTFIELD1, id::TXTFOOTFIELD2}},
+};
+// clang-format on
+
+constexpr Option saveOrder[] = {
+    Option::footerRule, Option::pageNumber, Option::field2,     Option::field1, Option::footer,
+    Option::title,      Option::headerRule, Option::date,       Option::time,   Option::header,
+    Option::titleText,  Option::field1Text, Option::field2Text,
+};
+static_assert(std::size(saveOrder) == optionCount &&
+              std::size(optionBoxes) + std::size(optionTexts) == optionCount);
+
+// What the settings store gives back of a text: longer ones would read as not stored.
+constexpr int longestText = static_cast<int>(library::settingBufferSize) - 1;
+
+const OptionBox* findBox(int box) {
+  for (const OptionBox& known : optionBoxes)
+    if (known.box == box) return &known;
+  return nullptr;
+}
+
+int boxOf(Option option) {
+  for (const OptionBox& known : optionBoxes)
+    if (known.option == option) return known.box;
+  for (const OptionText& known : optionTexts)
+    if (known.option == option) return known.box;
+  return 0;
+}
+
+// State of a box for its stored text: "2" is the greyed one. Anything else that is no state
+// counts as not ticked.
+int stateOf(const std::string& text) {
+  const std::optional<double> number = windowing::parseNumber(text, '.');
+  for (const int state : {BST_CHECKED, BST_INDETERMINATE})
+    if (number == state) return state;
+  return BST_UNCHECKED;
+}
+
+}  // namespace
+
+void frmPSetup::loadHeaderFooter() {
+  for (const OptionText& text : optionTexts) textBox(text.box).setLimit(longestText);
+  const HeaderFooterOptions options = readOptions();
+  for (const OptionBox& box : optionBoxes) {
+    showState(box.box, stateOf(options[box.option]));
+    clickBox(box.box);
+  }
+  for (const OptionText& text : optionTexts) textBox(text.box).setText(options[text.option]);
+}
+
+void frmPSetup::saveHeaderFooter() const {
+  for (const Option option : saveOrder) {
+    const StoredOption& stored = storedOption(option);
+    const int box = boxOf(option);
+    const bool isSwitch = findBox(box) != nullptr;
+    LIBRARY().REGSTRWRITE(
+        library::currentUserRoot, keyOf(stored), stored.valueName,
+        isSwitch ? windowing::integerText(checkBox(box).state()) : control(box).text());
+  }
+}
+
+void frmPSetup::setDefaultHeaderFooter() {
+  const auto tick = [this](int box) {
+    if (checkBox(box).state() == BST_CHECKED) return;
+    showState(box, BST_CHECKED);
+    if (clickBox(box)) enableOK(true);
+  };
+  tick(id::CHKHEADER);
+  tick(id::CHKFOOTER);
+  const DefaultTexts texts = defaultTexts();
+  for (const OptionText& text : optionTexts) {
+    const std::string usual = defaultText(storedOption(text.option).otherwise, texts);
+    if (control(text.box).text() != usual) control(text.box).setText(usual);
+  }
+  for (const OptionBox& box : optionBoxes) tick(box.box);
+}
+
+// A stored greyed state is shown as it is; the first click ends it for good.
+void frmPSetup::showState(int box, int state) const {
+  const WPARAM style = state == BST_INDETERMINATE ? BS_AUTO3STATE : BS_AUTOCHECKBOX;
+  checkBox(box).send(BM_SETSTYLE, style, TRUE);
+  checkBox(box).setState(state);
+}
+
+// Has the sample follow a box of the page; false for any other control.
+bool frmPSetup::clickBox(int clicked) {
+  const OptionBox* known = findBox(clicked);
+  if (known == nullptr) return false;
+  if (checkBox(clicked).state() != BST_INDETERMINATE)
+    checkBox(clicked).send(BM_SETSTYLE, BS_AUTOCHECKBOX, TRUE);
+  if (known->sample == 0) {
+    followMaster(clicked);
+  } else {
+    followItem(clicked);
+  }
+  return true;
+}
+
+void frmPSetup::followMaster(int box) {
+  const bool on = checkBox(box).state() == BST_CHECKED;
+  for (const OptionBox& item : optionBoxes)
+    if (item.master == box && item.sample != 0) control(item.box).setEnabled(on);
+  for (const OptionText& text : optionTexts)
+    if (text.master == box) textBox(text.box).setReadOnly(!on);
+  for (const Sample& sample : samples) {
+    if (sample.master != box) continue;
+    windowing::setSurface(control(sample.picture).handle(),
+                          on ? windowing::Surface::window : windowing::Surface::face);
+    for (const int text : sample.texts) control(text).repaint();
+  }
+}
+
+// Items that are not printed are not shown either; their texts are kept.
+void frmPSetup::followItem(int box) const {
+  control(findBox(box)->sample).setVisible(checkBox(box).state() == BST_CHECKED);
+}
+
+// The samples' texts have the colour of their picture, also those that never take input and
+// that the system would paint grey.
+HBRUSH frmPSetup::onColour(HDC dc, int coloured) {
+  for (const Sample& sample : samples)
+    for (const int text : sample.texts) {
+      if (text != coloured) continue;
+      const bool on = checkBox(sample.master).state() == BST_CHECKED;
+      SetBkColor(dc, GetSysColor(on ? COLOR_WINDOW : COLOR_BTNFACE));
+      SetTextColor(dc, GetSysColor(on ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));
+      return GetSysColorBrush(on ? COLOR_WINDOW : COLOR_BTNFACE);
+    }
+  return nullptr;
+}
+
+}  // namespace pagesetup

@@ -1,0 +1,271 @@
+// The first page: printer, paper, orientation and margins, and the sample that shows them.
+#include <windows.h>
+
+#include "controls/drawing_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
+#include "library/own_keys_win.h"
+#include "pagesetup/frmPSetup_design_win.h"
+#include "pagesetup/frmPSetup_win.h"
+#include "pagesetup/ignoring_errors.h"
+#include "pagesetup/paper_table.h"
+#include "windowing/checked.h"
+#include "windowing/number_text.h"
+#include "windowing/printer_win.h"
+#include "windowing/screen_win.h"
+#include "windowing/user_locale_win.h"
+
+namespace pagesetup {
+
+using library::LIBRARY;
+using library::modLibrary;
+using windowing::Orientation;
+using windowing::printer;
+namespace id = library::id::psetup;
+
+namespace {
+
+// Margins are shared by all of the maker's products.
+struct StoredMargin {
+  int box;
+  const char* value;
+};
+constexpr StoredMargin storedMargins[] = {{id::UDNLEFT, "Page Margin 0"},
+                                          {id::UDNRIGHT, "Page Margin 1"},
+                                          {id::UDNTOP, "Page Margin 2"},
+                                          {id::UDNBOTTOM, "Page Margin 3"}};
+constexpr char storedDefault[] = "1";
+constexpr double defaultMargin = 1.0;
+
+// Margins are limited by this paper as long as no printer told of another.
+constexpr PaperFacts usualPaper{8.5, 11, {}};
+
+// Paper is white and printed black, whatever the colours of the screen.
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF black = RGB(0, 0, 0);
+constexpr COLORREF textGrey = RGB(208, 208, 208);
+constexpr COLORREF areaGrey = RGB(128, 128, 128);
+
+std::string marginKey() {
+  return library::familyKey("\\GLOBAL\\frmPPrev\\Items");
+}
+
+// The number that a remembered text stands for; an empty one is 0, which no printer takes.
+std::int32_t number(const std::string& text) {
+  return windowing::roundTo<std::int32_t>(windowing::leadingNumber(text));
+}
+
+void applyOrientation(const std::string& text) {
+  if (!text.empty())
+    ignoringErrors([&] { printer().setOrientation(static_cast<Orientation>(number(text))); });
+}
+
+void applyPaper(const std::string& code) {
+  if (!code.empty()) ignoringErrors([&] { printer().setPaperSize(number(code)); });
+}
+
+double inches(double pixels, bool vertical) {
+  return LIBRARY().SHOWUNITS(windowing::roundTo<std::int32_t>(pixels), vertical);
+}
+
+double strip(double pixels, bool vertical) {
+  return wholeInches(inches(pixels, vertical), windowing::userDecimalSign());
+}
+
+RECT pixelsOf(const Box& box) {
+  return {windowing::screenPixels(box.left), windowing::screenPixels(box.top),
+          windowing::screenPixels(box.left + box.width),
+          windowing::screenPixels(box.top + box.height)};
+}
+
+// Lines of text as they look from afar.
+void drawTextLines(HDC dc, RECT area) {
+  InflateRect(&area, -windowing::scaled(4), -windowing::scaled(4));
+  const int thickness = windowing::scaled(1);
+  for (int top = area.top; top + thickness <= area.bottom && area.left < area.right;
+       top += windowing::scaled(5))
+    controls::fill(dc, {area.left, top, area.right, top + thickness}, textGrey);
+}
+
+}  // namespace
+
+void frmPSetup::loadPage() {
+  fillPrinters();
+  showPrinter();
+  applyOrientation(modLibrary().orientation);
+  showOrientation();
+  ignoringErrors(
+      [] { modLibrary().orientation = std::to_string(static_cast<int>(printer().orientation())); });
+  fillPapers();
+  applyPaper(modLibrary().paperCode);
+  showPaper();
+  // For the figures of the sample; who prints sets the unit that it needs.
+  printer().setScaleMode(windowing::PrinterScale::pixels);
+  paper_.reset();
+  sample_.reset();
+  readPaper();
+  loadMargins();
+  drawSample();
+}
+
+void frmPSetup::fillPrinters() {
+  CBOPRINTERS().clear();
+  for (const std::string& name : windowing::printerNames()) CBOPRINTERS().add(name);
+}
+
+void frmPSetup::showPrinter() const {
+  const windowing::ComboBox list = CBOPRINTERS();
+  list.select(-1);
+  ignoringErrors([&] {
+    for (int i = 0; i < list.count(); ++i)
+      if (list.entry(i) == printer().name()) list.select(i);
+  });
+}
+
+void frmPSetup::showOrientation() const {
+  Orientation shown = Orientation::portrait;
+  ignoringErrors([&] { shown = printer().orientation(); });
+  const bool portrait = shown == Orientation::portrait;
+  checkBox(id::OPTORIENTPORT).setState(portrait ? BST_CHECKED : BST_UNCHECKED);
+  checkBox(id::OPTORIENTLAND).setState(portrait ? BST_UNCHECKED : BST_CHECKED);
+}
+
+void frmPSetup::fillPapers() const {
+  CBOPAPER().clear();
+  for (const Paper& paper : papers) CBOPAPER().add(paper.name);
+}
+
+// Papers outside the table have no name here: nothing is selected then.
+void frmPSetup::showPaper() const {
+  CBOPAPER().select(-1);
+  ignoringErrors([this] { CBOPAPER().select(paperIndex(printer().paperSize())); });
+}
+
+void frmPSetup::loadMargins() const {
+  for (const StoredMargin& stored : storedMargins) {
+    const std::string text =
+        LIBRARY().REGSTRREAD(library::currentUserRoot, marginKey(), stored.value, storedDefault);
+    // A text that is no number leaves the field as it was designed.
+    margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(text));
+  }
+}
+
+void frmPSetup::saveMargins() const {
+  for (const StoredMargin& stored : storedMargins)
+    LIBRARY().REGSTRWRITE(library::currentUserRoot, marginKey(), stored.value,
+                          margin(stored.box).text());
+}
+
+void frmPSetup::setDefaultMargins() const {
+  for (const StoredMargin& stored : storedMargins) margin(stored.box).setValue(defaultMargin);
+}
+
+void frmPSetup::choosePrinter() {
+  try {
+    printer().select(CBOPRINTERS().entry(CBOPRINTERS().selected()));
+  } catch (const windowing::RuntimeError&) {
+    showPrinter();
+    throw;
+  }
+  // Paper and orientation of this form go to the printer at OK in any case: given to it now,
+  // they show at once what it makes of them.
+  applyPaper(paperCode_);
+  applyOrientation(orientation_);
+  showPaper();
+  showOrientation();
+  drawSample();
+  enableOK(true);
+}
+
+void frmPSetup::choosePaper() {
+  const int chosen = CBOPAPER().selected();
+  if (chosen < 0) return;
+  ignoringErrors([&] { printer().setPaperSize(papers[static_cast<std::size_t>(chosen)].code); });
+  // The driver may have refused the code; what it reports is what counts.
+  ignoringErrors([this] { paperCode_ = std::to_string(printer().paperSize()); });
+  showPaper();
+  drawSample();
+  enableOK(true);
+}
+
+void frmPSetup::chooseOrientation(int option) {
+  const std::string wanted = option == id::OPTORIENTPORT ? "1" : "2";
+  // Option buttons also report that the focus reached them.
+  if (wanted == orientation_) return;
+  applyOrientation(wanted);
+  orientation_ = wanted;
+  drawSample();
+  enableOK(true);
+}
+
+void frmPSetup::copyRemembered() {
+  if (!modLibrary().paperCode.empty()) paperCode_ = modLibrary().paperCode;
+  if (!modLibrary().orientation.empty()) orientation_ = modLibrary().orientation;
+}
+
+void frmPSetup::remember() const {
+  library::ProgramVariables& remembered = modLibrary();
+  remembered.orientation = std::to_string(number(orientation_));
+  remembered.printerName = printer().name();
+  remembered.paperCode = std::to_string(number(paperCode_));
+}
+
+void frmPSetup::applyChoices() const {
+  applyPaper(paperCode_);
+  applyOrientation(orientation_);
+}
+
+// Where the printer gives no figures, those from before stay.
+void frmPSetup::readPaper() {
+  const PaperFacts before = paper_.value_or(PaperFacts{});
+  ignoringErrors([this] {
+    const SIZE size = printer().physicalSize();
+    const POINT offset = printer().physicalOffset();
+    const double right = size.cx - (offset.x + printer().scaleWidth());
+    const double bottom = size.cy - (offset.y + printer().scaleHeight());
+    paper_ = {
+        inches(size.cx, false),
+        inches(size.cy, true),
+        {strip(offset.x, false), strip(right, false), strip(offset.y, true), strip(bottom, true)}};
+  });
+  // Limits are set for another paper only: they would put an end to what is being typed.
+  const PaperFacts& limiting = paper_ ? *paper_ : usualPaper;
+  if (limiting.width == before.width && limiting.height == before.height) return;
+  for (const int box : {id::UDNLEFT, id::UDNRIGHT})
+    margin(box).setLimits(0, largestMargin(limiting.width));
+  for (const int box : {id::UDNTOP, id::UDNBOTTOM})
+    margin(box).setLimits(0, largestMargin(limiting.height));
+}
+
+void frmPSetup::drawSample() {
+  readPaper();
+  if (!paper_) return;
+  const Sides margins{margin(id::UDNLEFT).value(), margin(id::UDNRIGHT).value(),
+                      margin(id::UDNTOP).value(), margin(id::UDNBOTTOM).value()};
+  sample_ = samplePage(*paper_, margins, psetup_design::sampleSide);
+  InvalidateRect(control(id::PICWINDOW).handle(), nullptr, FALSE);
+  const auto show = [this](int label, const std::string& text) {
+    if (control(label).text() != text) control(label).setText(text);
+  };
+  const char sign = windowing::userDecimalSign();
+  show(id::LBLHEIGHT, sizeText("Height: ", paper_->height, sign));
+  show(id::LBLWIDTH, sizeText("Width: ", paper_->width, sign));
+}
+
+void frmPSetup::paintSample(const DRAWITEMSTRUCT& item) const {
+  const controls::Buffered buffer(item.hDC, item.rcItem);
+  const HDC dc = buffer.dc();
+  const int line = windowing::scaled(1);
+  controls::fill(dc, item.rcItem, GetSysColor(COLOR_BTNFACE));
+  if (!sample_) return;
+  controls::fill(dc, pixelsOf(sample_->PICSHADOW), GetSysColor(COLOR_BTNSHADOW));
+  const RECT paper = pixelsOf(sample_->PICPAPER);
+  controls::fill(dc, paper, white);
+  controls::frame(dc, paper, black, line);
+  if (!sample_->SHPAREA) return;
+  const RECT area = pixelsOf(*sample_->SHPAREA);
+  controls::frame(dc, area, areaGrey, line);
+  drawTextLines(dc, area);
+}
+
+}  // namespace pagesetup

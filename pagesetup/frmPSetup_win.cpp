@@ -1,0 +1,248 @@
+// The dialog itself: its tabs, its buttons and its keys.
+#include "pagesetup/frmPSetup_win.h"
+
+#include "controls/PANEL_win.h"
+#include "controls/TXTSEP_win.h"
+#include "library/clsLibrary_win.h"
+#include "pagesetup/frmPSetup_design_win.h"
+#include "pagesetup/ignoring_errors.h"
+#include "windowing/application_win.h"
+#include "windowing/container_win.h"
+
+namespace pagesetup {
+
+using library::LIBRARY;
+namespace id = library::id::psetup;
+
+namespace {
+
+struct Tab {
+  std::string_view key;
+  const char* caption;
+  int frame;
+};
+constexpr Tab tabs[] = {{"PAGE", "Page", id::FRAMPAGE},
+                        {"HEADERFOOTER", "Header and Footer", id::FRAMHEADERFOOTER}};
+
+constexpr char listRows[] = "15";
+
+// The letter that reaches a control with Alt, in upper case; 0 when it has none.
+WPARAM accessLetter(const std::string& caption) {
+  const std::size_t mark = caption.find('&');
+  if (mark == std::string::npos || mark + 1 == caption.size()) return 0;
+  const char letter = caption[mark + 1];
+  return static_cast<unsigned char>(letter >= 'a' && letter <= 'z' ? letter - 'a' + 'A' : letter);
+}
+
+bool takesLetters(HWND focus) {
+  return (SendMessageA(focus, WM_GETDLGCODE, 0, 0) & (DLGC_WANTCHARS | DLGC_WANTALLKEYS)) != 0;
+}
+
+void prepareList(const windowing::ComboBox& list) {
+  LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(list.handle())), listRows,
+                      list, false);
+}
+
+}  // namespace
+
+frmPSetup::frmPSetup() : Form(psetup_design::form) {}
+
+windowing::TabStrip frmPSetup::TABSTRIP1() const {
+  return windowing::TabStrip(control(id::TABSTRIP1).handle());
+}
+windowing::ComboBox frmPSetup::CBOPRINTERS() const {
+  return windowing::ComboBox(control(id::CBOPRINTERS).handle());
+}
+windowing::ComboBox frmPSetup::CBOPAPER() const {
+  return windowing::ComboBox(control(id::CBOPAPER).handle());
+}
+windowing::CheckBox frmPSetup::checkBox(int box) const {
+  return windowing::CheckBox(control(box).handle());
+}
+windowing::TextBox frmPSetup::textBox(int box) const {
+  return windowing::TextBox(control(box).handle());
+}
+controls::SPIN frmPSetup::margin(int box) const {
+  return controls::SPIN(control(box).handle());
+}
+
+HWND frmPSetup::createCustom(const windowing::ControlDesign& design, HWND container,
+                             const RECT& place) {
+  const char* windowClass = "EDIT";
+  DWORD style = ES_READONLY;
+  switch (design.id) {
+    case id::PANEL1:
+      return controls::PANEL::create(container, design.id, place, controls::PANEL::Border::none)
+          .handle();
+    case id::TXTSEP1:
+    case id::TXTSEP2:
+      return controls::TXTSEP::create(container, design.id, place).handle();
+    case id::UDNLEFT:
+    case id::UDNRIGHT:
+    case id::UDNTOP:
+    case id::UDNBOTTOM:
+      return controls::SPIN::create(container, design.id, place).handle();
+    case id::PICWINDOW:
+      windowClass = "STATIC";
+      style = SS_OWNERDRAW;
+      break;
+    case id::LNHEADLINE:
+    case id::LNFOOTLINE:
+      windowClass = "STATIC";
+      style = SS_BLACKRECT;
+      break;
+    case id::TXTHEADTIME:
+      style |= ES_RIGHT;
+      break;
+    case id::TXTFOOTPGNO:
+      style |= ES_CENTER;
+      break;
+    default:
+      break;
+  }
+  return CreateWindowExA(0, windowClass, design.caption, WS_CHILD | WS_VISIBLE | style, place.left,
+                         place.top, place.right - place.left, place.bottom - place.top, container,
+                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
+                         windowing::programInstance(), nullptr);
+}
+
+void frmPSetup::onLoad() {
+  committed_ = false;
+  paperCode_.clear();
+  orientation_.clear();
+  for (const Tab& tab : tabs) TABSTRIP1().add(tab.caption);
+  for (const int page : {id::FRAMPAGE, id::FRAMHEADERFOOTER, id::PICDIMINSIONS})
+    windowing::setSurface(control(page).handle(), windowing::Surface::tabPage);
+  for (const int page : {id::FRAMHEADERFOOTER, id::FRAMPAGE})
+    SetWindowPos(control(page).handle(), HWND_TOP, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  selectTab(tabs[0].key);
+  ignoringErrors([this] { LIBRARY().FORMLOAD(name(), *this, false); });
+  LIBRARY().RESIZEBTNSOKCANCEL(*this);
+  loadPage();
+  loadHeaderFooter();
+  copyRemembered();
+  enableOK(false);
+  prepareList(CBOPAPER());
+  prepareList(CBOPRINTERS());
+  setFirstFocus(TABSTRIP1());
+}
+
+void frmPSetup::onUnload() {
+  LIBRARY().FORMSAVE(name(), *this, false);
+  if (committed_) applyChoices();
+  committed_ = false;
+}
+
+void frmPSetup::selectTab(std::string_view key) {
+  for (int i = 0; i < static_cast<int>(std::size(tabs)); ++i)
+    if (tabs[i].key == key) TABSTRIP1().select(i);
+  showPage(key);
+}
+
+void frmPSetup::showPage(std::string_view key) {
+  for (const Tab& shown : tabs)
+    if (shown.key == key)
+      for (const Tab& tab : tabs) control(tab.frame).setVisible(tab.key == key);
+}
+
+void frmPSetup::onTab(int) {
+  const int selected = TABSTRIP1().selected();
+  if (selected >= 0 && selected < static_cast<int>(std::size(tabs))) showPage(tabs[selected].key);
+}
+
+void frmPSetup::onClick(int clicked) {
+  switch (clicked) {
+    case id::BTNOK:
+      return acceptAll();
+    case id::BTNCANCEL:
+      unload();
+      return;
+    case id::BTNDEFAULTS:
+      return setDefaultMargins();
+    case id::BTNDEFAULTSHF:
+      return setDefaultHeaderFooter();
+    case id::OPTORIENTPORT:
+    case id::OPTORIENTLAND:
+      return chooseOrientation(clicked);
+    default:
+      if (clickBox(clicked)) enableOK(true);
+  }
+}
+
+void frmPSetup::onChange(int changed) {
+  switch (changed) {
+    case id::TXTHEADTITLE:
+    case id::TXTFOOTFIELD1:
+    case id::TXTFOOTFIELD2:
+      return enableOK(true);
+    default:
+      return;
+  }
+}
+
+void frmPSetup::onSelect(int list) {
+  if (list == id::CBOPRINTERS) choosePrinter();
+  if (list == id::CBOPAPER) choosePaper();
+}
+
+void frmPSetup::onNotice(int, int notice) {
+  if (notice != controls::SPIN::changed) return;
+  enableOK(true);
+  drawSample();
+}
+
+void frmPSetup::onEnter() {
+  if (control(id::BTNOK).enabled()) acceptAll();
+}
+
+void frmPSetup::acceptAll() {
+  committed_ = true;
+  try {
+    saveMargins();
+    saveHeaderFooter();
+    remember();
+  } catch (...) {
+    // The form stays open with the error told, and can still be cancelled.
+    committed_ = false;
+    throw;
+  }
+  unload();
+}
+
+bool frmPSetup::handleKey(const MSG& message) {
+  const bool withAlt = message.message == WM_SYSKEYDOWN;
+  if (GetKeyState(VK_CONTROL) < 0 || (!withAlt && takesLetters(message.hwnd))) return false;
+  return goToNextOf(message.wParam);
+}
+
+// Letters that several controls of a page share lead to each of them in turn; what the control
+// does is left to the next key. A letter of one control alone is the system's.
+bool frmPSetup::goToNextOf(WPARAM letter) {
+  std::vector<HWND> reached;
+  std::size_t next = 0;
+  bool passedFocus = false;
+  for (const windowing::ControlDesign& design : psetup_design::controls) {
+    const HWND window = control(design.id).handle();
+    if (window == GetFocus()) passedFocus = true;
+    if (design.kind == windowing::ControlKind::group || accessLetter(design.caption) != letter ||
+        !IsWindowVisible(window) || !IsWindowEnabled(window))
+      continue;
+    reached.push_back(window);
+    if (!passedFocus || window == GetFocus()) next = reached.size();
+  }
+  if (reached.size() < 2) return false;
+  SendMessageA(handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+  focusOn(reached[next % reached.size()]);
+  return true;
+}
+
+LRESULT frmPSetup::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_DRAWITEM && wParam == static_cast<WPARAM>(id::PICWINDOW)) {
+    paintSample(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    return TRUE;
+  }
+  return Form::handleMessage(message, wParam, lParam);
+}
+
+}  // namespace pagesetup

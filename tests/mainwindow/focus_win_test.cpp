@@ -1,0 +1,53 @@
+// Where the keyboard is, and what moving it by program does and does not do.
+#include <windows.h>
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include "library/identifiers.h"
+#include "tests/support/main_window_win.h"
+
+namespace {
+
+namespace id = library::id;
+using test_support::MainWindowTest;
+
+class Focus : public MainWindowTest {
+ protected:
+  Focus() { form.show(); }
+
+  void showPage(int page) {
+    const windowing::TabStrip tabs(form.control(id::TABMAIN).handle());
+    tabs.select(page);
+    NMHDR chosen{tabs.handle(), id::TABMAIN, static_cast<UINT>(TCN_SELCHANGE)};
+    SendMessageA(form.handle(), WM_NOTIFY, id::TABMAIN, reinterpret_cast<LPARAM>(&chosen));
+  }
+};
+
+TEST_F(Focus, LeavesTheNameBoxThatHasNoNamesLeft) {
+  form.control(id::CBOTBARBOX).focus();
+  ASSERT_TRUE(form.control(id::CBOTBARBOX).focused());
+  run(id::REMOVE);
+  EXPECT_TRUE(form.control(id::TABMAIN).focused());
+}
+
+TEST_F(Focus, MovedByACommandDoesNotLeaveAWebBox) {
+  constexpr std::size_t homeWebsite = 14;  // place in the file, from 0
+  std::vector<std::string> contact(28);
+  contact[homeWebsite] = "www.x.example";
+  const std::string path = scratch.file("web.tly", fileOf({contact}));
+  showPage(1);
+  form.control(id::CBOPWEBSITE).focus();
+  ASSERT_TRUE(form.control(id::CBOPWEBSITE).focused());
+  open(path);
+  EXPECT_TRUE(form.control(id::textItem(1)).focused());
+  EXPECT_EQ(text(id::CBOPWEBSITE), "www.x.example");
+  EXPECT_FALSE(form.modified());
+
+  showPage(1);
+  form.control(id::CBOPWEBSITE).focus();
+  form.control(id::CBOPEMAIL).focus();
+  EXPECT_EQ(text(id::CBOPWEBSITE), "http://www.x.example") << "the user leaves it";
+}
+
+}  // namespace
