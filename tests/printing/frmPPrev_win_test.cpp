@@ -202,8 +202,10 @@ TEST_F(Preview, ZoomsByMenuListAndSteps) {
       for (const Row& other : rows)
         EXPECT_EQ(form.commandChecked(other.command), other.command == row.command) << row.text;
       const double percent = std::atof(row.text);
-      if (percent != 0)
-        EXPECT_NEAR(form.PICWINDOW().pagePlace().across.length, 12240 * percent / 100, 0.01);
+      const double width = form.PICWINDOW().pagePlace().across.length;
+      if (percent != 0) {
+        EXPECT_NEAR(width, 12240 * percent / 100, 0.01);
+      }
     };
     for (std::size_t i = 0; i < std::size(rows); ++i) {
       form.runCommand(rows[i].command);
@@ -350,20 +352,42 @@ TEST_F(Preview, ReadsWhatOthersStored) {
   }
 }
 
+// Lines of the text with their places, so that neither the clock nor an empty footer matters.
+template <typename Texts>
+std::vector<std::string> placedLines(const Texts& texts) {
+  std::vector<std::string> found;
+  int top = 0;
+  for (const auto& text : texts) {
+    if (text.text.rfind("Line ", 0) != 0) continue;
+    if (found.empty()) top = text.y;
+    found.push_back(text.text + " at " + std::to_string(text.x) + ", " +
+                    std::to_string(text.y - top));
+  }
+  return found;
+}
+
 TEST_F(Preview, ShowsThePagesThatArePrinted) {
+  // Long lines, which wrap where the printer has them wrap, whatever the screen's resolution.
+  std::string text;
+  for (int number = 1; number <= 45; ++number) {
+    for (int word = 0; word < 25; ++word) text += "Line " + std::to_string(number * word) + ' ';
+    text += "\r\n";
+  }
+  RTF1_.setPlain(text);
   preview([&] {
-    for (int number = 1; number <= 3; ++number) {
-      if (number > 1) thePreview().runCommand(id::NEXT);
-      TestPrinters::clearJobs();
-      const auto drawn = test_support::drawingOf(thePreview().PICSTDPAGE().recording()).texts;
-      PRINTING().PRINTDOCUMENT(thePreview(), thePreview().RTF3(), true);
-      const std::vector<JobPage> job = test_support::pagesOf(TestPrinters::letterJob());
-      ASSERT_EQ(job.size(), 3U);
-      const auto& printed = job[static_cast<std::size_t>(number) - 1].texts;
-      ASSERT_EQ(drawn.size(), printed.size());
-      for (std::size_t i = 0; i < drawn.size(); ++i)
-        EXPECT_EQ(drawn[i].text.substr(0, 5), printed[i].text.substr(0, 5)) << number;
-      EXPECT_EQ(drawn.back().text, printed.back().text);
+    TestPrinters::clearJobs();
+    PRINTING().PRINTDOCUMENT(thePreview(), thePreview().RTF3(), true);
+    const std::vector<JobPage> job = test_support::pagesOf(TestPrinters::letterJob());
+    ASSERT_GE(job.size(), 2U);
+    ASSERT_EQ(static_cast<int>(job.size()), thePreview().CBOPGNO().count());
+    for (const JobPage& printed : job) {
+      const auto drawing = test_support::drawingOf(thePreview().PICSTDPAGE().recording());
+      // The picture is the whole paper; the printer's places count from the printable corner.
+      std::vector<test_support::DrawnText> drawn = drawing.texts;
+      for (auto& line : drawn) line.x -= 360 * 10 / 24;
+      EXPECT_GT(placedLines(drawn).size(), 1U);
+      EXPECT_EQ(placedLines(drawn), placedLines(printed.texts));
+      thePreview().runCommand(id::NEXT);
     }
   });
 }
