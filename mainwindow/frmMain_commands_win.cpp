@@ -95,10 +95,10 @@ void frmMain::runCommand(int command) {
       return;
     case id::PRINT:
       return printLastReport();
-    case id::PAGESETUP:
-      return LIBRARY().PAGESETUPPAGESHOW();
     case id::PRINTPREVIEW:
       return previewLastReport();
+    case id::PAGESETUP:
+      return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:
       static_cast<void>(unload());
       return;
