@@ -97,6 +97,22 @@ TEST_F(Document, NothingIsClipped) {
   EXPECT_LE(place.bottom - place.top, 512);
 }
 
+// The strips cover one another while they move, and what the system keeps of them is not enough.
+TEST_F(Document, AShownBarLeavesNothingUnpainted) {
+  form.show();
+  const HWND tabs = form.control(id::TABMAIN).handle();
+  for (int toggles = 0; toggles < 2; ++toggles) {
+    RedrawWindow(form.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    ASSERT_FALSE(GetUpdateRect(tabs, nullptr, FALSE));
+    run(id::STANDARDBAR);
+    RECT all{};
+    RECT unpainted{};
+    GetClientRect(tabs, &all);
+    GetUpdateRect(tabs, &unpainted, FALSE);
+    EXPECT_TRUE(EqualRect(&all, &unpainted)) << toggles;
+  }
+}
+
 // Other captions and menus chosen in the system's settings change the room inside the window.
 TEST_F(Document, TheStatusBarStaysAtTheFoot) {
   RECT place = form.outerPixels();
