@@ -82,7 +82,9 @@ TEST(Combos, FlatHelpersOutliveTheirWindow) {
   }
   EXPECT_EQ(modLibrary().preparedCombos, prepared + 20);
   ASSERT_EQ(modLibrary().flatCombos.size(), static_cast<std::size_t>(prepared + 20));
-  for (const auto& helper : modLibrary().flatCombos) {
+  // Other forms, which may still be there, prepared those before.
+  for (int i = prepared; i < prepared + 20; ++i) {
+    const auto& helper = modLibrary().flatCombos[static_cast<std::size_t>(i)];
     if (helper) {
       EXPECT_EQ(helper->combo(), nullptr);
     }
