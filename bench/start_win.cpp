@@ -39,6 +39,20 @@ HWND windowOf(DWORD process) {
   return search.found;
 }
 
+BOOL CALLBACK noteUnpainted(HWND window, LPARAM data) {
+  if (IsWindowVisible(window) && GetUpdateRect(window, nullptr, FALSE))
+    *reinterpret_cast<bool*>(data) = true;
+  return TRUE;
+}
+
+/// Whether a window and all in it have been painted.
+bool painted(HWND window) {
+  bool unpainted = false;
+  noteUnpainted(window, reinterpret_cast<LPARAM>(&unpainted));
+  EnumChildWindows(window, noteUnpainted, reinterpret_cast<LPARAM>(&unpainted));
+  return !unpainted;
+}
+
 struct Start {
   double milliseconds = 0;
   double peakBytes = 0;
@@ -52,6 +66,8 @@ Start start(const std::string& command) {
   info.cb = sizeof info;
   PROCESS_INFORMATION child{};
   HWND window = nullptr;
+  // What the program before still leaves to be cleared away must not count for this one.
+  Sleep(500);
   result.milliseconds = bench::milliseconds([&] {
     if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &info,
                         &child))
@@ -61,8 +77,9 @@ Start start(const std::string& command) {
       window = windowOf(child.dwProcessId);
       if (window == nullptr) Sleep(1);
     } while (window == nullptr);
-    // Whoever answers this has come back to its message loop.
+    // A program counts as idle before it has come back to its message loop and has painted.
     SendMessageA(window, WM_NULL, 0, 0);
+    while (!painted(window)) Sleep(1);
   });
   PROCESS_MEMORY_COUNTERS memory{};
   if (!GetProcessMemoryInfo(child.hProcess, &memory, sizeof memory)) fail("memory");
@@ -113,6 +130,9 @@ int main(int argc, char** argv) {
     opening.add(big.milliseconds - bare.milliseconds, floor);
     memory.add((big.peakBytes - nothing.peakBytes) / 1e6, size / 1e6);
     full.push_back(big.milliseconds);
+    std::printf("round %d: empty %.0f, program %.0f, notepad %.0f, full document %.0f ms\n",
+                round + 1, nothing.milliseconds, bare.milliseconds, notepad.milliseconds,
+                big.milliseconds);
   }
   overEmpty.tell("start to idle / empty window (ms)", 2.0);
   overNotepad.tell("start to idle / notepad (ms)", 1.4);

@@ -62,11 +62,13 @@ full=$prefix/drive_c/full.tly
 cp "$work/thousand.tly" "$prefix/drive_c/thousand.tly"
 
 table=$work/figures
+details=$root/build/figures.log # with the rounds, where a program tells them
+: >"$details"
 : >"$table"
 run() {
   (cd "$work" && WINERUN_TIMEOUT=900 "$root/tools/winerun" "$@") >"$work/out" 2>&1 ||
     { cat "$work/out" >&2; fail "$1 failed"; }
-  tr -d '\r' <"$work/out" >>"$table"
+  tr -d '\r' <"$work/out" | tee -a "$table" >>"$details"
 }
 
 for part in "${parts[@]}"; do
