@@ -40,15 +40,11 @@ if(EXISTS /usr/src/googletest)
   file(GLOB_RECURSE win_tests CONFIGURE_DEPENDS tests/*_win_test.cpp)
   file(GLOB win_support CONFIGURE_DEPENDS tests/support/*_win.cpp)
   file(GLOB_RECURSE app_tests CONFIGURE_DEPENDS tests/app/*_app_test.cpp)
-  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp)
+  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp tests/support/printers_win.cpp)
 
   if(win_tests)
     add_executable(tests_win ${win_tests} ${win_support} app/tellary.rc)
     target_link_libraries(tests_win PRIVATE tellary_windows gmock gtest gtest_main)
-    # Stands beside the tests, which register it as mail program and browser.
-    add_executable(recorder WIN32 tests/support/recorder/recorder_win.cpp)
-    target_link_libraries(recorder PRIVATE tellary_windows)
-    add_dependencies(tests_win recorder)
     # Only full_disk has a disk to fill.
     add_test(NAME win COMMAND tests_win --gtest_filter=-*FullDisk*)
     set_tests_properties(win PROPERTIES LABELS win)

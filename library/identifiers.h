@@ -94,6 +94,26 @@ constexpr int pageSetupControls = 3000;
 constexpr int propertiesControls = 4000;
 constexpr int aboutControls = 4500;
 
+// Controls of the print preview.
+namespace preview {
+constexpr int RTF3 = previewControls + 1;
+constexpr int RTF2 = 2002;
+constexpr int PICTBAR = 2003;
+constexpr int FRAMTBAR = 2004;
+constexpr int TBARMAIN = 2005;
+constexpr int TXTSEP1 = 2006;
+constexpr int CBOPGNO = 2007;
+constexpr int TXTSEP2 = 2008;
+constexpr int LBLZOOM = 2009;
+constexpr int CBOPGZOOM = 2010;
+constexpr int LBLPAPER = 2011;  ///< the paper's size
+constexpr int PICWINDOW = 2012;
+constexpr int SCRHBAR = 2013;  ///< the bars and their corner lie in the view
+constexpr int SCRVBAR = 2014;
+constexpr int PICFILL = 2015;
+constexpr int SBMAIN = 2016;
+}  // namespace preview
+
 // Controls of the page setup.
 namespace psetup {
 constexpr int TABSTRIP1 = pageSetupControls;

@@ -95,6 +95,8 @@ void frmMain::runCommand(int command) {
       return;
     case id::PRINT:
       return printLastReport();
+    case id::PRINTPREVIEW:
+      return previewLastReport();
     case id::PAGESETUP:
       return LIBRARY().PAGESETUPPAGESHOW();
     case id::EXIT:

@@ -58,7 +58,8 @@ void frmMain::FILELOAD(const std::string& path) {
     if (!readWhole_) throw RuntimeError(ErrorNumber::inputPastEnd, "Input past end of file");
   } catch (const RuntimeError& error) {
     // A name that no file has yet loses nothing when it is written to.
-    if (error.number() == ErrorNumber::fileNotFound) readWhole_ = true;
+    if (error.number() == ErrorNumber::fileNotFound || error.number() == ErrorNumber::pathNotFound)
+      readWhole_ = true;
     failure = std::current_exception();
   } catch (const std::bad_alloc&) {
     list_.clear();

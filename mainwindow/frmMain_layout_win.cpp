@@ -217,6 +217,9 @@ void frmMain::arrange() {
     OffsetRect(&frame, 0, inset + windowing::screenPixels(design::framesTop) - frame.top);
     control(page).placePixels(frame);
   }
+  // Parts that were moved over others have painted on them.
+  RedrawWindow(handle(), nullptr, nullptr,
+               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 }  // namespace mainwindow

@@ -63,4 +63,10 @@ void frmMain::printLastReport() {
   printing::PRINTING().PRINTDOCUMENT(printing::thePreview(), RTF1(), false);
 }
 
+// As the menu's Print: the report composed last, deliberately.
+void frmMain::previewLastReport() {
+  printing::PRINTING().setReport(RTF1());
+  printing::PRINTING().PRINTPREVIEW();
+}
+
 }  // namespace mainwindow

@@ -105,6 +105,7 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] windowing::RichTextBox& RTF1();
   void printAtOnce();
   void printLastReport();
+  void previewLastReport();
 
   // The document (frmMain_document_win.cpp).
   void newDocument();

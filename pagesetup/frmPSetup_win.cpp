@@ -8,6 +8,7 @@
 #include "pagesetup/ignoring_errors.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
+#include "windowing/handle_text_win.h"
 
 namespace pagesetup {
 
@@ -39,8 +40,7 @@ bool takesLetters(HWND focus) {
 }
 
 void prepareList(const windowing::ComboBox& list) {
-  LIBRARY().COMBOINIT(std::to_string(reinterpret_cast<std::intptr_t>(list.handle())), listRows,
-                      list, false);
+  LIBRARY().COMBOINIT(windowing::handleText(list.handle()), listRows, list, false);
 }
 
 }  // namespace

@@ -87,6 +87,7 @@ void clsPrinting::INITIALIZEPATH(DialogForm& FORM, const RichTextBox& SOURCE) {
   RichTextBox& text = host_.RTF3();
   text.setRichText(everything ? SOURCE.richText() : SOURCE.selectedRichText());
   useText(text);
+  forgetPages();
 }
 
 // Formats one page of `box` from range.cpMin on; whether the text goes on after it. A page that
@@ -114,10 +115,13 @@ std::int32_t clsPrinting::PAGECOUNT(DialogForm& FORM, int, std::int16_t LEFT, st
   const RichTextBox& text = host_.RTF3();
   // What was printed last may have been a part of this text.
   useText(text);
+  forgetPages();
+  rememberPages();
   pageCount_ = 1;
   next_ = 0;
   while (formatPage(text, measuring_)) {
     advance(measuring_);
+    laidOut_.starts.push_back(next_);
     pageCount_ = checkedAdd(pageCount_, std::int32_t{1});
   }
   // Nothing to format: the dialog stays as it is, deliberately.
@@ -217,31 +221,6 @@ void clsPrinting::sendPages() {
   printer().endDocument();
   release(text);
   release(host_.RTF3());
-}
-
-void clsPrinting::PAGESEL(std::int16_t PAGENO, windowing::PagePicture& PICTURE) {
-  GETMARGINS();
-  SetupPageLayout(wholeInches());
-  const RichTextBox& text = host_.RTF3();
-  useText(text);
-  std::int32_t page = 1;
-  for (; page < PAGENO && formatPage(text, measuring_); ++page) advance(measuring_);
-  currentPage_ = page;
-
-  const BodyMargins margins = inTwips();
-  PICTURE.begin(printer().dc());
-  // Crossed as on the printer.
-  library::LIBRARY().PAGEHEADERFOOTERINFOPREVIEW(PICTURE, std::to_string(page), margins.left,
-                                                 margins.top, margins.right, margins.bottom);
-  FORMATRANGE shown = measuring_;
-  shown.hdc = PICTURE.dc();
-  const RECT body = body_;
-  // The picture is the whole paper; places on the printer count from its printable corner.
-  OffsetRect(&body_, offsetX_, offsetY_);
-  (void)formatPage(text, shown);
-  body_ = body;
-  PICTURE.finish();
-  release(text);
 }
 
 clsPrinting& PRINTING() {

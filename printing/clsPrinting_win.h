@@ -7,6 +7,8 @@
 #include <richedit.h>
 
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 #include "printing/print_host_win.h"
 
@@ -29,8 +31,27 @@ class clsPrinting {
   /// the dialog's cancelling end it silently, but not errors in taking the text over.
   void PRINTDOCUMENT(DialogForm& FORM, const windowing::RichTextBox& SOURCE, bool SKIPDIALOG);
 
-  /// Draws page `PAGENO`, from 1, into `PICTURE` at full size.
+  // The preview (clsPrinting_preview_win.cpp). Those that turn pages and change the zoom work on
+  // the texts of the preview's two lists.
+
+  /// The box that holds the report that is previewed, as it was composed last.
+  void setReport(const windowing::RichTextBox& RTF1) { report_ = &RTF1; }
+  /// Shows the preview of the report and returns when it is closed; tells the user when there is
+  /// no printer. Raises what keeps the pages from being laid out; nothing is shown then.
+  void PRINTPREVIEW();
+  /// Draws page `PAGENO`, from 1, into `PICTURE` at full size, and shows it.
   void PAGESEL(std::int16_t PAGENO, windowing::PagePicture& PICTURE);
+  void PAGESTART();
+  void PAGENEXT();
+  void PAGEPREVIOUS();
+  void PAGEEND();
+  /// One percentage up or down; nothing from the last one or a fitted zoom.
+  void ZOOMIN();
+  void ZOOMOUT();
+  /// Applies the zoom of the zoom list, after the view was placed between the bars.
+  void ZOOMSEL();
+  /// Shows the pages as they are after printing: the dialog may have changed the printer.
+  void refreshPreview();
 
   /// Reads the four margins from the settings store. Raises type mismatch where one is not a
   /// number.
@@ -66,7 +87,32 @@ class clsPrinting {
   void advance(FORMATRANGE& range) const;
   void release(const windowing::RichTextBox& box) const;
 
+  void preparePreview();
+  void fillLists();
+  void showPaperSize();
+  void goToPage(std::int32_t page);
+  [[nodiscard]] std::int32_t shownPage() const;
+  void seekPage(std::int32_t page);
+  void drawPage(windowing::PagePicture& picture);
+  void setZoom(std::string_view text);
+  void ApplyZoomPercent(double percent);
+  void UpdatePageButtons();
+  void UpdateZoomControls();
+
+  /// Where the pages laid out so far begin, and the page they were laid out for.
+  struct LaidOut {
+    RECT body{};
+    RECT page{};
+    HDC target = nullptr;
+    std::int32_t length = -1;
+    std::vector<std::int32_t> starts;
+  };
+  void forgetPages() { laidOut_ = {}; }
+  [[nodiscard]] bool pagesStillValid() const;
+  void rememberPages();
+
   PrintHost& host_;
+  const windowing::RichTextBox* report_ = nullptr;
   FORMATRANGE measuring_{};  ///< counting pages, finding a range, drawing the preview
   FORMATRANGE printing_{};   ///< sending pages to the printer
   RECT body_{};              ///< twips, as in both ranges
@@ -84,6 +130,7 @@ class clsPrinting {
   /// belongs to the box in use: RTF3 while counting, RTF2 while printing.
   std::int32_t reportTextLength_ = 0;
   DWORD dialogFlags_ = 0;
+  LaidOut laidOut_;
 };
 
 /// The program's one print engine.

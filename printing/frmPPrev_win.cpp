@@ -1,50 +1,251 @@
+// The preview's controls, its load and unload handlers and its layout.
 #include "printing/frmPPrev_win.h"
 
-#include <array>
+#include <algorithm>
 
-#include "library/identifiers.h"
+#include "controls/ICOMNU_win.h"
+#include "controls/TXTSEP_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/images.h"
+#include "library/own_keys_win.h"
+#include "library/resource_ids.h"
+#include "printing/clsPrinting_win.h"
+#include "printing/frmPPrev_design_win.h"
+#include "printing/preview_commands.h"
+#include "printing/preview_settings.h"
+#include "windowing/handle_text_win.h"
+#include "windowing/number_text.h"
+#include "windowing/runtime_error.h"
+#include "windowing/screen_win.h"
 
 namespace printing {
+
+using library::LIBRARY;
+using windowing::screenPixels;
+
 namespace {
 
-using windowing::ControlDesign;
-using windowing::ControlKind;
+constexpr windowing::ImageStrip imageStrips[] = {
+    {16, IDB_TOOLBAR16}, {20, IDB_TOOLBAR20}, {24, IDB_TOOLBAR24}, {32, IDB_TOOLBAR32}};
 
-constexpr int idRTF3 = library::id::previewControls + 1;
-constexpr int idRTF2 = library::id::previewControls + 2;
+// Toolbar buttons that begin a new group.
+constexpr int groupStarts[] = {id::FIRST, id::ZOOMOUT};
 
-constexpr std::array controls{
-    ControlDesign{"RTF3", idRTF3, ControlKind::custom, "", 0, 0, 1500, 500},
-    ControlDesign{"RTF2", idRTF2, ControlKind::custom, "", 0, 0, 1500, 500},
-};
+// The document noun that descriptions insert.
+constexpr char documentNoun[] = "tellary";
 
-constexpr windowing::FormDesign design{
-    "frmPPrev", "Preview", WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX, 0, 9000, 6500, controls};
+// A stored text that is no truth value must not keep the window from loading: the bar is shown
+// then, as on the first start.
+bool storedBar(const char* value) {
+  const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot,
+                                                library::familyKey(previewSection), value, "True");
+  try {
+    return windowing::booleanOfText(text);
+  } catch (const windowing::RuntimeError&) {
+    return true;
+  }
+}
+
+void storeItem(const char* value, const std::string& text) {
+  LIBRARY().REGSTRWRITE(library::currentUserRoot, library::familyKey(previewSection), value, text);
+}
+
+void prepareList(const windowing::ComboBox& list, const char* rows) {
+  LIBRARY().COMBOINIT(windowing::handleText(list.handle()), rows, list, true);
+}
 
 }  // namespace
 
-frmPPrev::frmPPrev() : CommandForm(design) {}
+frmPPrev::frmPPrev()
+    : CommandForm(design::form),
+      IMGLST(imageStrips),
+      ICOMNU(std::make_unique<controls::ICOMNU>()),
+      hints_(*this, documentNoun) {
+  ICOMNU->onHighlight = [this](int number) { hints_.item(number); };
+  ICOMNU->onSystemHighlight = [this](std::uint32_t code) { hints_.systemItem(code); };
+  PICWINDOW_.onPageClick = [this](UINT button) {
+    runCommand(button == WM_LBUTTONDOWN ? id::ZOOMIN : id::ZOOMOUT);
+  };
+}
 
-// The boxes go before the window that holds them.
+// The boxes and the view go before the window that holds them.
 frmPPrev::~frmPPrev() = default;
 
 windowing::RichTextBox& frmPPrev::RTF2() {
   load();
   return RTF2_;
 }
-
 windowing::RichTextBox& frmPPrev::RTF3() {
   load();
   return RTF3_;
 }
-
 windowing::PagePicture& frmPPrev::PICSTDPAGE() {
   load();
   return PICSTDPAGE_;
 }
+PageView& frmPPrev::PICWINDOW() {
+  load();
+  return PICWINDOW_;
+}
+windowing::ComboBox frmPPrev::CBOPGNO() {
+  load();
+  return windowing::ComboBox(control(id::CBOPGNO).handle());
+}
+windowing::ComboBox frmPPrev::CBOPGZOOM() {
+  load();
+  return windowing::ComboBox(control(id::CBOPGZOOM).handle());
+}
+windowing::StatusBar frmPPrev::SBMAIN() const {
+  return windowing::StatusBar(control(id::SBMAIN).handle());
+}
+windowing::ToolBar frmPPrev::TBARMAIN() const {
+  return windowing::ToolBar(control(id::TBARMAIN).handle());
+}
 
-HWND frmPPrev::createCustom(const ControlDesign& made, HWND container, const RECT& place) {
-  return (made.id == idRTF3 ? RTF3_ : RTF2_).create(container, made.id, place);
+HWND frmPPrev::createCustom(const windowing::ControlDesign& made, HWND container,
+                            const RECT& place) {
+  switch (made.id) {
+    case id::RTF3:
+      return RTF3_.create(container, made.id, place);
+    case id::RTF2:
+      return RTF2_.create(container, made.id, place);
+    case id::PICWINDOW:
+      return PICWINDOW_.create(container, made.id, place);
+    default:
+      return controls::TXTSEP::create(container, made.id, place).handle();
+  }
+}
+
+void frmPPrev::onLoad() {
+  ready_ = false;
+  takeIcon();
+  buildToolbar();
+  arrangeStrip();
+  prepareList(CBOPGNO(), "15");
+  prepareList(CBOPGZOOM(), "8");
+  ICONMENUS();
+  applyView();
+  ready_ = true;
+  placeView();
+  setFirstFocus(control(id::PICWINDOW));
+}
+
+// The program's icon, as the main window has it.
+void frmPPrev::takeIcon() {
+  for (const WPARAM size : {ICON_BIG, ICON_SMALL})
+    SendMessageA(handle(), WM_SETICON, size,
+                 SendMessageA(windowing::mainWindow(), WM_GETICON, size, 0));
+}
+
+void frmPPrev::buildToolbar() {
+  const windowing::ToolBar bar = TBARMAIN();
+  bar.setImages(IMGLST);
+  for (const PreviewCommand& command : previewCommands) {
+    if (!command.onToolbar) continue;
+    for (const int start : groupStarts)
+      if (command.number == start) bar.addSeparator();
+    bar.add(command.number, library::imageIndex(command.key));
+  }
+}
+
+// The buttons, then the lists, each after a line, from left to right.
+void frmPPrev::arrangeStrip() {
+  const windowing::ToolBar bar = TBARMAIN();
+  const int strip = screenPixels(design::stripHeight);
+  const int barHeight = bar.naturalHeight();
+  int left = screenPixels(design::stripMargin);
+  bar.placePixels(
+      {left, (strip - barHeight) / 2, left + bar.naturalWidth(), (strip + barHeight) / 2});
+  left += bar.naturalWidth() + screenPixels(design::gap);
+  for (const int next :
+       {id::TXTSEP1, id::CBOPGNO, id::TXTSEP2, id::LBLZOOM, id::CBOPGZOOM, id::LBLPAPER}) {
+    RECT place = control(next).pixels();
+    const LONG height = place.bottom - place.top;
+    OffsetRect(&place, left - place.left, (strip - height) / 2 - place.top);
+    control(next).placePixels(place);
+    left = place.right + screenPixels(design::gap);
+  }
+}
+
+void frmPPrev::applyView() {
+  const bool toolbar = storedBar(toolbarValue);
+  control(id::PICTBAR).setVisible(toolbar);
+  setCommandChecked(id::TOOLBAR, toolbar);
+  const bool statusBar = storedBar(statusBarValue);
+  SBMAIN().setVisible(statusBar);
+  setCommandChecked(id::STATUSBAR, statusBar);
+}
+
+void frmPPrev::toggleBar(int command) {
+  const bool shown = !commandChecked(command);
+  setCommandChecked(command, shown);
+  if (command == id::TOOLBAR) {
+    if (!shown) control(id::PICWINDOW).focus();
+    control(id::PICTBAR).setVisible(shown);
+  } else {
+    SBMAIN().setVisible(shown);
+  }
+  PRINTING().ZOOMSEL();
+}
+
+// The view takes what the bars leave; the paper's size stands at the strip's right end, as long
+// as there is room beside the lists.
+void frmPPrev::placeView() {
+  if (!loaded()) return;
+  RECT client{};
+  GetClientRect(handle(), &client);
+  SBMAIN().dock();
+  const bool toolbar = commandChecked(id::TOOLBAR);
+  const LONG strip = screenPixels(design::stripHeight);
+  const LONG top = toolbar ? strip : 0;
+  const LONG foot = commandChecked(id::STATUSBAR) ? SBMAIN().pixels().top : client.bottom;
+  control(id::PICTBAR).placePixels({0, 0, client.right, strip});
+  control(id::FRAMTBAR).placePixels({0, 0, client.right, strip});
+  RECT paper = control(id::LBLPAPER).pixels();
+  const LONG right = client.right - screenPixels(design::gap);
+  const LONG from = right - screenPixels(design::paperWidth);
+  const RECT zooms = control(id::CBOPGZOOM).pixels();
+  control(id::LBLPAPER).placePixels({from, paper.top, right, paper.bottom});
+  control(id::LBLPAPER).setVisible(from > zooms.right + screenPixels(design::gap));
+  control(id::PICWINDOW).placePixels({0, top, client.right, std::max(top, foot)});
+}
+
+void frmPPrev::onSize() {
+  if (ready_) PRINTING().ZOOMSEL();
+}
+
+void frmPPrev::setPaperSize(const std::string& text) {
+  control(id::LBLPAPER).setText(text);
+}
+
+void frmPPrev::restorePlace() {
+  try {
+    LIBRARY().FORMLOAD(previewPlaceName, *this, true);
+  } catch (const windowing::RuntimeError&) {
+    // A stored place that is none: the window stays where its design put it.
+  }
+}
+
+void frmPPrev::showPreview() {
+  showModal();
+}
+
+void frmPPrev::discardPreview() {
+  static_cast<void>(unload());
+}
+
+void frmPPrev::onUnload() {
+  hints_.end();
+  // A window that was only printed with has nothing to say about how it was left.
+  if (IsWindowVisible(handle())) store();
+}
+
+void frmPPrev::store() {
+  LIBRARY().FORMSAVE(previewPlaceName, *this, true);
+  const windowing::ComboBox zooms = CBOPGZOOM();
+  storeItem(zoomValue, zooms.entry(zooms.selected()));
+  storeItem(statusBarValue, windowing::textOfBoolean(SBMAIN().visible()));
+  storeItem(toolbarValue, windowing::textOfBoolean(control(id::PICTBAR).visible()));
 }
 
 frmPPrev& thePreview() {

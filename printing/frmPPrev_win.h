@@ -2,12 +2,17 @@
 // loaded, hidden, whenever anything is printed.
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include "library/command_form_win.h"
+#include "library/command_hints_win.h"
 #include "printing/print_host_win.h"
+#include "windowing/toolbar_win.h"
 
 namespace printing {
 
-class frmPPrev : public library::CommandForm, public PrintHost, public DialogForm {
+class frmPPrev : public library::CommandForm, public PrintHost {
  public:
   frmPPrev();
   ~frmPPrev() override;
@@ -16,17 +21,64 @@ class frmPPrev : public library::CommandForm, public PrintHost, public DialogFor
   [[nodiscard]] windowing::RichTextBox& RTF2() override;
   [[nodiscard]] windowing::RichTextBox& RTF3() override;
   [[nodiscard]] windowing::PagePicture& PICSTDPAGE() override;
+  [[nodiscard]] windowing::ComboBox CBOPGNO() override;
+  [[nodiscard]] windowing::ComboBox CBOPGZOOM() override;
+  [[nodiscard]] PageView& PICWINDOW() override;
   [[nodiscard]] windowing::PrintDialog& CMD1() override { return CMD1_; }
+
+  /// Builds the icon menus; called again, it builds them anew.
+  void ICONMENUS() override;
+  void placeView() override;
+  void setCommandEnabled(int command, bool enabled) override;
+  void setCommandChecked(int command, bool checked) override;
+  [[nodiscard]] bool commandEnabled(int command) const;
+  [[nodiscard]] bool commandChecked(int command) const;
+  void setPaperSize(const std::string& text) override;
+  void restorePlace() override;
+  void showPreview() override;
+  void discardPreview() override;
+
+  /// Runs the command with this number, if it is offered; any other does nothing.
+  void runCommand(int command);
+
+  [[nodiscard]] controls::ICOMNU& iconMenus() override;
+  [[nodiscard]] const windowing::ImageList& imageList() const override { return IMGLST; }
+
+  bool handleKey(const MSG& message) override;
 
  protected:
   HWND createCustom(const windowing::ControlDesign& design, HWND container,
                     const RECT& place) override;
+  void onLoad() override;
+  void onUnload() override;
+  void onCommand(int command) override { runCommand(command); }
+  void onToolButton(int command) override;
+  void onSelect(int id) override;
+  void onSize() override;
+  void onTimer(UINT_PTR timer) override { hints_.onTimer(timer); }
+  LRESULT onNotify(NMHDR& header) override;
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  void takeIcon();
+  void buildToolbar();
+  void arrangeStrip();
+  void applyView();
+  void toggleBar(int command);
+  void store();
+  void print(bool atOnce);
+  [[nodiscard]] windowing::StatusBar SBMAIN() const;
+  [[nodiscard]] windowing::ToolBar TBARMAIN() const;
+
+  windowing::ImageList IMGLST;
+  std::unique_ptr<controls::ICOMNU> ICOMNU;
+  library::CommandHints hints_;
+  windowing::PagePicture PICSTDPAGE_;
+  PageView PICWINDOW_{PICSTDPAGE_};
   windowing::RichTextBox RTF2_{"RTF2"};
   windowing::RichTextBox RTF3_{"RTF3"};
-  windowing::PagePicture PICSTDPAGE_;
   windowing::PrintDialog CMD1_;
+  bool ready_ = false;  ///< controls and menus are complete
 };
 
 /// The program's one preview window.

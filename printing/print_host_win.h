@@ -2,26 +2,15 @@
 // hidden, when any of it is used.
 #pragma once
 
+#include <string>
+
+#include "printing/page_view_win.h"
+#include "windowing/control_win.h"
 #include "windowing/page_picture_win.h"
 #include "windowing/print_dialog_win.h"
 #include "windowing/richtextbox_win.h"
 
 namespace printing {
-
-class PrintHost {
- public:
-  PrintHost() = default;
-  PrintHost(const PrintHost&) = delete;
-  PrintHost& operator=(const PrintHost&) = delete;
-  virtual ~PrintHost() = default;
-
-  /// The pages that are being printed.
-  [[nodiscard]] virtual windowing::RichTextBox& RTF2() = 0;
-  /// The text that is being divided into pages.
-  [[nodiscard]] virtual windowing::RichTextBox& RTF3() = 0;
-  /// The page on show, at full size.
-  [[nodiscard]] virtual windowing::PagePicture& PICSTDPAGE() = 0;
-};
 
 /// A form that owns the print dialog.
 class DialogForm {
@@ -32,6 +21,36 @@ class DialogForm {
   virtual ~DialogForm() = default;
 
   [[nodiscard]] virtual windowing::PrintDialog& CMD1() = 0;
+};
+
+class PrintHost : public DialogForm {
+ public:
+  /// The pages that are being printed.
+  [[nodiscard]] virtual windowing::RichTextBox& RTF2() = 0;
+  /// The text that is being divided into pages.
+  [[nodiscard]] virtual windowing::RichTextBox& RTF3() = 0;
+  /// The page on show, at full size.
+  [[nodiscard]] virtual windowing::PagePicture& PICSTDPAGE() = 0;
+
+  /// The lists of pages and zooms. Their texts are the page and the zoom on show; choosing in
+  /// them by program does nothing else.
+  [[nodiscard]] virtual windowing::ComboBox CBOPGNO() = 0;
+  [[nodiscard]] virtual windowing::ComboBox CBOPGZOOM() = 0;
+  /// The view that the page on show lies in.
+  [[nodiscard]] virtual PageView& PICWINDOW() = 0;
+  /// Places the view between the bars that are shown.
+  virtual void placeView() = 0;
+  /// State of a command, wherever the preview offers it.
+  virtual void setCommandEnabled(int command, bool enabled) = 0;
+  virtual void setCommandChecked(int command, bool checked) = 0;
+  virtual void setPaperSize(const std::string& text) = 0;
+  virtual void ICONMENUS() = 0;
+  /// Puts the window where the user left it.
+  virtual void restorePlace() = 0;
+  /// Shows the preview and returns when it is closed.
+  virtual void showPreview() = 0;
+  /// Gives up a preview that was not shown yet.
+  virtual void discardPreview() = 0;
 };
 
 }  // namespace printing

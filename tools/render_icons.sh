@@ -37,9 +37,9 @@ icon() {
   perl "$here/picture_files.pl" ico "$icons/$name.ico" "$@"
 }
 
-icon tellary 16 20 24 32 40 48 64 256
-icon contact 16 20 24 32 48
-icon document 16 20 24 32 40 48 64 256
+icon tellary 16 20 24 32 48 256
+icon contact 16 32
+icon document 16 20 24 32 48 256
 
 # The pictures of the commands in one row, in the order that library/images.h has.
 keys=$(sed -n '/imageKeys{/,/};/s/[^"]*"\([A-Z ]*\)"[^"]*/\1;/gp' "$here/../library/images.h" | tr -d '\n')

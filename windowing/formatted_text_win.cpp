@@ -67,10 +67,12 @@ FormattedText readFormattedText(HWND control) {
   read.text = readText(control);
   CHARRANGE selection{};
   ask(control, EM_EXGETSEL, 0, &selection);
-  ask(control, WM_SETREDRAW, FALSE, nullptr);
+  // Letting a control paint again shows it, and this one may be hidden.
+  const bool shown = (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown) ask(control, WM_SETREDRAW, FALSE, nullptr);
   collectRuns(control, 0, static_cast<int>(read.text.size()), read.runs);
   ask(control, EM_EXSETSEL, 0, &selection);
-  ask(control, WM_SETREDRAW, TRUE, nullptr);
+  if (shown) ask(control, WM_SETREDRAW, TRUE, nullptr);
   return read;
 }
 

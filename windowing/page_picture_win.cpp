@@ -1,5 +1,6 @@
 #include "windowing/page_picture_win.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <span>
@@ -11,16 +12,22 @@
 namespace windowing {
 namespace {
 
-// How many times finer than shown a picture is drawn before it is brought to its size: small
-// pages need it to stay readable, large ones would only take memory.
-// StretchBlt is no help: some hosts leave thin lines out whatever its mode.
+// How many times finer than shown a picture is drawn before it is brought to its size: the
+// smaller it is, the more its letters need it. StretchBlt is no help: some hosts leave thin lines
+// out whatever its mode.
 int fineness(const SIZE& shown) {
-  constexpr std::int64_t mostPixels = 6'000'000;
+  constexpr std::int64_t mostPixels = 16'000'000;
   constexpr int finest = 4;
   const std::int64_t pixels = std::int64_t{shown.cx} * shown.cy;
   int factor = finest;
   while (factor > 1 && pixels * factor * factor > mostPixels) --factor;
   return factor;
+}
+
+// Rows that are drawn at once, so that a large picture takes no more memory than a small one.
+int rowsAtOnce(LONG width, int factor) {
+  constexpr LONG pixels = 2'000'000;
+  return std::max<int>(1, pixels / (width * factor * factor));
 }
 
 // A bitmap in memory whose pixels can be reached directly, rows from the top.
@@ -81,18 +88,31 @@ void PagePicture::finish() {
 }
 
 void PagePicture::draw(HDC device, const RECT& place) const {
-  const SIZE shown{place.right - place.left, place.bottom - place.top};
-  if (shown.cx <= 0 || shown.cy <= 0) return;
-  const int factor = fineness(shown);
-  const PixelSurface fine({shown.cx * factor, shown.cy * factor});
-  const PixelSurface coarse(shown);
+  draw(device, place, place);
+}
+
+void PagePicture::draw(HDC device, const RECT& place, const RECT& part) const {
+  const SIZE whole{place.right - place.left, place.bottom - place.top};
+  RECT visible{};
+  if (!IntersectRect(&visible, &place, &part)) return;
+  // By the whole picture's size, so that every part of it is drawn alike.
+  const int factor = fineness(whole);
+  const int width = visible.right - visible.left;
+  const int rows = std::min<int>(rowsAtOnce(width, factor), visible.bottom - visible.top);
+  const PixelSurface fine({width * factor, rows * factor});
+  const PixelSurface coarse({width, rows});
   if (!fine.usable() || !coarse.usable()) return;
-  const RECT all{0, 0, shown.cx * factor, shown.cy * factor};
-  FillRect(fine.dc(), &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-  if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &all);
-  GdiFlush();
-  shrinkSmoothly(fine.pixels(), coarse.pixels(), shown.cx, factor);
-  BitBlt(device, place.left, place.top, shown.cx, shown.cy, coarse.dc(), 0, 0, SRCCOPY);
+  const RECT band{0, 0, width * factor, rows * factor};
+  for (LONG top = visible.top; top < visible.bottom; top += rows) {
+    FillRect(fine.dc(), &band, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    RECT page{0, 0, whole.cx * factor, whole.cy * factor};
+    OffsetRect(&page, (place.left - visible.left) * factor, (place.top - top) * factor);
+    if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &page);
+    GdiFlush();
+    shrinkSmoothly(fine.pixels(), coarse.pixels(), width, factor);
+    BitBlt(device, visible.left, top, width, std::min<int>(rows, visible.bottom - top), coarse.dc(),
+           0, 0, SRCCOPY);
+  }
 }
 
 }  // namespace windowing

@@ -37,6 +37,8 @@ class PagePicture {
 
   /// Shows the picture, smoothly scaled, on white paper that fills `place`.
   void draw(HDC device, const RECT& place) const;
+  /// The same, but only as much of it as lies in `part`.
+  void draw(HDC device, const RECT& place, const RECT& part) const;
   /// What was drawn; null while nothing was.
   [[nodiscard]] HENHMETAFILE recording() const { return recording_.get(); }
 

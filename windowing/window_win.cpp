@@ -24,6 +24,8 @@ void Window::create(const Creation& creation) {
     made.lpfnWndProc = &Window::procedure;
     made.hInstance = programInstance();
     made.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    // The program's own icon is its first; every window of it has that one in its caption.
+    made.hIcon = LoadIconA(programInstance(), MAKEINTRESOURCEA(1));
     made.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     made.lpszClassName = creation.className;
     if (!RegisterClassExA(&made)) raiseLastError();

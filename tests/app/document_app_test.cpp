@@ -56,28 +56,6 @@ class Document : public drive::AppTest {
   std::string original_;
 };
 
-TEST_F(Document, NewAsksOnlyForUnsavedWork) {
-  const Program& program = startOn(fullContacts(2));
-  program.command(id::NEW);
-  EXPECT_FALSE(program.hasDialog());
-  expectUntitled();
-
-  startModified();
-  this->program().command(id::NEW);
-  EXPECT_EQ(this->program().answer(IDCANCEL), saveFirst);
-  expectStillThere();
-  this->program().command(id::NEW);
-  EXPECT_EQ(this->program().answer(IDNO), saveFirst);
-  expectUntitled();
-  EXPECT_EQ(read(file_()), original_);
-
-  startModified();
-  this->program().command(id::NEW);
-  EXPECT_EQ(this->program().answer(IDYES), saveFirst);
-  expectUntitled();
-  EXPECT_EQ(read(file_()), saved());
-}
-
 TEST_F(Document, NewOnAnUntitledDocumentSavesThroughSaveAs) {
   const Program& program = start();
   program.enter(id::textItem(0), "Somebody");
@@ -182,15 +160,6 @@ TEST_F(Document, OpenOfABrokenFileTellsAndSaveNeverWritesOverIt) {
   EXPECT_EQ(read(broken), bytes);
 }
 
-TEST_F(Document, OpenOfAMissingNameTells) {
-  const Program& program = start();
-  program.command(id::OPEN);
-  program.dialog().choose(path("nobody.tly"));
-  const std::string told = program.answer(IDOK);
-  EXPECT_TRUE(told.starts_with("Open|")) << told;
-  EXPECT_THAT(told, testing::HasSubstr("nobody.tly"));
-}
-
 TEST_F(Document, SaveAsAsksBeforeOverwritingUntilItIsAnswered) {
   ASSERT_TRUE(CreateDirectoryA(path("there").c_str(), nullptr));
   const std::string taken = write("there\\taken.tly", "old");
@@ -226,40 +195,6 @@ TEST_F(Document, SaveAsAsksBeforeOverwritingUntilItIsAnswered) {
   program.dialog().choose(path("copy.tly"));
   program.settle();
   EXPECT_EQ(read(path("copy.tly")), saved());
-}
-
-TEST_F(Document, AFailedSaveKeepsTheDocumentAndItsOldFile) {
-  const Program& program = startModified();
-  const auto problem = [](const std::string& file) {
-    return "Save|There is a problem saving the document '" + file +
-           "'. This is possibly a read-only document.";
-  };
-  SetFileAttributesA(file_().c_str(), FILE_ATTRIBUTE_READONLY);
-  program.command(id::SAVE);
-  EXPECT_EQ(program.answer(IDOK), problem(file_()));
-  expectStillThere();
-  // A failed save keeps the window open.
-  PostMessageA(program.window(), WM_CLOSE, 0, 0);
-  EXPECT_EQ(program.answer(IDYES), saveBeforeClose(file_()));
-  EXPECT_EQ(program.answer(IDOK), problem(file_()));
-  expectStillThere();
-  const std::string locked = write("locked.tly", "old");
-  SetFileAttributesA(locked.c_str(), FILE_ATTRIBUTE_READONLY);
-  program.command(id::SAVEAS);
-  program.dialog().choose(locked);
-  program.answer(IDYES);
-  EXPECT_EQ(program.answer(IDOK), problem(locked));
-  expectStillThere();
-  EXPECT_EQ(read(locked), "old");
-  // No temporary file is left behind.
-  WIN32_FIND_DATAA found{};
-  std::vector<std::string> files;
-  const HANDLE search = FindFirstFileA(path("*").c_str(), &found);
-  do {
-    files.emplace_back(found.cFileName);
-  } while (FindNextFileA(search, &found));
-  FindClose(search);
-  EXPECT_THAT(files, testing::UnorderedElementsAre(".", "..", "list.tly", "locked.tly"));
 }
 
 TEST_F(Document, ClosingAsksForUnsavedWorkInEveryWay) {

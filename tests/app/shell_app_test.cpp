@@ -23,27 +23,6 @@ constexpr char explorerKey[] =
 
 class Shell : public drive::AppTest {
  protected:
-  /// Expects the document type registered for the program `name` (without extension) at `exe`.
-  static void expectRegistered(const std::string& exe, const std::string& name) {
-    const auto classes = [](const std::string& key, const char* value = "") {
-      return registryText(HKEY_CLASSES_ROOT, key, value);
-    };
-    const std::string type = name + ".Document";
-    EXPECT_EQ(classes(".tly"), type);
-    EXPECT_EQ(classes(type), "Tellary Document");
-    EXPECT_EQ(classes(type + "\\shell\\open\\command"), exe + " %1") << "without quotes";
-    EXPECT_EQ(classes(type + "\\DefaultIcon"), exe + ",2");
-    EXPECT_EQ(classes("Applications\\" + name + ".exe\\shell\\open\\command"), exe + " %1");
-    EXPECT_EQ(registryText(HKEY_CURRENT_USER, explorerKey, "Application"), name + ".exe");
-    DWORD flags = 99, size = sizeof flags, kind = 0;
-    HKEY key = nullptr;
-    RegOpenKeyExA(HKEY_CLASSES_ROOT, type.c_str(), 0, KEY_READ, &key);
-    RegQueryValueExA(key, "EDITFLAGS", nullptr, &kind, reinterpret_cast<BYTE*>(&flags), &size);
-    RegCloseKey(key);
-    EXPECT_EQ(kind, DWORD{REG_DWORD});
-    EXPECT_EQ(flags, 0U);
-  }
-
   /// Opens a document as a double click does, and expects it to arrive.
   void expectOpens(const std::string& file, const std::string& exe) {
     ASSERT_GT(reinterpret_cast<INT_PTR>(
@@ -69,19 +48,6 @@ class Shell : public drive::AppTest {
   KeyAside explorer_{HKEY_CURRENT_USER, explorerKey};
 };
 
-TEST_F(Shell, EveryStartRegistersTheDocumentType) {
-  const std::string exe = drive::programUnderTest();
-  start();
-  expectRegistered(exe, "Tellary");
-  close();
-  expectRegistered(exe, "Tellary");
-  // Another program took the type over: the next start takes it back.
-  storeRegistryText(HKEY_CLASSES_ROOT, ".tly", "", "Other.Document");
-  storeRegistryText(HKEY_CLASSES_ROOT, "Tellary.Document\\shell\\open\\command", "", "other.exe");
-  start();
-  expectRegistered(exe, "Tellary");
-}
-
 TEST_F(Shell, ADoubleClickOpensADocumentFromAPathWithBlanks) {
   ASSERT_TRUE(CreateDirectoryA(path("my  caf\xE9 -x").c_str(), nullptr));
   const std::string file = write("my  caf\xE9 -x\\old friends.tly", bytesOf(fullContacts(2)));
@@ -99,7 +65,6 @@ TEST_F(Shell, AProgramThatMovedTakesItsDocumentsAlong) {
   const std::string file = write("old friends.tly", bytesOf(fullContacts(2)));
   start();
   start("", exe);
-  expectRegistered(exe, "My contacts 2.0");
   close();
   expectOpens(file, exe);
 }
@@ -170,31 +135,6 @@ TEST_F(Links, ButtonsOpenWhatTheBoxesHold) {
     program.focusOn(row.box);
     program.key(VK_F4);
     EXPECT_EQ(opened(row.scheme), row.opens);
-  }
-}
-
-TEST_F(Links, LeavingAWebBoxCompletesItsAddress) {
-  const Program& program = startOn(fullContacts(1));
-  program.clickTab(1);
-  const struct {
-    int box;
-    const char* typed;
-    const char* then;
-  } rows[] = {{id::CBOPWEBSITE, "www.example.org", "http://www.example.org"},
-              {id::CBOPWEBSITE, "HTTP://example.org", "HTTP://example.org"},
-              {id::CBOPWEBSITE, "https://example.org", "https://example.org"},
-              {id::CBOPWEBSITE, "ftp://example.org", "ftp://example.org"},
-              {id::CBOPWEBSITE, "", ""},
-              {id::CBOPEMAIL, "a@example.org", "a@example.org"}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.typed);
-    program.focusOn(row.box);
-    program.enter(row.box, row.typed);
-    program.command(id::SAVE);
-    program.focusOn(id::TABMAIN);
-    EXPECT_EQ(program.text(row.box), row.then);
-    EXPECT_EQ(program.modified(), std::string(row.typed) != row.then)
-        << "an address that was complete is no edit";
   }
 }
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "controls/menu_drawing_win.h"
 #include "library/images.h"
 #include "library/resource_ids.h"
@@ -54,10 +52,6 @@ class MenuForm : public windowing::Form {
     return SendMessageA(handle(), WM_MENUSELECT, MAKEWPARAM(item, flags),
                         reinterpret_cast<LPARAM>(menu));
   }
-  LRESULT press(HMENU menu, char key) {
-    return SendMessageA(handle(), WM_MENUCHAR, MAKEWPARAM(static_cast<BYTE>(key), MF_POPUP),
-                        reinterpret_cast<LPARAM>(menu));
-  }
 
   windowing::ImageList images{strips};
   ICOMNU menus;
@@ -71,31 +65,6 @@ MENUITEMINFOA infoAt(HMENU menu, UINT position) {
   info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_DATA;
   GetMenuItemInfoA(menu, position, TRUE, &info);
   return info;
-}
-
-TEST(IcoMnu, BuildsRealMenus) {
-  MenuForm form;
-  const HMENU top = GetMenu(form.handle());
-  ASSERT_EQ(GetMenuItemCount(top), 2);
-  EXPECT_EQ(infoAt(top, 0).fType & MFT_OWNERDRAW, 0u) << "the bar is the system's";
-  char text[32] = {};
-  GetMenuStringA(top, 1, text, sizeof text, MF_BYPOSITION);
-  EXPECT_STREQ(text, "&View");
-
-  const HMENU popup = GetSubMenu(top, 0);
-  EXPECT_EQ(popup, form.menus.popup(file));
-  ASSERT_EQ(GetMenuItemCount(popup), 4);
-  EXPECT_NE(infoAt(popup, 0).fType & MFT_OWNERDRAW, 0u);
-  EXPECT_EQ(infoAt(popup, 0).wID, 401u);
-  EXPECT_NE(infoAt(popup, 1).fState & MFS_GRAYED, 0u);
-  EXPECT_NE(infoAt(popup, 2).fType & MFT_SEPARATOR, 0u);
-  EXPECT_EQ(infoAt(popup, 3).hSubMenu, form.menus.popup(zoom));
-  EXPECT_NE(infoAt(form.menus.popup(zoom), 0).fState & MFS_CHECKED, 0u);
-
-  // What screen readers look for.
-  const auto* spoken = reinterpret_cast<const MSAAMENUINFO*>(infoAt(popup, 0).dwItemData);
-  EXPECT_EQ(spoken->dwMSAASignature, static_cast<DWORD>(MSAA_MENU_SIG));
-  EXPECT_STREQ(spoken->pszWText, L"Open... Ctrl+O");
 }
 
 TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
@@ -117,23 +86,6 @@ TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
   EXPECT_EQ(GetMenu(form.handle()), menus.bar());
 }
 
-TEST(IcoMnu, IsReadAndChangedByNumber) {
-  MenuForm form;
-  ICOMNU& menus = form.menus;
-  menus.CAPTION(open, "&Open");
-  EXPECT_EQ(menus.CAPTION(open), "&Open");
-  EXPECT_EQ(menus.ItemIcon(open), library::imageIndex("OPEN"));
-  EXPECT_EQ(menus.ItemIcon(save), -1);
-  EXPECT_EQ(menus.numberOf(402), save);
-  EXPECT_EQ(menus.numberOf(999), 0);
-  EXPECT_EQ(menus.numberWithIcon(library::imageIndex("OPEN")), open);
-  EXPECT_EQ(menus.numberWithIcon(-1), 0);
-  EXPECT_THROW((void)menus.CAPTION(99), windowing::RuntimeError);
-  EXPECT_THROW(menus.ItemIcon(99, 0), windowing::RuntimeError);
-  EXPECT_THROW(menus.AddItem(50, 99, "x", true, false, 0, false, false), windowing::RuntimeError);
-  EXPECT_THROW((void)menus.CAPTION(50), windowing::RuntimeError) << "half added";
-}
-
 TEST(IcoMnu, HighlightsCarryNumbers) {
   MenuForm form;
   const HMENU popup = form.menus.popup(file);
@@ -150,115 +102,33 @@ TEST(IcoMnu, HighlightsCarryNumbers) {
   EXPECT_EQ(form.highlights.size(), 6u);
 }
 
-TEST(IcoMnu, KeysRunItemsOfOpenMenus) {
-  MenuForm form;
-  const HMENU popup = form.menus.popup(file);
-  EXPECT_EQ(form.press(popup, 'o'), MAKELRESULT(0, MNC_EXECUTE));
-  EXPECT_EQ(form.press(popup, 's'), MAKELRESULT(1, MNC_SELECT)) << "not available";
-  EXPECT_EQ(form.press(popup, 'Z'), MAKELRESULT(3, MNC_EXECUTE));
-  EXPECT_EQ(form.press(form.menus.popup(zoom), '2'), MAKELRESULT(1, MNC_EXECUTE));
-  EXPECT_EQ(HIWORD(form.press(popup, 'q')), MNC_IGNORE);
-  EXPECT_EQ(HIWORD(form.press(form.menus.bar(), 'f')), MNC_IGNORE) << "the system's own";
+// Painted into memory: pixels from the column `left` on that do not show the menu's ground.
+int marks(const MenuItemLook& look, UINT state, LONG left, LONG right) {
+  const windowing::ImageList images(strips);
+  const SIZE size = menuItemSize(look, &images);
+  const windowing::WindowDc screen(nullptr);
+  const MemoryDc dc(CreateCompatibleDC(screen.get()));
+  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), size.cx, size.cy));
+  const windowing::Selected chosen(dc.get(), bitmap.get());
+  drawMenuItem(dc.get(), {0, 0, size.cx, size.cy}, look, state, &images);
+  int count = 0;
+  for (int y = 0; y < size.cy; ++y)
+    for (LONG x = left; x < std::min(right, size.cx); ++x)
+      if (GetPixel(dc.get(), x, y) != GetSysColor(COLOR_MENU)) ++count;
+  return count;
 }
-
-TEST(IcoMnu, MeasuresItsItems) {
-  MenuForm form;
-  const HMENU popup = form.menus.popup(file);
-  const auto measured = [&](UINT position) {
-    MEASUREITEMSTRUCT item{};
-    item.CtlType = ODT_MENU;
-    item.itemData = infoAt(popup, position).dwItemData;
-    SendMessageA(form.handle(), WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
-    return SIZE{static_cast<LONG>(item.itemWidth), static_cast<LONG>(item.itemHeight)};
-  };
-  EXPECT_GT(measured(0).cx, measured(1).cx) << "a shortcut takes room";
-  EXPECT_GE(measured(1).cy, form.images.size() + 4);
-  EXPECT_GT(measured(2).cy, 2);
-  EXPECT_LT(measured(2).cy, measured(1).cy / 2);
-
-  MEASUREITEMSTRUCT foreign{};
-  foreign.CtlType = ODT_MENU;
-  foreign.itemData = 12345;
-  LRESULT result = 0;
-  EXPECT_FALSE(form.menus.handleMessage(form.handle(), WM_MEASUREITEM, 0,
-                                        reinterpret_cast<LPARAM>(&foreign), result));
-}
-
-TEST(IcoMnu, LivesOnWhenItsFormIsLoadedAgain) {
-  MenuForm form;
-  form.menus.setEnabled(save, true);
-  ASSERT_TRUE(form.unload());
-  form.load();
-  EXPECT_EQ(GetMenuItemCount(GetMenu(form.handle())), 2);
-  EXPECT_FALSE(form.menus.isEnabled(save)) << "a new form starts anew";
-}
-
-/// One item painted into memory.
-class Painted {
- public:
-  Painted(const MenuItemLook& look, UINT state, const windowing::ImageList& images)
-      : size_(menuItemSize(look, &images)) {
-    const windowing::WindowDc screen(nullptr);
-    const MemoryDc dc(CreateCompatibleDC(screen.get()));
-    const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(
-        screen.get(), static_cast<int>(size_.cx), static_cast<int>(size_.cy)));
-    const windowing::Selected chosen(dc.get(), bitmap.get());
-    drawMenuItem(dc.get(), {0, 0, size_.cx, size_.cy}, look, state, &images);
-    for (int y = 0; y < size_.cy; ++y)
-      for (int x = 0; x < size_.cx; ++x) pixels_.push_back(GetPixel(dc.get(), x, y));
-  }
-  /// Pixels in the columns from `left` to before `right` that do not show `ground`.
-  [[nodiscard]] int marks(LONG left, LONG right, COLORREF ground) const {
-    int count = 0;
-    for (LONG y = 0; y < size_.cy; ++y)
-      for (LONG x = left; x < right; ++x)
-        if (pixels_[static_cast<std::size_t>(y * size_.cx + x)] != ground) ++count;
-    return count;
-  }
-  [[nodiscard]] LONG width() const { return size_.cx; }
-  friend bool operator==(const Painted& a, const Painted& b) { return a.pixels_ == b.pixels_; }
-  friend bool operator!=(const Painted& a, const Painted& b) { return !(a == b); }
-
- private:
-  SIZE size_;
-  std::vector<COLORREF> pixels_;
-};
 
 TEST(MenuDrawing, ShowsPictureCheckMarkShortcutAndArrow) {
-  const windowing::ImageList images(strips);
-  const COLORREF ground = GetSysColor(COLOR_MENU);
   const LONG column = windowing::scaled(24);
-  const int picture = library::imageIndex("OPEN");
   const MenuItemLook plain{"&Open"};
-  const MenuItemLook pictured{"&Open", false, false, picture};
-
-  const Painted none(plain, 0, images);
-  EXPECT_EQ(none.marks(0, column, ground), 0);
-  EXPECT_GT(none.marks(column, none.width(), ground), 20) << "words";
-  EXPECT_GT(Painted(pictured, 0, images).marks(0, column, ground), 60) << "picture";
-  EXPECT_GT(Painted(plain, ODS_CHECKED, images).marks(0, column, ground), 10) << "check mark";
-  EXPECT_NE(Painted(pictured, ODS_CHECKED, images), Painted(pictured, 0, images)) << "box";
-
-  const Painted arrow({"&Open", false, true, -1}, 0, images);
-  EXPECT_NE(arrow, none);
-  EXPECT_GT(arrow.marks(arrow.width() - windowing::scaled(20), arrow.width(), ground), 8);
-  const Painted shortcut({"&Open\tCtrl+O", false, false, -1}, 0, images);
-  EXPECT_GT(shortcut.marks(none.width() + windowing::scaled(2), shortcut.width(), ground), 20);
-  EXPECT_GT(Painted({"", true, false, -1}, 0, images).width(), 0);
-}
-
-TEST(MenuDrawing, StatesLookDifferent) {
-  const windowing::ImageList images(strips);
-  MenuItemLook look{"&Open", false, false, library::imageIndex("OPEN")};
-  constexpr UINT noAccessKeys = 0x0100;
-  const UINT states[] = {0,           ODS_SELECTED, ODS_GRAYED, ODS_GRAYED | ODS_SELECTED,
-                         ODS_CHECKED, noAccessKeys};
-  for (const int image : {look.image, -1}) {
-    look.image = image;
-    for (const UINT a : states)
-      for (const UINT b : states)
-        EXPECT_EQ(Painted(look, a, images) == Painted(look, b, images), a == b) << a << ' ' << b;
-  }
+  const LONG end = menuItemSize(plain, nullptr).cx + windowing::scaled(2);
+  EXPECT_EQ(marks(plain, 0, 0, column), 0);
+  EXPECT_GT(marks(plain, 0, column, end), 20) << "words";
+  EXPECT_GT(marks({"&Open", false, false, library::imageIndex("OPEN")}, 0, 0, column), 60);
+  EXPECT_GT(marks(plain, ODS_CHECKED, 0, column), 10) << "check mark";
+  EXPECT_GT(marks(plain, ODS_SELECTED, column, end), marks(plain, 0, column, end));
+  EXPECT_GT(marks({"&Open\tCtrl+O"}, 0, end, 10000), 20) << "shortcut";
+  EXPECT_GT(marks({"&Open", false, true}, 0, 0, 10000), marks(plain, 0, 0, 10000) + 8) << "arrow";
 }
 
 }  // namespace

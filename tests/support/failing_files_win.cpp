@@ -1,7 +1,5 @@
 #include "tests/support/failing_files_win.h"
 
-#include <algorithm>
-
 namespace support {
 
 void FailingFiles::failAt(int call, const Failure& failure) {
@@ -81,41 +79,6 @@ bool FailingFiles::replace(const std::string& temporary, const std::string& targ
 }
 bool FailingFiles::remove(const std::string& path) {
   return !fails() && FileCalls::remove(path);
-}
-
-ScratchFolder::ScratchFolder(const std::string& parent) {
-  static int number = 0;
-  path_ = parent;
-  if (path_.empty()) {
-    char folder[MAX_PATH] = {};
-    GetTempPathA(sizeof folder, folder);
-    path_ = folder;
-  }
-  if (!path_.ends_with('\\')) path_ += '\\';
-  path_ += "tellary" + std::to_string(GetCurrentProcessId()) + '-' + std::to_string(++number);
-  CreateDirectoryA(path_.c_str(), nullptr);
-}
-
-ScratchFolder::~ScratchFolder() {
-  for (const std::string& name : names()) {
-    SetFileAttributesA(file(name).c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (!DeleteFileA(file(name).c_str())) RemoveDirectoryA(file(name).c_str());
-  }
-  RemoveDirectoryA(path_.c_str());
-}
-
-std::vector<std::string> ScratchFolder::names() const {
-  std::vector<std::string> found;
-  WIN32_FIND_DATAA data{};
-  const HANDLE search = FindFirstFileA(file("*").c_str(), &data);
-  if (search == INVALID_HANDLE_VALUE) return found;
-  do {
-    const std::string name = data.cFileName;
-    if (name != "." && name != "..") found.push_back(name);
-  } while (FindNextFileA(search, &data));
-  FindClose(search);
-  std::sort(found.begin(), found.end());
-  return found;
 }
 
 std::string bytesOf(const std::string& path) {

@@ -5,8 +5,8 @@
 #include <windows.h>
 
 #include <string>
-#include <vector>
 
+#include "tests/support/scratch_folder_win.h"
 #include "windowing/file_calls_win.h"
 
 namespace support {
@@ -49,24 +49,6 @@ class FailingFiles : public windowing::FileCalls {
   Failure failure_;
   int failAt_ = 0;
   int calls_ = 0;
-};
-
-/// An empty folder of its own, removed with all that is in it. Paths in it end in no backslash.
-class ScratchFolder {
- public:
-  /// Below `parent`; empty: where the user's temporary files are.
-  explicit ScratchFolder(const std::string& parent = {});
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder();
-
-  [[nodiscard]] const std::string& path() const { return path_; }
-  [[nodiscard]] std::string file(const std::string& name) const { return path_ + '\\' + name; }
-  /// Names of all that is in it, sorted.
-  [[nodiscard]] std::vector<std::string> names() const;
-
- private:
-  std::string path_;
 };
 
 /// The file's bytes; "(none)" where there is no such file.

@@ -23,9 +23,7 @@ MainWindowTest::MainWindowTest() {
     files.pop_front();
     return answer;
   };
-  seams.shellOpen = [this](HWND, const std::string&, const std::string& file, const std::string&) {
-    opened.push_back(file);
-  };
+  seams.shellOpen = [](auto&&...) {};
   form.load();
 }
 
@@ -53,15 +51,6 @@ Names MainWindowTest::names() const {
   return all;
 }
 
-int MainWindowTest::selectedName() const {
-  return windowing::ComboBox(form.control(id::CBOTBARBOX).handle()).selected();
-}
-
-void MainWindowTest::choose(int index) {
-  windowing::ComboBox(form.control(id::CBOTBARBOX).handle()).select(index);
-  notice(id::CBOTBARBOX, CBN_SELCHANGE);
-}
-
 bool MainWindowTest::enabled(int command) const {
   return const_cast<mainwindow::frmMain&>(form).iconMenus().isEnabled(command);
 }
@@ -79,14 +68,6 @@ std::string MainWindowTest::fileOf(const std::vector<std::vector<std::string>>& 
   return bytes;
 }
 
-std::string MainWindowTest::fileOfContacts(int count) {
-  std::string empty;
-  for (int i = 1; i < 28; ++i) empty += "\"\"\r\n";
-  std::string bytes;
-  for (int i = 0; i < count; ++i) bytes += "\"Name" + std::to_string(i) + "\"\r\n" + empty;
-  return bytes;
-}
-
 std::string MainWindowTest::contactsFile(const std::vector<std::string>& surnames) {
   std::vector<std::vector<std::string>> contacts;
   for (const std::string& surname : surnames) {
@@ -94,17 +75,6 @@ std::string MainWindowTest::contactsFile(const std::vector<std::string>& surname
     contacts.back()[0] = surname;
   }
   return scratch.file("contacts" + std::to_string(++files_) + ".tly", fileOf(contacts));
-}
-
-std::string MainWindowTest::contentOf(const std::string& path) {
-  const windowing::FileHandle file(
-      CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-  if (!file) return "(no file)";
-  std::string bytes(GetFileSize(file.get(), nullptr), '\0');
-  DWORD done = 0;
-  ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr);
-  bytes.resize(done);
-  return bytes;
 }
 
 }  // namespace test_support

@@ -36,19 +36,14 @@ class MainWindowTest : public testing::Test {
   void notice(int id, int code);
   [[nodiscard]] std::string status() const;
   [[nodiscard]] Names names() const;
-  [[nodiscard]] int selectedName() const;
-  /// Picks an entry of the name box as a user does.
-  void choose(int index);
   [[nodiscard]] bool enabled(int command) const;
   /// Opens a file through the Open command; unsaved work is given up.
   void open(const std::string& path);
 
   /// A file's content: contacts, each of 28 texts in file order.
   [[nodiscard]] static std::string fileOf(const std::vector<std::vector<std::string>>& contacts);
-  [[nodiscard]] static std::string fileOfContacts(int count);
   /// A new file of contacts that have a surname only.
   std::string contactsFile(const std::vector<std::string>& surnames);
-  [[nodiscard]] static std::string contentOf(const std::string& path);
 
   ScratchRegistry registry;
   ScratchFolder scratch;
@@ -56,7 +51,6 @@ class MainWindowTest : public testing::Test {
   std::deque<int> answers;  ///< what the next boxes are answered; then IDOK or IDNO
   std::vector<windowing::FileDialog> dialogs;
   std::deque<std::optional<std::string>> files;  ///< what the next file dialogs give
-  Names opened;                                  ///< what the shell was asked to open
   mainwindow::frmMain form;
 
  private:

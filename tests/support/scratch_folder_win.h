@@ -3,8 +3,10 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "windowing/handles_win.h"
 
@@ -12,9 +14,11 @@ namespace test_support {
 
 class ScratchFolder {
  public:
-  ScratchFolder() {
+  /// Below `parent`; empty: where the user's temporary files are.
+  explicit ScratchFolder(const std::string& parent = {}) {
     char temp[MAX_PATH] = {};
     GetTempPathA(sizeof temp, temp);
+    if (!parent.empty()) lstrcpynA(temp, (parent + "\\").c_str(), sizeof temp);
     char full[MAX_PATH] = {};
     GetLongPathNameA(temp, full, sizeof full);
     // A run that was killed may have left its folder behind.
@@ -48,27 +52,32 @@ class ScratchFolder {
     return *this / name;
   }
 
+  /// Names of all that is in it, sorted.
+  [[nodiscard]] std::vector<std::string> names() const { return namesIn(path_); }
+  /// Removes a folder with all that is in it.
+  static void removeTree(const std::string& folder) {
+    for (const std::string& name : namesIn(folder)) {
+      const std::string path = folder + "\\" + name;
+      SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+      if (!DeleteFileA(path.c_str())) removeTree(path);
+    }
+    RemoveDirectoryA(folder.c_str());
+  }
   [[nodiscard]] static bool exists(const std::string& path) {
     return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
   }
 
  private:
-  static void removeTree(const std::string& folder) {
-    WIN32_FIND_DATAA found{};
-    {
-      const windowing::FindHandle search(FindFirstFileA((folder + "\\*").c_str(), &found));
-      if (search) do {
-          const std::string name = found.cFileName;
-          if (name == "." || name == "..") continue;
-          const std::string path = folder + "\\" + name;
-          SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-          if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-            removeTree(path);
-          else
-            DeleteFileA(path.c_str());
-        } while (FindNextFileA(search.get(), &found));
-    }
-    RemoveDirectoryA(folder.c_str());
+  [[nodiscard]] static std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> found;
+    WIN32_FIND_DATAA data{};
+    const windowing::FindHandle search(FindFirstFileA((folder + "\\*").c_str(), &data));
+    if (search) do {
+        const std::string name = data.cFileName;
+        if (name != "." && name != "..") found.push_back(name);
+      } while (FindNextFileA(search.get(), &data));
+    std::sort(found.begin(), found.end());
+    return found;
   }
 
   std::string path_;

@@ -16,7 +16,7 @@ namespace windowing {
 namespace {
 
 using support::bytesOf;
-using support::ScratchFolder;
+using test_support::ScratchFolder;
 
 constexpr char documentVariable[] = "TELLARY_KILLED_DOCUMENT";
 constexpr char mannerVariable[] = "TELLARY_KILLED_MANNER";
@@ -126,7 +126,7 @@ class Killing {
 
  private:
   ScratchFolder folder_;
-  const std::string path_ = folder_.file("Friends.tly");
+  const std::string path_ = folder_ / "Friends.tly";
   document::ContactList list_;
   std::string old_;
   std::string new_;

@@ -73,8 +73,6 @@ TEST(NumberText, WritesTheShortestTextOfItsPrecision) {
   } rows[] = {{0, "0", "0"},
               {-0.0, "0", "0"},
               {1237.5, "1237,5", "1237,5"},
-              {-200, "-200", "-200"},
-              {0.1, "0,1", "0,1"},
               {60000.0 / 7, "8571,429", "8571,42857142857"},
               {9999999, "9999999", "9999999"},
               {12345678, "1,234568E+07", "12345678"},
@@ -90,45 +88,21 @@ TEST(NumberText, WritesTheShortestTextOfItsPrecision) {
   EXPECT_EQ(integerText(-2147483647), "-2147483647");
 }
 
-TEST(NumberText, StoredPlacesSurviveTenRoundsAtEveryResolution) {
-  for (const int dpi : {96, 120, 144, 168, 192})
-    for (int pixels = -300; pixels < 6000; pixels += 7) {
-      double twips = pixels * 1440.0 / dpi;
-      for (int round = 0; round < 10; ++round) {
-        const double read = toNumber(singleText(twips, ','), ',');
-        ASSERT_EQ(std::lround(read * dpi / 1440), pixels) << dpi;
-        twips = static_cast<double>(std::lround(read * dpi / 1440)) * 1440.0 / dpi;
-      }
-    }
-}
-
 TEST(NumberText, PatternsRoundDecimalDigitsAwayFromZero) {
   const struct {
     double value;
     int whole, decimals;
     const char* text;
   } rows[] = {{0.25, 1, 1, "0.3"},
-              {0.35, 1, 1, "0.4"},
               {-0.25, 1, 1, "-0.3"},
-              {0.75, 1, 1, "0.8"},
-              {1.125, 1, 2, "1.13"},
               {1.005, 1, 2, "1.01"},
-              {0.125, 1, 2, "0.13"},
-              {0, 1, 1, "0.0"},
               {-0.04, 1, 1, "0.0"},
               {9.96, 1, 1, "10.0"},
               {99.995, 1, 2, "100.00"},
-              {0.95, 1, 0, "1"},
               {0.5, 1, 0, "1"},
-              {0.49, 1, 0, "0"},
-              {0.04, 1, 0, "0"},
               {0.006, 1, 2, "0.01"},
-              {0.0049, 1, 2, "0.00"},
               {0.98, 0, 2, ".98"},
               {-0.98, 0, 2, "-.98"},
-              {0, 0, 2, ".00"},
-              {8.5, 0, 2, "8.50"},
-              {11.6929, 0, 2, "11.69"},
               {1e15, 1, 1, "1000000000000000.0"},
               {7, 2, 0, "07"}};
   for (const auto& row : rows)

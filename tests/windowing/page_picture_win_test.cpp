@@ -63,6 +63,42 @@ TEST(PagePicture, IsShownOnWhitePaperAtAnySize) {
   EXPECT_TRUE(test_support::drawingOf(picture.recording()).lines.empty()) << "blank again";
 }
 
+// What scrolling brings into view must join what is there.
+TEST(PagePicture, PartsJoinToTheWhole) {
+  PagePicture picture;
+  picture.resize(9000, 12000);
+  picture.begin(nullptr);
+  for (int line = 0; line < 30; ++line)
+    drawPageText(picture.dc(), {}, 500, 400.0 * line, "Some words on a line of their own");
+  picture.finish();
+  const WindowDc screen(nullptr);
+  for (const int percent : {25, 75, 200}) {
+    const RECT place{7, 5, 7 + screenPixels(90.0 * percent), 5 + screenPixels(120.0 * percent)};
+    const MemoryDc whole(CreateCompatibleDC(screen.get()));
+    const MemoryDc parts(CreateCompatibleDC(screen.get()));
+    const BitmapHandle one(CreateCompatibleBitmap(screen.get(), place.right, place.bottom));
+    const BitmapHandle other(CreateCompatibleBitmap(screen.get(), place.right, place.bottom));
+    const Selected first(whole.get(), one.get());
+    const Selected second(parts.get(), other.get());
+    picture.draw(whole.get(), place);
+    const LONG middle = place.bottom / 3 + 2;
+    picture.draw(parts.get(), place, {0, 0, place.right, middle});
+    EXPECT_EQ(GetPixel(parts.get(), 8, middle), RGB(0, 0, 0)) << "nothing beyond the part";
+    picture.draw(parts.get(), place, {0, middle, place.right / 2, place.bottom});
+    picture.draw(parts.get(), place, {place.right / 2, middle, place.right, place.bottom});
+    int dark = 0;
+    int unlike = 0;
+    for (int y = 0; y < place.bottom; y += 2)
+      for (int x = 0; x < place.right; x += 2) {
+        const COLORREF wanted = GetPixel(whole.get(), x, y);
+        dark += GetRValue(wanted) < 128 && x >= place.left && y >= place.top ? 1 : 0;
+        unlike += GetPixel(parts.get(), x, y) == wanted ? 0 : 1;
+      }
+    EXPECT_GT(dark, 20) << percent;
+    EXPECT_EQ(unlike, 0) << percent;
+  }
+}
+
 TEST(PageDrawing, PlacesInTwips) {
   test_support::Recording recording;
   const int dpi = GetDeviceCaps(recording.dc(), LOGPIXELSX);

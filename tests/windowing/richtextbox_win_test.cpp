@@ -70,29 +70,6 @@ TEST_F(RichTextBoxes, PlainTextIsTakenLiterally) {
   }
 }
 
-TEST_F(RichTextBoxes, CopiesAddNothing) {
-  const std::string texts[] = {"",         "one",      "one\r\ntwo",      "one\r\n",
-                               "\r\n\r\n", "{\\rtf1}", "caf\xE9 \x80 {\\"};
-  for (const std::string& text : texts) {
-    box_.setPlain(text);
-    const int length = box_.length();
-    const RichText whole = box_.richText();
-    EXPECT_EQ(whole.length, length);
-    other_.setRichText(whole);
-    EXPECT_EQ(other_.text(), box_.text());
-    EXPECT_EQ(other_.length(), length);
-    other_.select({length, 0});
-    other_.replaceSelection(whole);
-    EXPECT_EQ(other_.length(), 2 * length) << text;
-    EXPECT_EQ(other_.selection().start, 2 * length);
-    other_.select({0, length});
-    const RichText half = other_.selectedRichText();
-    EXPECT_EQ(half.length, length);
-    box_.setRichText(half);
-    EXPECT_EQ(box_.length(), length) << text;
-  }
-}
-
 TEST_F(RichTextBoxes, PiecesAreInsertedAtTheCaretInTheirFormat) {
   other_.setPlain("");
   TextFormat bold;
@@ -160,23 +137,6 @@ TEST_F(RichTextBoxes, PagesFollowEachOtherToTheEnd) {
   EXPECT_EQ(box_.send(EM_FORMATRANGE, FALSE, 0), 0);
 }
 
-TEST_F(RichTextBoxes, AreaInTwipsIsKeptTo) {
-  box_.setPlain(repeated("word ", 60));
-  FORMATRANGE range = area(4 * twipsPerInch, 8 * twipsPerInch);
-  OffsetRect(&range.rc, twipsPerInch, 2 * twipsPerInch);
-  LRESULT next = 0;
-  test_support::Recording screen;
-  const int dpi = GetDeviceCaps(screen.dc(), LOGPIXELSX);
-  const test_support::Drawing drawing = page(range, next);
-  ASSERT_GT(drawing.texts.size(), 2U);
-  for (const test_support::DrawnText& text : drawing.texts) {
-    EXPECT_EQ(text.x, dpi);
-    EXPECT_LE(text.width, 4 * dpi);
-    EXPECT_GT(text.y, 2 * dpi);
-    EXPECT_NE(text.text.back(), ' ') << "blanks at a line's end are not drawn";
-  }
-}
-
 TEST_F(RichTextBoxes, ChangedTextIsFormattedAnew) {
   FORMATRANGE range = area(20000, 20000);
   LRESULT next = 0;
@@ -199,21 +159,6 @@ TEST_F(RichTextBoxes, ChangedTextIsFormattedAnew) {
   box_.setFormat({documentTypeface, documentPoints, true});
   range = area(20000, 20000);
   EXPECT_EQ(page(range, next).texts.at(0).weight, FW_BOLD);
-}
-
-TEST_F(RichTextBoxes, GoesWithItsWindow) {
-  EXPECT_NE(box_.handle(), nullptr);
-  DestroyWindow(box_.handle());
-  EXPECT_EQ(box_.handle(), nullptr);
-  box_.create(window_, 12, {0, 0, 50, 50});
-  box_.setPlain("again");
-  EXPECT_EQ(box_.text(), "again");
-  const HWND kept = [&] {
-    RichTextBox brief("RTF2");
-    EXPECT_EQ(brief.name(), "RTF2");
-    return brief.create(window_, 13, {0, 0, 50, 50});
-  }();
-  EXPECT_FALSE(IsWindow(kept));
 }
 
 }  // namespace

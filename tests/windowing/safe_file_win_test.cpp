@@ -12,7 +12,7 @@ using support::bytesOf;
 using support::FailingFiles;
 using support::Failure;
 using support::putFile;
-using support::ScratchFolder;
+using test_support::ScratchFolder;
 
 const std::string oldBytes(5000, 'o');
 
@@ -56,7 +56,7 @@ constexpr FailureCase failures[] = {
 int failEveryCall(FailingFiles& files, const FailureCase& one, const std::string& oldContent,
                   const std::string& newContent, int leastCalls) {
   const ScratchFolder folder;
-  const std::string path = folder.file("Friends.tly");
+  const std::string path = folder / "Friends.tly";
   const std::string before = oldContent.empty() ? "(none)" : oldContent;
   int call = 1;
   int needless = 0;
@@ -111,7 +111,7 @@ TEST(SafeFile, AFolderThatTakesNoNewFileHasTheOldBytesPutBack) {
 TEST(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
   FileCalls files;
   const ScratchFolder folder;
-  const std::string path = folder.file("Friends.tly");
+  const std::string path = folder / "Friends.tly";
   putFile(path, oldBytes);
 
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
@@ -128,7 +128,7 @@ TEST(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
 
   EXPECT_FALSE(save(folder.path(), longer(), files));
   EXPECT_FALSE(save(folder.path() + "\\", longer(), files));
-  EXPECT_FALSE(save(folder.file("gone\\Friends.tly"), longer(), files));
+  EXPECT_FALSE(save(folder / "gone\\Friends.tly", longer(), files));
   EXPECT_EQ(folder.names(), std::vector<std::string>{"Friends.tly"});
 
   // A producer that gives up counts as a failure too.
@@ -150,7 +150,7 @@ TEST(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
 TEST(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
   FailingFiles files;
   const ScratchFolder folder;
-  const std::string path = folder.file("Friends.tly");
+  const std::string path = folder / "Friends.tly";
   constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_SYSTEM;
   for (const DWORD attributes : {FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE,
                                  FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_ARCHIVE}) {
@@ -169,7 +169,7 @@ TEST(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
 TEST(SafeFile, WhatACrashLeftBehindIsClearedByTheNextSave) {
   FailingFiles files;
   const ScratchFolder folder;
-  const std::string path = folder.file("Friends.tly");
+  const std::string path = folder / "Friends.tly";
   for (const DWORD attributes :
        {FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_READONLY}) {
     putFile(path, oldBytes);
@@ -183,12 +183,12 @@ TEST(SafeFile, WhatACrashLeftBehindIsClearedByTheNextSave) {
 
 TEST(SafeFile, TheTemporaryFileLiesBesideTheDocumentHoweverItsPathIsWritten) {
   const ScratchFolder folder;
-  const std::string wanted = temporaryName(folder.file("Friends.tly"));
+  const std::string wanted = temporaryName(folder / "Friends.tly");
   EXPECT_TRUE(wanted.starts_with(folder.path() + '\\'));
   EXPECT_EQ(wanted.find('\\', folder.path().size() + 1), std::string::npos);
-  EXPECT_NE(wanted, temporaryName(folder.file("Friend.tly")));
+  EXPECT_NE(wanted, temporaryName(folder / "Friend.tly"));
 
-  std::string slashes = folder.file("FRIENDS.tly");
+  std::string slashes = folder / "FRIENDS.tly";
   for (char& c : slashes)
     if (c == '\\') c = '/';
   EXPECT_EQ(temporaryName(slashes), wanted);

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "tests/app/support/picture_win.h"
+#include "tests/support/scratch_folder_win.h"
 
 namespace drive {
 
@@ -55,26 +56,6 @@ std::string temporaryFolder() {
   return folder;
 }
 
-void removeFolder(const std::string& folder) {
-  WIN32_FIND_DATAA found{};
-  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
-  if (search != INVALID_HANDLE_VALUE) {
-    do {
-      const std::string name = found.cFileName;
-      if (name == "." || name == "..") continue;
-      const std::string file = folder + "\\" + name;
-      if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        removeFolder(file);
-      } else {
-        SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-        DeleteFileA(file.c_str());
-      }
-    } while (FindNextFileA(search, &found));
-    FindClose(search);
-  }
-  RemoveDirectoryA(folder.c_str());
-}
-
 }  // namespace
 
 // What a run that was broken off left aside is the older, and the one to keep.
@@ -118,7 +99,7 @@ void AppTest::SetUp() {
   CreateDirectoryA(all.c_str(), nullptr);
   folder_ = testing::UnitTest::GetInstance()->current_test_info()->name();
   folder_ = all + "\\" + folder_.substr(folder_.rfind('/') + 1);
-  removeFolder(folder_);
+  test_support::ScratchFolder::removeTree(folder_);
   if (!CreateDirectoryA(folder_.c_str(), nullptr))
     throw std::runtime_error("no scratch folder " + folder_);
 }
@@ -126,7 +107,7 @@ void AppTest::SetUp() {
 void AppTest::TearDown() {
   if (HasFailure() && program_ != nullptr && program_->running()) tellWhatIsThere();
   program_.reset();
-  if (!HasFailure()) removeFolder(folder_);
+  if (!HasFailure()) test_support::ScratchFolder::removeTree(folder_);
 }
 
 void AppTest::tellWhatIsThere() const {

@@ -1,0 +1,62 @@
+#include "library/command_hints_win.h"
+
+#include "library/clsLibrary_win.h"
+
+namespace library {
+namespace {
+
+constexpr UINT timerInterval = 100;  // milliseconds
+
+}  // namespace
+
+windowing::StatusBar CommandHints::bar() const {
+  return windowing::StatusBar(form_.control("SBMAIN").handle());
+}
+
+void CommandHints::remember() {
+  shown_ = bar().panel();
+}
+
+void CommandHints::item(int number) {
+  end();
+  if (number == 0) return;
+  LIBRARY().STATUSTEXTDESC(form_, form_, number, false, noun_);
+  remember();
+}
+
+void CommandHints::systemItem(std::uint32_t code) {
+  LIBRARY().SYSTEMMENUDESC(form_, code);
+  remember();
+}
+
+void CommandHints::button(const std::string& key) {
+  LIBRARY().GETTBARDESCRIPTIONS(form_, key, noun_);
+  remember();
+  SetTimer(form_.handle(), TMR1, timerInterval, nullptr);
+}
+
+void CommandHints::onTimer(UINT_PTR timer) {
+  if (timer != TMR1) return;
+  // The family's figures for the watched area (1, 533, 44, 65) belong to one theme at one
+  // resolution; the toolbar itself says where it is.
+  const HWND toolbar = form_.control("TBARMAIN").handle();
+  RECT area{};
+  GetClientRect(toolbar, &area);
+  MapWindowPoints(toolbar, form_.handle(), reinterpret_cast<POINT*>(&area), 2);
+  if (!LIBRARY().MOUSEMOVE(form_, area.left, area.right, area.top, area.bottom)) end();
+}
+
+void CommandHints::end() {
+  KillTimer(form_.handle(), TMR1);
+  if (!shown_.empty() && bar().panel() == shown_) LIBRARY().STATUSBARCAPTION(form_, "", false);
+  shown_.clear();
+}
+
+std::string tooltipText(std::string_view caption) {
+  std::string text(caption);
+  std::erase(text, '&');
+  while (text.ends_with('.')) text.pop_back();
+  return text;
+}
+
+}  // namespace library

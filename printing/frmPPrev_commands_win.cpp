@@ -1,0 +1,176 @@
+// Menus, toolbar, keys and what each command of the preview does.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <utility>
+
+#include "controls/ICOMNU_win.h"
+
+#include "library/clsLibrary_win.h"
+#include "library/modLibrary_win.h"
+#include "printing/clsPrinting_win.h"
+#include "printing/frmPPrev_win.h"
+#include "printing/preview_commands.h"
+#include "printing/zoom.h"
+#include "windowing/number_text.h"
+
+namespace printing {
+
+using library::LIBRARY;
+
+namespace {
+
+struct Shortcut {
+  WPARAM key;
+  int command;
+};
+constexpr Shortcut shortcuts[] = {
+    {VK_HOME, id::FIRST}, {VK_PRIOR, id::PREVIOUS}, {VK_NEXT, id::NEXT}, {VK_END, id::LAST}};
+
+bool isList(HWND window) {
+  char name[16] = {};
+  GetClassNameA(window, name, sizeof name);
+  return lstrcmpiA(name, "ComboBox") == 0;
+}
+
+}  // namespace
+
+void frmPPrev::ICONMENUS() {
+  load();
+  // Sizes that change with the menu bar are for the time when it is complete.
+  const bool ready = std::exchange(ready_, false);
+  ICOMNU->clear();
+  ICOMNU->setImages(IMGLST);
+  for (const PreviewCommand& command : previewCommands) {
+    if (command.menu == noMenu) continue;
+    LIBRARY().MENUCREATE(*this, *this, menuCaption(command), "", command.menu, true, false,
+                         command.number);
+    LIBRARY().ICOMNUSETUP(*this, *this, command.number, std::string(command.key));
+  }
+  SetMenu(handle(), ICOMNU->bar());
+  ready_ = ready;
+}
+
+controls::ICOMNU& frmPPrev::iconMenus() {
+  return *ICOMNU;
+}
+
+void frmPPrev::setCommandEnabled(int command, bool enabled) {
+  const PreviewCommand* known = findPreviewCommand(command);
+  if (known == nullptr) return;
+  if (known->menu != noMenu) ICOMNU->setEnabled(command, enabled);
+  if (known->onToolbar) TBARMAIN().setButtonEnabled(command, enabled);
+}
+
+void frmPPrev::setCommandChecked(int command, bool checked) {
+  ICOMNU->setChecked(command, checked);
+}
+
+bool frmPPrev::commandEnabled(int command) const {
+  const PreviewCommand* known = findPreviewCommand(command);
+  if (known == nullptr) return false;
+  return known->menu != noMenu ? ICOMNU->isEnabled(command) : TBARMAIN().buttonEnabled(command);
+}
+
+bool frmPPrev::commandChecked(int command) const {
+  return ICOMNU->isChecked(command);
+}
+
+// The lists use these keys themselves.
+bool frmPPrev::handleKey(const MSG& message) {
+  const bool plain =
+      message.message == WM_KEYDOWN && GetKeyState(VK_SHIFT) >= 0 && GetKeyState(VK_CONTROL) >= 0;
+  if (!plain || isList(message.hwnd)) return false;
+  for (const Shortcut& shortcut : shortcuts) {
+    if (shortcut.key != message.wParam) continue;
+    runCommand(shortcut.command);
+    return true;
+  }
+  return false;
+}
+
+void frmPPrev::runCommand(int command) {
+  if (!commandEnabled(command)) return;
+  for (const ZoomLevel& level : zoomLevels) {
+    if (level.command != command) continue;
+    CBOPGZOOM().select(zoomIndex(level.text).value_or(0));
+    return PRINTING().ZOOMSEL();
+  }
+  switch (command) {
+    case id::PRINT:
+      return print(false);
+    case id::CLOSE:
+      static_cast<void>(unload());
+      return;
+    case id::TOOLBAR:
+    case id::STATUSBAR:
+      return toggleBar(command);
+    case id::FIRST:
+      return PRINTING().PAGESTART();
+    case id::PREVIOUS:
+      return PRINTING().PAGEPREVIOUS();
+    case id::NEXT:
+      return PRINTING().PAGENEXT();
+    case id::LAST:
+      return PRINTING().PAGEEND();
+    case id::ZOOMIN:
+      return PRINTING().ZOOMIN();
+    case id::ZOOMOUT:
+      return PRINTING().ZOOMOUT();
+    case id::ABOUT:
+      return library::modLibrary().showAbout();
+    default:
+      return;
+  }
+}
+
+// Every button runs its menu item's command but one: Print prints everything without a dialog.
+void frmPPrev::onToolButton(int command) {
+  if (command == id::PRINT && commandEnabled(command)) return print(true);
+  runCommand(command);
+}
+
+void frmPPrev::print(bool atOnce) {
+  PRINTING().PRINTDOCUMENT(*this, RTF3(), atOnce);
+  PRINTING().refreshPreview();
+}
+
+void frmPPrev::onSelect(int id) {
+  if (id == id::CBOPGNO) {
+    const windowing::ComboBox pages = CBOPGNO();
+    PRINTING().PAGESEL(windowing::toInteger16(pages.entry(pages.selected()), '.'), PICSTDPAGE());
+  } else if (id == id::CBOPGZOOM) {
+    PRINTING().ZOOMSEL();
+  }
+}
+
+LRESULT frmPPrev::onNotify(NMHDR& header) {
+  if (header.code == TBN_HOTITEMCHANGE) {
+    const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
+    const PreviewCommand* command =
+        (hot.dwFlags & HICF_LEAVING) != 0 ? nullptr : findPreviewCommand(hot.idNew);
+    if (command != nullptr) hints_.button(std::string(command->key));
+  }
+  if (header.code == TTN_GETDISPINFOA) {
+    auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
+    const PreviewCommand* command = findPreviewCommand(static_cast<int>(header.idFrom));
+    if (command != nullptr)
+      lstrcpynA(tip.szText, library::tooltipText(command->caption).c_str(), sizeof tip.szText);
+  }
+  return 0;
+}
+
+LRESULT frmPPrev::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT answer = 0;
+  if (ICOMNU->handleMessage(handle(), message, wParam, lParam, answer)) return answer;
+  if (message == WM_COMMAND && lParam != 0) {
+    // With the page chosen, the keys of the pages work again.
+    const bool closed = HIWORD(wParam) == CBN_CLOSEUP;
+    if (closed && isList(reinterpret_cast<HWND>(lParam))) control(id::PICWINDOW).focus();
+  }
+  if (message == WM_ENDSESSION && wParam != FALSE) onUnload();
+  return CommandForm::handleMessage(message, wParam, lParam);
+}
+
+}  // namespace printing

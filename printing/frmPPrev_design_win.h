@@ -1,0 +1,52 @@
+// The preview window as its designer laid it out: places in twips. What stands in the strip is
+// moved side by side when the window loads.
+#pragma once
+
+#include <array>
+
+#include "library/identifiers.h"
+#include "windowing/form_win.h"
+
+namespace printing::design {
+
+using windowing::ControlDesign;
+using windowing::ControlKind;
+namespace id = library::id::preview;
+
+constexpr int formWidth = 9900;
+constexpr int formHeight = 6600;
+constexpr int stripHeight = 480;
+constexpr int stripMargin = 60;
+constexpr int gap = 90;  ///< between the controls of the strip
+constexpr int listHeight = 315;
+constexpr int labelHeight = 195;
+constexpr int separatorWidth = 60;
+constexpr int pagesWidth = 975;
+constexpr int zoomsWidth = 1350;
+constexpr int paperWidth = 1800;
+constexpr int listTop = (stripHeight - listHeight) / 2;
+constexpr int labelTop = (stripHeight - labelHeight) / 2;
+
+// clang-format off
+constexpr std::array controls{
+  ControlDesign{"PICTBAR",   id::PICTBAR,   ControlKind::container,    "", 0, 0, formWidth, stripHeight},
+  ControlDesign{"FRAMTBAR",  id::FRAMTBAR,  ControlKind::container,    "", 0, 0, formWidth, stripHeight, id::PICTBAR},
+  ControlDesign{"TBARMAIN",  id::TBARMAIN,  ControlKind::toolBar,      "", stripMargin, 45, 3000, 390, id::FRAMTBAR},
+  ControlDesign{"TXTSEP1",   id::TXTSEP1,   ControlKind::custom,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"CBOPGNO",   id::CBOPGNO,   ControlKind::dropDownList, "", 0, listTop, pagesWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"TXTSEP2",   id::TXTSEP2,   ControlKind::custom,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"LBLZOOM",   id::LBLZOOM,   ControlKind::label,        "Zoom", 0, labelTop, 450, labelHeight, id::FRAMTBAR},
+  ControlDesign{"CBOPGZOOM", id::CBOPGZOOM, ControlKind::dropDownList, "", 0, listTop, zoomsWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"LBLPAPER",  id::LBLPAPER,  ControlKind::label,        "", 0, labelTop, paperWidth, labelHeight, id::FRAMTBAR, SS_RIGHT},
+  ControlDesign{"PICWINDOW", id::PICWINDOW, ControlKind::custom,       "", 0, stripHeight, formWidth, formHeight - stripHeight - 330},
+  ControlDesign{"SBMAIN",    id::SBMAIN,    ControlKind::statusBar,    "", 0, 0, formWidth, 330},
+  ControlDesign{"RTF3",      id::RTF3,      ControlKind::custom,       "", 0, 0, 1500, 500},
+  ControlDesign{"RTF2",      id::RTF2,      ControlKind::custom,       "", 0, 0, 1500, 500},
+};
+// clang-format on
+
+constexpr windowing::FormDesign form{"frmPPrev", "Preview", WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX,
+                                     0,          formWidth, formHeight,
+                                     controls};
+
+}  // namespace printing::design

@@ -1,0 +1,480 @@
+#include "printing/frmPPrev_win.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "library/identifiers.h"
+#include "library/settings_text.h"
+#include "printing/clsPrinting_win.h"
+#include "tests/support/print_job_win.h"
+#include "tests/support/printers_win.h"
+#include "tests/support/recording_win.h"
+#include "tests/support/scratch_registry_win.h"
+#include "windowing/application_win.h"
+#include "windowing/printer_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/screen_win.h"
+
+namespace printing {
+namespace {
+
+using test_support::JobPage;
+using test_support::ScratchRegistry;
+using test_support::TestPrinters;
+using windowing::ComboBox;
+using windowing::printer;
+using windowing::screenPixels;
+using windowing::screenTwips;
+namespace id = library::id::preview;
+
+std::string lines(int last) {
+  std::string text;
+  for (int line = 1; line <= last; ++line) text += "Line " + std::to_string(line) + "\r\n";
+  return text;
+}
+
+// Runs once in the message loop that shows the preview, and closes the preview after it.
+std::function<void()> duringPreview;
+
+void CALLBACK inPreview(HWND, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(nullptr, timer);
+  const auto run = std::exchange(duringPreview, {});
+  run();
+  static_cast<void>(thePreview().unload());
+}
+
+class Preview : public testing::Test {
+ protected:
+  Preview() {
+    window_ = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr,
+                              nullptr);
+    RTF1_.create(window_, 1, {0, 0, 10, 10});
+    RTF1_.setPlain(lines(150));
+    printer().select(TestPrinters::a4);
+    printer().select(TestPrinters::letter);
+    static_cast<void>(thePreview().unload());
+  }
+  ~Preview() override {
+    static_cast<void>(thePreview().unload());
+    DestroyWindow(window_);
+  }
+
+  static std::string items() {
+    return library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items");
+  }
+  static std::string place() {
+    return library::windowKey(windowing::companyName(), windowing::productName(), "GLOBAL");
+  }
+  void store(const std::string& name, const std::string& text) {
+    ScratchRegistry::putText(settings_.user(), items(), name, text);
+  }
+  std::string stored(const std::string& key, const std::string& name) {
+    return ScratchRegistry::text(settings_.user(), key, name);
+  }
+
+  // Shows the preview as the main window's command does and runs `test` meanwhile.
+  void preview(std::function<void()> test) {
+    bool ran = false;
+    duringPreview = [&] {
+      ran = true;
+      test();
+    };
+    SetTimer(nullptr, 0, 1, inPreview);
+    PRINTING().setReport(RTF1_);
+    PRINTING().PRINTPREVIEW();
+    EXPECT_TRUE(ran);
+    EXPECT_FALSE(thePreview().loaded());
+  }
+
+  static std::string shown(const ComboBox& list) { return list.entry(list.selected()); }
+  static std::string page() { return shown(thePreview().CBOPGNO()); }
+  static std::string zoom() { return shown(thePreview().CBOPGZOOM()); }
+  // Chooses as the user does: the selection, then the notice of it.
+  static void choose(const ComboBox& list, int index) {
+    list.select(index);
+    const HWND handle = list.handle();
+    SendMessageA(GetParent(handle), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(handle), CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(handle));
+  }
+  static std::string firstLineOnShow() {
+    const auto drawing = test_support::drawingOf(thePreview().PICSTDPAGE().recording());
+    for (const auto& text : drawing.texts)
+      if (text.text.rfind("Line ", 0) == 0) return text.text;
+    return "";
+  }
+  static std::string available(std::initializer_list<int> commands) {
+    std::string states;
+    for (const int command : commands) {
+      states += thePreview().commandEnabled(command) ? '1' : '0';
+      const windowing::ToolBar bar(thePreview().control(id::TBARMAIN).handle());
+      EXPECT_EQ(bar.buttonEnabled(command), thePreview().commandEnabled(command)) << command;
+    }
+    return states;
+  }
+  static std::string paging() { return available({id::FIRST, id::PREVIOUS, id::NEXT, id::LAST}); }
+  static void press(WPARAM key) {
+    MSG message{thePreview().control(id::PICWINDOW).handle(), WM_KEYDOWN, key, 0, 0, {}};
+    windowing::dispatchMessage(message);
+  }
+
+  TestPrinters printers_;
+  ScratchRegistry settings_;
+  HWND window_ = nullptr;
+  windowing::RichTextBox RTF1_{"RTF1"};
+};
+
+TEST_F(Preview, OpensAtTheFirstPageAndHalfSize) {
+  preview([&] {
+    frmPPrev& form = thePreview();
+    EXPECT_EQ(form.CBOPGNO().count(), 3);
+    EXPECT_EQ(form.CBOPGZOOM().count(), 8);
+    EXPECT_EQ(page() + "/" + zoom(), "1/50 %");
+    EXPECT_TRUE(form.commandChecked(id::ZOOM50));
+    EXPECT_EQ(form.control(id::LBLPAPER).text(), "8.50 x 11.00 inches");
+    EXPECT_TRUE(form.control(id::PICWINDOW).focused());
+    EXPECT_FALSE(IsWindowVisible(form.RTF3().handle()));
+    EXPECT_FALSE(IsWindowVisible(form.RTF2().handle()));
+    EXPECT_EQ(GetWindowLongA(form.handle(), GWL_STYLE) & WS_MINIMIZEBOX, 0);
+    const RECT onScreen = form.PICWINDOW().pagePixels();
+    EXPECT_EQ(onScreen.right - onScreen.left, screenPixels(6120));
+    EXPECT_EQ(onScreen.bottom - onScreen.top, screenPixels(7920));
+  });
+}
+
+TEST_F(Preview, TurnsPages) {
+  preview([&] {
+    struct Step {
+      std::function<void()> turn;
+      const char* page;
+      const char* available;
+    };
+    const auto run = [](int command) { return [command] { thePreview().runCommand(command); }; };
+    const auto key = [](WPARAM code) { return [code] { press(code); }; };
+    const auto list = [](int index) { return [index] { choose(thePreview().CBOPGNO(), index); }; };
+    const Step steps[] = {
+        {run(id::FIRST), "1", "0011"}, {run(id::PREVIOUS), "1", "0011"},
+        {run(id::NEXT), "2", "1111"},  {run(id::NEXT), "3", "1100"},
+        {run(id::NEXT), "3", "1100"},  {run(id::PREVIOUS), "2", "1111"},
+        {run(id::LAST), "3", "1100"},  {run(id::FIRST), "1", "0011"},
+        {key(VK_END), "3", "1100"},    {key(VK_PRIOR), "2", "1111"},
+        {key(VK_NEXT), "3", "1100"},   {key(VK_HOME), "1", "0011"},
+        {list(1), "2", "1111"},        {list(2), "3", "1100"},
+    };
+    std::vector<std::string> firstLines(4);
+    for (const Step& step : steps) {
+      step.turn();
+      EXPECT_EQ(page() + paging(), std::string(step.page) + step.available);
+      EXPECT_EQ(PRINTING().currentPage(), std::stoi(step.page));
+      std::string& known = firstLines[static_cast<std::size_t>(std::stoi(step.page))];
+      if (known.empty()) known = firstLineOnShow();
+      EXPECT_EQ(firstLineOnShow(), known) << "one page, whichever way one came to it";
+    }
+    EXPECT_EQ(firstLines[1], "Line 1");
+    EXPECT_NE(firstLines[2], firstLines[1]);
+    EXPECT_NE(firstLines[3], firstLines[2]);
+  });
+  RTF1_.setPlain("One page");
+  preview([&] { EXPECT_EQ(page() + paging(), "10000"); });
+}
+
+TEST_F(Preview, ZoomsByMenuListAndSteps) {
+  struct Row {
+    const char* text;
+    int command;
+    const char* stepping;  // in and out
+    const char* in;
+    const char* out;
+  };
+  const Row rows[] = {{"25 %", id::ZOOM25, "10", "50 %", "25 %"},
+                      {"50 %", id::ZOOM50, "11", "75 %", "25 %"},
+                      {"75 %", id::ZOOM75, "11", "100 %", "50 %"},
+                      {"100 %", id::ZOOM100, "11", "150 %", "75 %"},
+                      {"150 %", id::ZOOM150, "11", "200 %", "100 %"},
+                      {"200 %", id::ZOOM200, "01", "200 %", "150 %"},
+                      {"Page Width", id::ZOOMPW, "00", "Page Width", "Page Width"},
+                      {"Whole Page", id::ZOOMWP, "00", "Whole Page", "Whole Page"}};
+  preview([&] {
+    frmPPrev& form = thePreview();
+    const auto expectRow = [&](const Row& row) {
+      EXPECT_EQ(zoom(), row.text);
+      EXPECT_EQ(available({id::ZOOMIN, id::ZOOMOUT}), row.stepping) << row.text;
+      for (const Row& other : rows)
+        EXPECT_EQ(form.commandChecked(other.command), other.command == row.command) << row.text;
+      const double percent = std::atof(row.text);
+      const double width = form.PICWINDOW().pagePlace().across.length;
+      if (percent != 0) {
+        EXPECT_NEAR(width, 12240 * percent / 100, 0.01);
+      }
+    };
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+      form.runCommand(rows[i].command);
+      expectRow(rows[i]);
+      choose(form.CBOPGZOOM(), static_cast<int>((i + 3) % std::size(rows)));
+      expectRow(rows[(i + 3) % std::size(rows)]);
+    }
+    for (const Row& row : rows) {
+      form.runCommand(row.command);
+      PRINTING().ZOOMIN();
+      EXPECT_EQ(zoom(), row.in);
+      form.runCommand(row.command);
+      PRINTING().ZOOMOUT();
+      EXPECT_EQ(zoom(), row.out);
+    }
+    // By the buttons of the mouse, on the page and only there.
+    form.runCommand(id::ZOOM50);
+    const HWND view = form.control(id::PICWINDOW).handle();
+    const auto click = [&](UINT button, int x, int y) {
+      SendMessageA(view, button, 0, MAKELPARAM(x, y));
+      return zoom();
+    };
+    const RECT at = form.PICWINDOW().pagePixels();
+    EXPECT_EQ(click(WM_LBUTTONDOWN, at.left - 2, at.top + 5), "50 %");
+    EXPECT_EQ(click(WM_LBUTTONDOWN, at.left + 5, at.top + 5), "75 %");
+    EXPECT_EQ(click(WM_RBUTTONDOWN, at.left + 5, at.top + 5), "50 %");
+  });
+}
+
+TEST_F(Preview, ScrollsThePage) {
+  preview([&] {
+    frmPPrev& form = thePreview();
+    PageView& view = form.PICWINDOW();
+    form.runCommand(id::ZOOM200);
+    const POINT last{view.pagePlace().across.scrollMax, view.pagePlace().down.scrollMax};
+    view.scrollTo({0, 0});
+    EXPECT_EQ(view.pageLeft(), 45);
+    EXPECT_EQ(view.pageTop(), 45);
+    view.scrollTo({45, 45});
+    EXPECT_EQ(view.pagePixels().left, 0);
+    EXPECT_EQ(view.pagePixels().top, 0);
+    view.scrollTo({1'000'000, 1'000'000});
+    EXPECT_EQ(view.scrollPosition().x, last.x);
+    EXPECT_EQ(view.scrollPosition().y, last.y);
+    const ViewSize size = view.size();
+    EXPECT_NEAR(view.pageLeft() + view.pagePlace().across.length, size.visibleWidth() - 45, 1);
+    EXPECT_NEAR(view.pageTop() + view.pagePlace().down.length, size.visibleHeight() - 45, 1);
+
+    // The bars know positions that do not fit into the 16 bits of their messages.
+    const HWND bar = GetDlgItem(view.handle(), id::SCRVBAR);
+    SCROLLINFO info{sizeof info, SIF_ALL, 0, 0, 0, 0, 0};
+    GetScrollInfo(bar, SB_CTL, &info);
+    EXPECT_EQ(info.nPos, last.y);
+    EXPECT_EQ(info.nMax - static_cast<int>(info.nPage) + 1, last.y);
+    press(VK_UP);
+    EXPECT_LT(view.scrollPosition().y, last.y);
+    SendMessageA(view.handle(), WM_VSCROLL, SB_TOP, reinterpret_cast<LPARAM>(bar));
+    EXPECT_EQ(view.scrollPosition().y, 0);
+    SendMessageA(view.handle(), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_GT(view.scrollPosition().y, 0);
+    form.runCommand(id::NEXT);
+    EXPECT_EQ(view.scrollPosition().y, 0) << "a page begins at its top";
+
+    form.runCommand(id::ZOOM25);
+    EXPECT_EQ(view.scrollPosition().x, 0);
+    EXPECT_FALSE(IsWindowEnabled(GetDlgItem(view.handle(), id::SCRHBAR)));
+  });
+}
+
+TEST_F(Preview, LaysOutAtEverySize) {
+  preview([&] {
+    frmPPrev& form = thePreview();
+    const auto edges = [&](int control) { return form.control(control).pixels(); };
+    for (const SIZE size : {SIZE{700, 500}, {400, 300}, {160, 90}, {1000, 700}}) {
+      form.moveOuter({0, 0, size.cx, size.cy});
+      RECT client{};
+      GetClientRect(form.handle(), &client);
+      const RECT view = edges(id::PICWINDOW);
+      EXPECT_EQ(view.top, edges(id::PICTBAR).bottom);
+      EXPECT_EQ(view.right, client.right);
+      EXPECT_EQ(view.bottom, std::max(view.top, edges(id::SBMAIN).top));
+      for (const int zoom : {id::ZOOMPW, id::ZOOMWP, id::ZOOM25}) form.runCommand(zoom);
+    }
+    const ViewSize now = form.PICWINDOW().size();
+    form.runCommand(id::ZOOMPW);
+    form.moveOuter({0, 0, 800, 600});
+    EXPECT_NEAR(form.PICWINDOW().pagePlace().across.length,
+                now.width - screenTwips(200) - now.verticalBar - 180, 1)
+        << "fitted anew";
+    form.runCommand(id::TOOLBAR);
+    EXPECT_EQ(edges(id::PICWINDOW).top, 0);
+    form.runCommand(id::STATUSBAR);
+    RECT client{};
+    GetClientRect(form.handle(), &client);
+    EXPECT_EQ(edges(id::PICWINDOW).bottom, client.bottom);
+    EXPECT_EQ(stored(items(), "Toolbar"), "(none)") << "stored when it closes, not before";
+  });
+  EXPECT_EQ(stored(items(), "Toolbar"), "False");
+}
+
+TEST_F(Preview, KeepsItsSettings) {
+  preview([&] {
+    thePreview().runCommand(id::ZOOMWP);
+    thePreview().runCommand(id::STATUSBAR);
+    thePreview().moveOuter({30, 40, 730, 540});
+  });
+  EXPECT_EQ(stored(items(), "Zoom"), "Whole Page");
+  EXPECT_EQ(stored(items(), "Status Bar"), "False");
+  EXPECT_EQ(stored(items(), "Toolbar"), "True");
+  EXPECT_EQ(stored(place(), "Window State"), "0");
+  EXPECT_EQ(stored(place(), "Width"), std::to_string(static_cast<int>(screenTwips(700))));
+  preview([&] {
+    EXPECT_EQ(page() + "/" + zoom(), "1/Whole Page");
+    EXPECT_EQ(thePreview().outerPixels().left, 30);
+    EXPECT_EQ(thePreview().outerPixels().bottom, 540);
+    EXPECT_FALSE(thePreview().control(id::SBMAIN).visible());
+    EXPECT_FALSE(thePreview().commandChecked(id::STATUSBAR));
+  });
+}
+
+TEST_F(Preview, ReadsWhatOthersStored) {
+  struct Case {
+    const char* zoom;
+    const char* bar;
+    const char* expectedZoom;
+    bool expectedBar;
+  };
+  for (const Case& c : {Case{"150 %", "false", "150 %", false},
+                        {"60 %", "FALSE", "50 %", false},
+                        {"", "0", "50 %", false},
+                        {"page width", "maybe", "50 %", true},
+                        {"Page Width", "-1", "Page Width", true},
+                        {"0", "", "50 %", true}}) {
+    store("Zoom", c.zoom);
+    store("Toolbar", c.bar);
+    store("Status Bar", c.bar);
+    ScratchRegistry::putText(settings_.user(), place(), "Width", "wide");
+    preview([&] {
+      EXPECT_EQ(zoom(), c.expectedZoom) << c.zoom;
+      EXPECT_EQ(thePreview().control(id::PICTBAR).visible(), c.expectedBar) << c.bar;
+      EXPECT_EQ(thePreview().control(id::SBMAIN).visible(), c.expectedBar) << c.bar;
+      EXPECT_EQ(thePreview().commandChecked(id::TOOLBAR), c.expectedBar) << c.bar;
+    });
+  }
+}
+
+// Lines of the text with their places, so that neither the clock nor an empty footer matters.
+template <typename Texts>
+std::vector<std::string> placedLines(const Texts& texts) {
+  std::vector<std::string> found;
+  int top = 0;
+  for (const auto& text : texts) {
+    if (text.text.rfind("Line ", 0) != 0) continue;
+    if (found.empty()) top = text.y;
+    found.push_back(text.text + " at " + std::to_string(text.x) + ", " +
+                    std::to_string(text.y - top));
+  }
+  return found;
+}
+
+TEST_F(Preview, ShowsThePagesThatArePrinted) {
+  // Long lines, which wrap where the printer has them wrap, whatever the screen's resolution.
+  std::string text;
+  for (int number = 1; number <= 45; ++number) {
+    for (int word = 0; word < 25; ++word) text += "Line " + std::to_string(number * word) + ' ';
+    text += "\r\n";
+  }
+  RTF1_.setPlain(text);
+  preview([&] {
+    TestPrinters::clearJobs();
+    PRINTING().PRINTDOCUMENT(thePreview(), thePreview().RTF3(), true);
+    const std::vector<JobPage> job = test_support::pagesOf(TestPrinters::letterJob());
+    ASSERT_GE(job.size(), 2U);
+    ASSERT_EQ(static_cast<int>(job.size()), thePreview().CBOPGNO().count());
+    for (const JobPage& printed : job) {
+      const auto drawing = test_support::drawingOf(thePreview().PICSTDPAGE().recording());
+      // The picture is the whole paper; the printer's places count from the printable corner.
+      std::vector<test_support::DrawnText> drawn = drawing.texts;
+      for (auto& line : drawn) line.x -= 360 * 10 / 24;
+      EXPECT_GT(placedLines(drawn).size(), 1U);
+      EXPECT_EQ(placedLines(drawn), placedLines(printed.texts));
+      thePreview().runCommand(id::NEXT);
+    }
+  });
+}
+
+TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
+  preview([&] {
+    frmPPrev& form = thePreview();
+    int dialogs = 0;
+    const windowing::Replaced dialog(windowing::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
+      ++dialogs;
+      EXPECT_EQ(asked.hwndOwner, form.handle());
+      asked.Flags |= PD_PAGENUMS;
+      asked.nFromPage = asked.nToPage = 2;
+      return TRUE;
+    });
+    const auto printedPages = [] {
+      return test_support::pagesOf(TestPrinters::letterJob()).size();
+    };
+    form.runCommand(id::NEXT);
+    TestPrinters::clearJobs();
+    form.runCommand(id::PRINT);
+    EXPECT_EQ(printedPages(), 1U);
+    TestPrinters::clearJobs();
+    const HWND bar = form.control(id::TBARMAIN).handle();
+    SendMessageA(GetParent(bar), WM_COMMAND, id::PRINT, reinterpret_cast<LPARAM>(bar));
+    EXPECT_EQ(printedPages(), 3U);
+    EXPECT_EQ(dialogs, 1);
+    EXPECT_EQ(page() + paging(), "21111") << "the page on show stays";
+  });
+}
+
+TEST_F(Preview, FollowsThePrinterThatIsChosenInTheDialog) {
+  RTF1_.setPlain(lines(112));
+  windowing::Printer other;
+  other.select(TestPrinters::a4);
+  other.setOrientation(windowing::Orientation::landscape);
+  preview([&] {
+    EXPECT_EQ(thePreview().CBOPGNO().count(), 2);
+    const windowing::Replaced dialog(windowing::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
+      printer().adopt(other.name(), *reinterpret_cast<const DEVMODEA*>(other.settings().data()));
+      GlobalFree(asked.hDevMode);
+      asked.hDevMode = nullptr;
+      return TRUE;
+    });
+    thePreview().runCommand(id::PRINT);
+    EXPECT_EQ(thePreview().CBOPGNO().count(), 3);
+    EXPECT_EQ(thePreview().control(id::LBLPAPER).text(), "11.69 x 8.26 inches");
+    const PagePlace place = thePreview().PICWINDOW().pagePlace();
+    EXPECT_GT(place.across.length, place.down.length);
+  });
+  printer().select(TestPrinters::letter);
+}
+
+TEST_F(Preview, HiddenStoresNothing) {
+  PRINTING().PRINTDOCUMENT(thePreview(), RTF1_, true);
+  ASSERT_TRUE(thePreview().loaded());
+  EXPECT_FALSE(IsWindowVisible(thePreview().handle()));
+  EXPECT_TRUE(thePreview().unload());
+  EXPECT_EQ(stored(items(), "Zoom"), "(none)");
+  EXPECT_EQ(stored(place(), "Left"), "(none)");
+}
+
+TEST_F(Preview, MarginsThatDoNotFitOpenNothing) {
+  PRINTING().setReport(RTF1_);
+  for (const char* margin : {"23", "x"}) {
+    store("Page Margin 2", margin);
+    EXPECT_THROW(PRINTING().PRINTPREVIEW(), windowing::RuntimeError);
+    EXPECT_FALSE(thePreview().loaded());
+  }
+  store("Page Margin 2", "1");
+  preview([&] { EXPECT_EQ(thePreview().CBOPGNO().count(), 3); });
+}
+
+TEST(PreviewWithoutPrinter, TellsTheUser) {
+  ASSERT_TRUE(windowing::printerNames().empty());
+  const ScratchRegistry settings;
+  std::string told;
+  const windowing::Replaced box(windowing::seams().messageBox,
+                                [&](HWND, const std::string& text, const std::string&, UINT) {
+                                  told = text;
+                                  return IDOK;
+                                });
+  const windowing::RichTextBox report("RTF1");
+  PRINTING().setReport(report);
+  PRINTING().PRINTPREVIEW();
+  EXPECT_EQ(told.rfind("There is no printer installed.", 0), 0U) << told;
+}
+
+}  // namespace
+}  // namespace printing
