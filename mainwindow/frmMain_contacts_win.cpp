@@ -45,6 +45,15 @@ bool survivesABox(std::string_view text) {
   });
 }
 
+// An empty box that stays empty needs no painting; it only has to forget what could be undone.
+void fillBox(const document::Field& field, const windowing::Control& box, const std::string& text) {
+  if (text.empty() && field.box == document::Box::TXTITEMS && box.send(WM_GETTEXTLENGTH) == 0) {
+    box.send(EM_EMPTYUNDOBUFFER);
+  } else {
+    box.setText(text);
+  }
+}
+
 }  // namespace
 
 // Filling the boxes raises their change notices; that is no editing.
@@ -57,7 +66,7 @@ void frmMain::ShowCurrent() {
     const windowing::Control box = control(design::boxId(field));
     std::string& shown = shown_[slot];
     shown.assign(texts[slot]);
-    box.setText(shown);
+    fillBox(field, box, shown);
     if (!survivesABox(shown)) shown = box.text();
   }
   CBOTBARBOX().select(list_.current() < list_.count() ? list_.current() : -1);
@@ -155,7 +164,7 @@ void frmMain::goTo(int index) {
 void frmMain::emptyFields() {
   const While filling(filling_);
   for (const document::Field& field : document::fields) {
-    control(design::boxId(field)).setText("");
+    fillBox(field, control(design::boxId(field)), "");
     shown_[static_cast<std::size_t>(field.slot)].clear();
   }
 }
@@ -205,7 +214,7 @@ void frmMain::focusFirstField() {
 
 void frmMain::refreshFieldState() {
   const bool any = list_.count() > 0;
-  if (TXTITEMS(0).enabled() == any) return;
+  if (loading_ || TXTITEMS(0).enabled() == any) return;
   const HWND focus = GetFocus();
   for (const document::Field& field : document::fields) {
     const windowing::Control box = control(design::boxId(field));

@@ -123,7 +123,10 @@ void frmMain::onLoad() {
     // A stored place that is none: the window stays where its design put it.
   }
   applyView();
+  // The boxes are not greyed first only to be freed by the new document.
+  loading_ = true;
   SETSAVE("False");
+  loading_ = false;
   startNewDocument();
   layOut();
   setFirstFocus(TXTITEMS(1));

@@ -158,6 +158,7 @@ class frmMain : public library::CommandForm {
   std::unique_ptr<controls::ICOMNU> ICOMNU;
   windowing::FileCalls realFileCalls_;
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
+  bool loading_ = false;   ///< the window is on its way to its first document
   bool filling_ = false;   ///< the program itself changes the boxes
   bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
   std::string described_;  ///< description in the status bar, as shown there
