@@ -47,6 +47,7 @@ class ButtonOfBox : public Subclass {
   void draw(HDC dc, const RECT& button) const;
   void relayToTip() const;
   void moveTip() const;
+  void makeTip();
   [[nodiscard]] TTTOOLINFOA tool() const;
 
   const windowing::ImageList* images_ = nullptr;
@@ -94,18 +95,22 @@ void ButtonOfBox::setButton(const windowing::ImageList& images, int image, const
   images_ = &images;
   image_ = image;
   tipText_ = tip;
-  if (tip_ == nullptr && !tip.empty()) {
-    tip_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr,
-                           WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                           CW_USEDEFAULT, CW_USEDEFAULT, GetAncestor(window(), GA_ROOT), nullptr,
-                           windowing::programInstance(), nullptr);
-    TTTOOLINFOA added = tool();
-    SendMessageA(tip_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&added));
-  } else if (tip_ != nullptr) {
+  if (tip_ != nullptr) {
     TTTOOLINFOA changed = tool();
     SendMessageA(tip_, TTM_UPDATETIPTEXTA, 0, reinterpret_cast<LPARAM>(&changed));
   }
   paint();
+}
+
+// The tooltip's window is made when the pointer first comes over the button: most are never seen.
+void ButtonOfBox::makeTip() {
+  if (tip_ != nullptr || tipText_.empty()) return;
+  tip_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr,
+                         WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                         CW_USEDEFAULT, CW_USEDEFAULT, GetAncestor(window(), GA_ROOT), nullptr,
+                         windowing::programInstance(), nullptr);
+  TTTOOLINFOA added = tool();
+  SendMessageA(tip_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&added));
 }
 
 TTTOOLINFOA ButtonOfBox::tool() const {
@@ -142,6 +147,7 @@ void ButtonOfBox::setHot(bool hot) {
   if (hot_ == hot) return;
   hot_ = hot;
   if (hot) {
+    makeTip();
     TRACKMOUSEEVENT wanted{sizeof wanted, TME_LEAVE | TME_NONCLIENT, window(), 0};
     TrackMouseEvent(&wanted);
   }
