@@ -132,7 +132,7 @@ void frmPPrev::onLoad() {
 
 // The program's icon, as the main window has it.
 void frmPPrev::takeIcon() {
-  for (const WPARAM size : {ICON_BIG, ICON_SMALL})
+  for (const WPARAM size : {WPARAM{ICON_BIG}, WPARAM{ICON_SMALL}})
     SendMessageA(handle(), WM_SETICON, size,
                  SendMessageA(windowing::mainWindow(), WM_GETICON, size, 0));
 }

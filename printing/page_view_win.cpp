@@ -165,7 +165,7 @@ void PageView::answerBar(HWND bar, int code) {
   const LONG last = (sideways ? place_.across : place_.down).scrollMax;
   const double visible = sideways ? view.visibleWidth() : view.visibleHeight();
   const LONG page = std::max<LONG>(lineStep, static_cast<LONG>(visible) - lineStep);
-  LONG wanted = now;
+  LONG wanted{};
   switch (code) {
     case SB_LINEUP:
       wanted = now - lineStep;

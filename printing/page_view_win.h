@@ -23,8 +23,8 @@ class PageView : public windowing::Window {
   HWND create(HWND container, int id, const RECT& place);
 
   [[nodiscard]] ViewSize size() const;
-  /// Shows the page at another place, scrolled to its top-left corner or, while `keeping` a
-  /// point of the view, so that the point shows the same spot of the page.
+  /// Shows the page at another place and size, scrolled so that the point that was clicked on
+  /// shows the same spot of it, or its middle and its first visible line where none was.
   void showPage(const PagePlace& place);
   /// Shows what the picture holds now, from the top of the page on.
   void showNewPicture();
