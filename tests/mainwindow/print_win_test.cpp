@@ -1,0 +1,71 @@
+// The main window's two ways of printing, and which contact each of them prints.
+#include <gtest/gtest.h>
+
+#include "library/identifiers.h"
+#include "tests/support/main_window_win.h"
+#include "tests/support/print_job_win.h"
+#include "tests/support/printers_win.h"
+#include "windowing/print_dialog_win.h"
+#include "windowing/printer_win.h"
+
+namespace {
+
+namespace id = library::id;
+using test_support::TestPrinters;
+
+class PrintingContacts : public test_support::MainWindowTest {
+ protected:
+  PrintingContacts() {
+    windowing::printer().select(TestPrinters::a4);
+    windowing::printer().select(TestPrinters::letter);
+  }
+  void press(int button) {
+    TestPrinters::clearJobs();
+    SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(button, 0),
+                 reinterpret_cast<LPARAM>(form.control(id::TBARMAIN).handle()));
+  }
+  void choose(int command) {
+    TestPrinters::clearJobs();
+    run(command);
+  }
+  // What stands on the only page below header and footer.
+  static std::string printed() {
+    const auto pages = test_support::pagesOf(TestPrinters::letterJob());
+    if (pages.size() != 1) return std::to_string(pages.size()) + " pages";
+    const std::string all = pages[0].joined();
+    return all.substr(all.find("|1|") + 3);
+  }
+
+  TestPrinters printers_;
+  int asked_ = 0;
+  windowing::Replaced<std::function<BOOL(PRINTDLGA&)>> dialog_{windowing::printDialogSeam(),
+                                                               [this](PRINTDLGA&) -> BOOL {
+                                                                 ++asked_;
+                                                                 return TRUE;
+                                                               }};
+};
+
+// The button prints what stands in the boxes, the menu's command the report composed last.
+TEST_F(PrintingContacts, TheButtonComposesAndTheMenuDoesNot) {
+  open(contactsFile({"Ash", "Birch"}));
+  choose(id::PRINT);
+  EXPECT_EQ(asked_, 1);
+  EXPECT_EQ(printed(), "") << "nothing was composed so far";
+  type(id::textItem(0), "Alder");
+  type(id::textItem(22), "unsaved");
+  press(id::PRINT);
+  EXPECT_EQ(asked_, 1) << "the button asks nothing";
+  EXPECT_EQ(printed(), " Alder|Comments: unsaved|");
+  EXPECT_EQ(form.contacts().nameEntry(0), " Ash") << "printing stores nothing";
+  run(id::LAST);
+  form.SETSAVE("False");
+  choose(id::PRINT);
+  EXPECT_EQ(asked_, 2);
+  EXPECT_EQ(printed(), " Alder|Comments: unsaved|");
+  press(id::PRINT);
+  EXPECT_EQ(printed(), " Birch|");
+  EXPECT_FALSE(form.modified());
+  EXPECT_TRUE(boxes.empty());
+}
+
+}  // namespace
