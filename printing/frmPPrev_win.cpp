@@ -117,7 +117,6 @@ HWND frmPPrev::createCustom(const windowing::ControlDesign& made, HWND container
 }
 
 void frmPPrev::onLoad() {
-  ready_ = false;
   takeIcon();
   buildToolbar();
   arrangeStrip();
@@ -235,6 +234,7 @@ void frmPPrev::discardPreview() {
 }
 
 void frmPPrev::onUnload() {
+  ready_ = false;
   hints_.end();
   // A window that was only printed with has nothing to say about how it was left.
   if (IsWindowVisible(handle())) store();
