@@ -169,6 +169,7 @@ LRESULT frmPPrev::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const bool closed = HIWORD(wParam) == CBN_CLOSEUP;
     if (closed && isList(reinterpret_cast<HWND>(lParam))) control(id::PICWINDOW).focus();
   }
+  if (message == WM_DESTROY) ready_ = false;
   if (message == WM_ENDSESSION && wParam != FALSE) onUnload();
   return CommandForm::handleMessage(message, wParam, lParam);
 }

@@ -45,8 +45,11 @@ constexpr std::array controls{
 };
 // clang-format on
 
-constexpr windowing::FormDesign form{"frmPPrev", "Preview", WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX,
-                                     0,          formWidth, formHeight,
-                                     controls};
+// A popup, as modal windows are: where a window manager decides, it gives a plain window that
+// appears beside the active one no focus.
+constexpr DWORD formStyle = WS_POPUP | (WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX);
+
+constexpr windowing::FormDesign form{"frmPPrev", "Preview",  formStyle, 0,
+                                     formWidth,  formHeight, controls};
 
 }  // namespace printing::design

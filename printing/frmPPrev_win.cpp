@@ -117,8 +117,6 @@ HWND frmPPrev::createCustom(const windowing::ControlDesign& made, HWND container
 }
 
 void frmPPrev::onLoad() {
-  ready_ = false;
-  takeIcon();
   buildToolbar();
   arrangeStrip();
   prepareList(CBOPGNO(), "15");
@@ -128,13 +126,6 @@ void frmPPrev::onLoad() {
   ready_ = true;
   placeView();
   setFirstFocus(control(id::PICWINDOW));
-}
-
-// The program's icon, as the main window has it.
-void frmPPrev::takeIcon() {
-  for (const WPARAM size : {WPARAM{ICON_BIG}, WPARAM{ICON_SMALL}})
-    SendMessageA(handle(), WM_SETICON, size,
-                 SendMessageA(windowing::mainWindow(), WM_GETICON, size, 0));
 }
 
 void frmPPrev::buildToolbar() {

@@ -60,7 +60,6 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void takeIcon();
   void buildToolbar();
   void arrangeStrip();
   void applyView();

@@ -42,6 +42,23 @@ std::string defaultPrinterName() {
   return names.empty() ? std::string() : names.front();
 }
 
+/// Puts settings back as they were at its beginning, unless the device took what was made of them.
+class UnlessTaken {
+ public:
+  explicit UnlessTaken(std::vector<BYTE>& settings) : settings_(settings), before_(settings) {}
+  UnlessTaken(const UnlessTaken&) = delete;
+  UnlessTaken& operator=(const UnlessTaken&) = delete;
+  ~UnlessTaken() {
+    if (!taken_) settings_.swap(before_);
+  }
+  void taken() { taken_ = true; }
+
+ private:
+  std::vector<BYTE>& settings_;
+  std::vector<BYTE> before_;
+  bool taken_ = false;
+};
+
 }  // namespace
 
 std::vector<std::string> printerNames() {
@@ -172,6 +189,8 @@ int Printer::paperSize() {
 
 void Printer::setPaperSize(int code) {
   if (code <= 0 || code > std::numeric_limits<short>::max()) raiseInvalidCall();
+  (void)name();
+  UnlessTaken change(settings_);
   // A form's name and a size of its own would win over the code.
   const auto codeAlone = [this] {
     mode().dmFields &= ~static_cast<DWORD>(DM_FORMNAME | DM_PAPERLENGTH | DM_PAPERWIDTH);
@@ -183,6 +202,7 @@ void Printer::setPaperSize(int code) {
   mode().dmPaperSize = static_cast<short>(code);
   mode().dmFields |= DM_PAPERSIZE;
   applyMode();
+  change.taken();
   codeAlone();  // drivers are known to report the form of the paper before
 }
 
@@ -193,9 +213,12 @@ Orientation Printer::orientation() {
 
 void Printer::setOrientation(Orientation wanted) {
   if (wanted != Orientation::portrait && wanted != Orientation::landscape) raiseInvalidCall();
+  (void)name();
+  UnlessTaken change(settings_);
   mode().dmOrientation = static_cast<short>(wanted);
   mode().dmFields |= DM_ORIENTATION;
   applyMode();
+  change.taken();
 }
 
 int Printer::copies() {

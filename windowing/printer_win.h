@@ -22,7 +22,7 @@ enum class Orientation : int { portrait = 1, landscape = 2 };
 
 /// A printer with the program's own settings for it. It starts as the Windows default printer
 /// and never changes that. Every operation that needs a printer raises a printer error when
-/// there is none, or when the device refuses.
+/// there is none, or when the device refuses; settings it did not take are as they were before.
 class Printer {
  public:
   Printer() = default;

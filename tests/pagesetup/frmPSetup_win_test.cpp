@@ -515,7 +515,11 @@ TEST_F(PageSetup, APrinterThatFailsIsSkippedButByItsChoiceAndOK) {
   const SamplePage before = form_.sample().value();
   printers_.reset();
   choose(id::CBOPAPER, 1);
+  // What could not be told to the device is not what it has.
+  EXPECT_EQ(list(id::CBOPAPER).selected(), 0);
+  EXPECT_EQ(windowing::printer().paperSize(), DMPAPER_LETTER);
   click(id::OPTORIENTLAND);
+  EXPECT_EQ(windowing::printer().orientation(), windowing::Orientation::portrait);
   form_.control(id::UDNLEFT).setText("2.0");
   EXPECT_TRUE(boxes_.empty());
   EXPECT_EQ(form_.sample()->PICPAPER.width, before.PICPAPER.width);

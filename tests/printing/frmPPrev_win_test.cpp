@@ -38,6 +38,8 @@ std::string lines(int last) {
 std::function<void()> duringPreview;
 
 void CALLBACK inPreview(HWND, UINT, UINT_PTR timer, DWORD) {
+  // Drawing on a printer may look for messages, too.
+  if (!IsWindowVisible(thePreview().handle())) return;
   KillTimer(nullptr, timer);
   const auto run = std::exchange(duringPreview, {});
   run();
