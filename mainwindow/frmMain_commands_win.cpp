@@ -43,15 +43,9 @@ constexpr Shortcut shortcuts[] = {
     {VK_END, false, id::LAST, true, true, true, true},
 };
 
-// The document noun that descriptions insert.
-constexpr char documentNoun[] = "tellary";
-
 // Numbers of menu titles and separators; items have the number of their command.
 constexpr int firstTitle = 1;
 constexpr int firstSeparator = 101;
-
-constexpr UINT_PTR TMR1 = 1;         // watches for the pointer leaving the toolbar
-constexpr UINT timerInterval = 100;  // milliseconds
 
 constexpr LPARAM wasDown = 1 << 30;  // of a key message: the key was down before
 
@@ -210,51 +204,17 @@ void frmMain::ICONMENUS() {
   SetMenu(handle(), ICOMNU->bar());
 }
 
-// Descriptions stay as long as the pointer is on what they describe. The position of the
-// contact, which they cover, comes back with the next change of the state.
-void frmMain::describe(int command) {
-  LIBRARY().STATUSTEXTDESC(*this, *this, command, false, documentNoun);
-  described_ = SBMAIN().panel();
-}
-
-void frmMain::endDescription() {
-  KillTimer(handle(), TMR1);
-  if (!described_.empty() && SBMAIN().panel() == described_)
-    LIBRARY().STATUSBARCAPTION(*this, "", false);
-  described_.clear();
-}
-
-void frmMain::onTimer(UINT_PTR timer) {
-  if (timer != TMR1) return;
-  // The family's figures for the watched area (1, 533, 44, 65) belong to one theme at one
-  // resolution; the toolbar itself says where it is.
-  POINT origin{};
-  MapWindowPoints(TBARMAIN().handle(), handle(), &origin, 1);
-  RECT area{};
-  GetClientRect(TBARMAIN().handle(), &area);
-  OffsetRect(&area, origin.x, origin.y);
-  if (!LIBRARY().MOUSEMOVE(*this, area.left, area.right, area.top, area.bottom)) endDescription();
-}
-
 LRESULT frmMain::onNotify(NMHDR& header) {
   if (header.code == TBN_HOTITEMCHANGE) {
     const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
     const Command* command = (hot.dwFlags & HICF_LEAVING) != 0 ? nullptr : findCommand(hot.idNew);
-    if (command != nullptr) {
-      LIBRARY().GETTBARDESCRIPTIONS(*this, std::string(command->key), documentNoun);
-      described_ = SBMAIN().panel();
-      SetTimer(handle(), TMR1, timerInterval, nullptr);
-    }
+    if (command != nullptr) hints_.button(std::string(command->key));
   }
   if (header.code == TTN_GETDISPINFOA) {
     auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
     const Command* command = findCommand(static_cast<int>(header.idFrom));
-    if (command != nullptr) {
-      std::string text(command->caption);
-      std::erase(text, '&');
-      while (text.ends_with('.')) text.pop_back();
-      lstrcpynA(tip.szText, text.c_str(), sizeof tip.szText);
-    }
+    if (command != nullptr)
+      lstrcpynA(tip.szText, library::tooltipText(command->caption).c_str(), sizeof tip.szText);
   }
   return 0;
 }

@@ -226,7 +226,6 @@ void frmMain::refreshFieldState() {
 }
 
 void frmMain::refreshStatusText() {
-  described_.clear();
   SBMAIN().setPanel(statusText(list_.count(), list_.current()));
 }
 

@@ -60,17 +60,8 @@ void storeView(const char* value, bool shown) {
 
 frmMain::frmMain()
     : CommandForm(design::form), IMGLST(imageStrips), ICOMNU(std::make_unique<controls::ICOMNU>()) {
-  ICOMNU->onHighlight = [this](int number) {
-    if (number == 0) {
-      endDescription();
-    } else {
-      describe(number);
-    }
-  };
-  ICOMNU->onSystemHighlight = [this](std::uint32_t code) {
-    LIBRARY().SYSTEMMENUDESC(*this, code);
-    described_ = SBMAIN().panel();
-  };
+  ICOMNU->onHighlight = [this](int number) { hints_.item(number); };
+  ICOMNU->onSystemHighlight = [this](std::uint32_t code) { hints_.systemItem(code); };
 }
 
 frmMain::~frmMain() = default;

@@ -8,6 +8,7 @@
 
 #include "document/ContactList.h"
 #include "library/command_form_win.h"
+#include "library/command_hints_win.h"
 #include "windowing/file_calls_win.h"
 #include "windowing/form_win.h"
 #include "windowing/richtextbox_win.h"
@@ -64,7 +65,7 @@ class frmMain : public library::CommandForm {
   void onNotice(int id, int notice) override;
   void onTab(int id) override;
   void onSize() override;
-  void onTimer(UINT_PTR timer) override;
+  void onTimer(UINT_PTR timer) override { hints_.onTimer(timer); }
   LRESULT onNotify(NMHDR& header) override;
   HWND createCustom(const windowing::ControlDesign& design, HWND container,
                     const RECT& place) override;
@@ -139,8 +140,6 @@ class frmMain : public library::CommandForm {
   void applyView();
   void layOut();
   void arrange();
-  void describe(int id);
-  void endDescription();
 
   [[nodiscard]] windowing::ComboBox CBOTBARBOX() const;
   [[nodiscard]] windowing::StatusBar SBMAIN() const;
@@ -156,12 +155,12 @@ class frmMain : public library::CommandForm {
   windowing::RichTextBox RTF1_{"RTF1"};
   windowing::ImageList IMGLST;
   std::unique_ptr<controls::ICOMNU> ICOMNU;
+  library::CommandHints hints_{*this, "tellary"};
   windowing::FileCalls realFileCalls_;
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
   bool loading_ = false;   ///< the window is on its way to its first document
   bool filling_ = false;   ///< the program itself changes the boxes
   bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
-  std::string described_;  ///< description in the status bar, as shown there
 };
 
 }  // namespace mainwindow
