@@ -56,10 +56,15 @@ if(EXISTS /usr/src/googletest)
     target_link_libraries(tests_app PRIVATE tellary_windows gmock gtest gtest_main)
     # All but the pictures go without a screen, several times faster.
     add_test(NAME app COMMAND tests_app --gtest_filter=-Pictures.*)
-    add_test(NAME app_pictures COMMAND ${CMAKE_SOURCE_DIR}/tools/on_screen.sh
-      $<TARGET_FILE:tests_app> --gtest_filter=Pictures.*)
-    set_tests_properties(app app_pictures PROPERTIES LABELS app ENVIRONMENT
-      "TELLARY_EXE=$<TARGET_FILE:Tellary>;TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples;TELLARY_PICTURES=${CMAKE_BINARY_DIR}/pictures")
+    set(app_environment "TELLARY_EXE=$<TARGET_FILE:Tellary>;TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples")
+    set_tests_properties(app PROPERTIES LABELS app ENVIRONMENT
+      "${app_environment};TELLARY_PICTURES=${CMAKE_BINARY_DIR}/pictures")
+    foreach(dpi 96 144 192)
+      add_test(NAME app_pictures_${dpi} COMMAND ${CMAKE_SOURCE_DIR}/tools/on_screen.sh
+        $<TARGET_FILE:tests_app> --gtest_filter=Pictures.*)
+      set_tests_properties(app_pictures_${dpi} PROPERTIES LABELS app ENVIRONMENT
+        "${app_environment};DPI=${dpi};TELLARY_PICTURES=${CMAKE_BINARY_DIR}/pictures-${dpi}")
+    endforeach()
   endif()
 endif()
 

@@ -1,4 +1,7 @@
 // Pictures of the program for people to look at, where there is a screen to take them from.
+#include <string>
+#include <utility>
+
 #include "tests/app/support/fixture_win.h"
 #include "tests/app/support/picture_win.h"
 
@@ -28,10 +31,14 @@ TEST_F(Pictures, OfTheMainWindow) {
   program.clickTab(2);
   EXPECT_TRUE(take(program, "work-address"));
   program.clickTab(0);
-  program.key('F', VK_MENU);
-  EXPECT_TRUE(take(program, "file-menu"));
-  program.key(VK_ESCAPE);
-  program.key(VK_ESCAPE);
+  const std::pair<char, const char*> menus[] = {
+      {'F', "file"}, {'E', "edit"}, {'V', "view"}, {'G', "go-to"}, {'H', "help"}};
+  for (const auto& [key, name] : menus) {
+    program.key(static_cast<WORD>(key), VK_MENU);
+    EXPECT_TRUE(take(program, std::string(name) + "-menu"));
+    program.key(VK_ESCAPE);
+    program.key(VK_ESCAPE);
+  }
   program.command(id::NEW);
   program.command(id::REMOVE);
   EXPECT_TRUE(take(program, "no-contacts"));
