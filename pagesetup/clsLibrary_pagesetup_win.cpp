@@ -38,22 +38,18 @@ class Obtaining {
   HCURSOR pointer_;
 };
 
+// Without a printer the user is told so; margins, header and footer can be set all the same.
 void showPageSetup(const char* tab) {
   pagesetup::frmPSetup form;
   bool printers = false;
   {
     const Obtaining obtaining;
     printers = !windowing::printerNames().empty();
-    if (printers) {
-      form.load();
-      form.selectTab(tab);
-    }
+    form.load();
+    form.selectTab(tab);
   }
-  if (!printers) {
-    constexpr int noPrinter = 13;
-    LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
-    return;
-  }
+  constexpr int noPrinter = 13;
+  if (!printers) LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
   form.showModal();
 }
 

@@ -206,7 +206,8 @@ void frmPSetup::copyRemembered() {
 void frmPSetup::remember() const {
   library::ProgramVariables& remembered = modLibrary();
   remembered.orientation = std::to_string(number(orientation_));
-  remembered.printerName = printer().name();
+  // Where there is no printer, there is no name; the options are kept all the same.
+  remembered.printerName = windowing::printerNames().empty() ? std::string() : printer().name();
   remembered.paperCode = std::to_string(number(paperCode_));
 }
 

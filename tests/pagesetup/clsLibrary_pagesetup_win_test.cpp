@@ -88,12 +88,28 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
   EXPECT_TRUE(boxes.empty());
 }
 
-TEST_F(PageSetupCommands, WithoutAPrinterTheUserIsTold) {
+TEST_F(PageSetupCommands, WithoutAPrinterTheUserIsToldAndTheDialogOpensWithEmptyLists) {
   ASSERT_TRUE(windowing::printerNames().empty());
   form.show();
   for (const int command : {id::PAGESETUP, id::HEADERFOOTER}) {
     boxes.clear();
+    int seen = 0;
+    onOpen = [&](windowing::Form& setup) {
+      ++seen;
+      EXPECT_EQ(setup.control(id::psetup::CBOPRINTERS).send(CB_GETCOUNT), 0);
+      EXPECT_EQ(setup.control(id::psetup::UDNLEFT).text(), "1.0");
+      EXPECT_FALSE(setup.control(id::psetup::BTNOK).enabled());
+      setup.control(id::psetup::UDNLEFT).setText("1.5");
+      setup.control(id::psetup::BTNOK).send(BM_CLICK);
+    };
+    SetTimer(nullptr, 0, 10, lookForPageSetup);
     run(command);
+    EXPECT_EQ(seen, 1) << command;
+    EXPECT_EQ(test_support::ScratchRegistry::text(
+                  registry.user(), "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items",
+                  "Page Margin 0"),
+              "1.5");
+    RegDeleteTreeA(registry.user(), "SOFTWARE\\Zandor Software Development\\GLOBAL");
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_NE(boxes[0].text.find("no printer installed"), std::string::npos) << boxes[0].text;
     EXPECT_EQ(status(), "");
