@@ -1,11 +1,21 @@
 #include "library/command_hints_win.h"
 
+#include <commctrl.h>
+
 #include "library/clsLibrary_win.h"
 
 namespace library {
 namespace {
 
 constexpr UINT timerInterval = 100;  // milliseconds
+
+// A tooltip is the command's caption without access key and dots.
+std::string tooltipText(std::string_view caption) {
+  std::string text(caption);
+  std::erase(text, '&');
+  while (text.ends_with('.')) text.pop_back();
+  return text;
+}
 
 }  // namespace
 
@@ -35,6 +45,21 @@ void CommandHints::button(const std::string& key) {
   SetTimer(form_.handle(), TMR1, timerInterval, nullptr);
 }
 
+void CommandHints::notify(NMHDR& header, const std::function<ButtonHint(int)>& hint) {
+  if (header.code == TBN_HOTITEMCHANGE) {
+    const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
+    const bool leaving = (hot.dwFlags & HICF_LEAVING) != 0;
+    const ButtonHint found = leaving ? ButtonHint{} : hint(hot.idNew);
+    if (!found.key.empty()) button(std::string(found.key));
+  }
+  if (header.code == TTN_GETDISPINFOA) {
+    auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
+    const ButtonHint found = hint(static_cast<int>(header.idFrom));
+    if (!found.caption.empty())
+      lstrcpynA(tip.szText, tooltipText(found.caption).c_str(), sizeof tip.szText);
+  }
+}
+
 void CommandHints::onTimer(UINT_PTR timer) {
   if (timer != TMR1) return;
   // The family's figures for the watched area (1, 533, 44, 65) belong to one theme at one
@@ -50,13 +75,6 @@ void CommandHints::end() {
   KillTimer(form_.handle(), TMR1);
   if (!shown_.empty() && bar().panel() == shown_) LIBRARY().STATUSBARCAPTION(form_, "", false);
   shown_.clear();
-}
-
-std::string tooltipText(std::string_view caption) {
-  std::string text(caption);
-  std::erase(text, '&');
-  while (text.ends_with('.')) text.pop_back();
-  return text;
 }
 
 }  // namespace library

@@ -4,12 +4,20 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "library/command_form_win.h"
 #include "windowing/toolbar_win.h"
 
 namespace library {
+
+/// What a toolbar button's hints are made from; both empty for a button without any.
+struct ButtonHint {
+  std::string_view key;
+  std::string_view caption;
+};
 
 /// Descriptions of one form's menu items and of the buttons of its `TBARMAIN`. They are shown as
 /// long as the pointer is on what they describe; the timer `TMR1` finds out when it has left.
@@ -26,6 +34,8 @@ class CommandHints {
   void systemItem(std::uint32_t code);
   /// The pointer came to the button with this key.
   void button(const std::string& key);
+  /// A notice of the toolbar or its tooltip; `hint` gives what belongs to a command.
+  void notify(NMHDR& header, const std::function<ButtonHint(int command)>& hint);
   /// The form's timer: ends a description once the pointer has left the toolbar.
   void onTimer(UINT_PTR timer);
   /// Empties the status bar while it still shows the description, and stops the timer.
@@ -39,8 +49,5 @@ class CommandHints {
   std::string noun_;
   std::string shown_;
 };
-
-/// Text of a tooltip for a command: its caption without access key and dots.
-[[nodiscard]] std::string tooltipText(std::string_view caption);
 
 }  // namespace library

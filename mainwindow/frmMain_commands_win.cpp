@@ -205,17 +205,11 @@ void frmMain::ICONMENUS() {
 }
 
 LRESULT frmMain::onNotify(NMHDR& header) {
-  if (header.code == TBN_HOTITEMCHANGE) {
-    const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
-    const Command* command = (hot.dwFlags & HICF_LEAVING) != 0 ? nullptr : findCommand(hot.idNew);
-    if (command != nullptr) hints_.button(std::string(command->key));
-  }
-  if (header.code == TTN_GETDISPINFOA) {
-    auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
-    const Command* command = findCommand(static_cast<int>(header.idFrom));
-    if (command != nullptr)
-      lstrcpynA(tip.szText, library::tooltipText(command->caption).c_str(), sizeof tip.szText);
-  }
+  hints_.notify(header, [](int id) {
+    const Command* command = findCommand(id);
+    return command == nullptr ? library::ButtonHint{}
+                              : library::ButtonHint{command->key, command->caption};
+  });
   return 0;
 }
 

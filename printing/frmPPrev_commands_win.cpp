@@ -146,18 +146,11 @@ void frmPPrev::onSelect(int id) {
 }
 
 LRESULT frmPPrev::onNotify(NMHDR& header) {
-  if (header.code == TBN_HOTITEMCHANGE) {
-    const auto& hot = reinterpret_cast<const NMTBHOTITEM&>(header);
-    const PreviewCommand* command =
-        (hot.dwFlags & HICF_LEAVING) != 0 ? nullptr : findPreviewCommand(hot.idNew);
-    if (command != nullptr) hints_.button(std::string(command->key));
-  }
-  if (header.code == TTN_GETDISPINFOA) {
-    auto& tip = reinterpret_cast<NMTTDISPINFOA&>(header);
-    const PreviewCommand* command = findPreviewCommand(static_cast<int>(header.idFrom));
-    if (command != nullptr)
-      lstrcpynA(tip.szText, library::tooltipText(command->caption).c_str(), sizeof tip.szText);
-  }
+  hints_.notify(header, [](int id) {
+    const PreviewCommand* command = findPreviewCommand(id);
+    return command == nullptr ? library::ButtonHint{}
+                              : library::ButtonHint{command->key, command->caption};
+  });
   return 0;
 }
 
