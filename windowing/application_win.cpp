@@ -30,6 +30,15 @@ std::string versionText(const char* name) {
   return static_cast<const char*>(value);
 }
 
+// Where the file's name begins in a path. In a double-byte code page a "\" may be the second
+// half of a character.
+std::size_t nameStart(const std::string& path) {
+  const char* start = path.c_str();
+  for (const char* at = start; *at != '\0'; at = CharNextA(at))
+    if (*at == '\\') start = at + 1;
+  return static_cast<std::size_t>(start - path.c_str());
+}
+
 }  // namespace
 
 std::string companyName() {
@@ -65,16 +74,15 @@ std::string programPath() {
 
 std::string programFolder() {
   const std::string path = programPath();
-  const std::size_t slash = path.find_last_of('\\');
-  if (slash == std::string::npos) return {};
-  const bool root = slash == 2 && path[1] == ':';
-  return path.substr(0, root ? slash + 1 : slash);
+  const std::size_t start = nameStart(path);
+  if (start == 0) return {};
+  const bool root = start == 3 && path[1] == ':';
+  return path.substr(0, root ? start : start - 1);
 }
 
 std::string programName() {
   const std::string path = programPath();
-  const std::size_t slash = path.find_last_of('\\');
-  std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+  std::string name = path.substr(nameStart(path));
   const std::size_t dot = name.find_last_of('.');
   if (dot != std::string::npos) name.resize(dot);
   return name;
