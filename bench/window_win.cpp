@@ -172,6 +172,7 @@ int main(int argc, char** argv) {
   mainwindow::fillNameBox(bareNames, list);
   frmMain form;
   form.show();
+  form.makeLateControls();
 
   bench::Figure overFloor;
   bench::Figure flatStep;

@@ -56,19 +56,38 @@ void fillBox(const document::Field& field, const windowing::Control& box, const 
 
 }  // namespace
 
+void frmMain::showField(const document::Field& field, std::string text) {
+  std::string& shown = shown_[static_cast<std::size_t>(field.slot)];
+  shown = std::move(text);
+  const windowing::Control box = control(design::boxId(field));
+  if (box.handle() == nullptr) return;
+  fillBox(field, box, shown);
+  if (!survivesABox(shown)) shown = box.text();
+}
+
+std::string frmMain::textOf(const document::Field& field) const {
+  const windowing::Control box = control(design::boxId(field));
+  return box.handle() == nullptr ? shown_[static_cast<std::size_t>(field.slot)] : box.text();
+}
+
+void frmMain::onLateControls() {
+  prepareLinks();
+  const While filling(filling_);
+  for (const document::Field& field : document::fields) {
+    const windowing::Control box = control(design::boxId(field));
+    if (IsChild(control(id::FRAMGENERAL).handle(), box.handle())) continue;
+    box.setEnabled(list_.count() > 0);
+    showField(field, shown_[static_cast<std::size_t>(field.slot)]);
+  }
+}
+
 // Filling the boxes raises their change notices; that is no editing.
 void frmMain::ShowCurrent() {
   if (list_.current() < 0) return;
   const While filling(filling_);
   const document::ContactList::Texts texts = list_.texts(list_.current());
-  for (const document::Field& field : document::fields) {
-    const auto slot = static_cast<std::size_t>(field.slot);
-    const windowing::Control box = control(design::boxId(field));
-    std::string& shown = shown_[slot];
-    shown.assign(texts[slot]);
-    fillBox(field, box, shown);
-    if (!survivesABox(shown)) shown = box.text();
-  }
+  for (const document::Field& field : document::fields)
+    showField(field, std::string(texts[static_cast<std::size_t>(field.slot)]));
   CBOTBARBOX().select(list_.current() < list_.count() ? list_.current() : -1);
 }
 
@@ -76,7 +95,7 @@ void frmMain::StoreCurrent() {
   if (list_.current() < 0) return;
   for (const document::Field& field : document::fields) {
     const auto slot = static_cast<std::size_t>(field.slot);
-    std::string text = control(design::boxId(field)).text();
+    std::string text = textOf(field);
     if (text == shown_[slot]) continue;
     list_.store(list_.current(), field.slot, text);
     shown_[slot] = std::move(text);
@@ -163,10 +182,7 @@ void frmMain::goTo(int index) {
 
 void frmMain::emptyFields() {
   const While filling(filling_);
-  for (const document::Field& field : document::fields) {
-    fillBox(field, control(design::boxId(field)), "");
-    shown_[static_cast<std::size_t>(field.slot)].clear();
-  }
+  for (const document::Field& field : document::fields) showField(field, "");
 }
 
 // The name box follows what is typed; the entry of no contact is never touched.
@@ -193,6 +209,7 @@ void frmMain::onTab(int) {
 
 // Exactly one page is visible; the focus does not stay behind on a hidden one.
 void frmMain::showPage(int index) {
+  if (index > 0) makeLateControls();
   constexpr std::array pages{id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK};
   const HWND focus = GetFocus();
   for (std::size_t i = 0; i < pages.size(); ++i) {
@@ -218,6 +235,7 @@ void frmMain::refreshFieldState() {
   const HWND focus = GetFocus();
   for (const document::Field& field : document::fields) {
     const windowing::Control box = control(design::boxId(field));
+    if (box.handle() == nullptr) continue;
     box.setEnabled(any);
     box.repaint();
     // A disabled control that kept the focus would leave the keyboard dead.

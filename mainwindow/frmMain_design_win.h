@@ -239,12 +239,16 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
 }();
 static_assert(controls.back().id == id::SBMAIN, "every row is filled");
 
+// The first page is in front when the window comes up.
+constexpr int latePages[] = {id::FRAMADDRESS, id::FRAMADDRESSWORK};
+
 constexpr windowing::FormDesign form{"frmMain",
                                      "",  // the product's name, set when the form loads
                                      WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX,
                                      0,
                                      formWidth,
                                      toolbarHeight + headerHeight + tabHeight + 90 + statusHeight,
-                                     controls};
+                                     controls,
+                                     latePages};
 
 }  // namespace mainwindow::design

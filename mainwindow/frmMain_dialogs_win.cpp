@@ -1,7 +1,6 @@
 // The contact on screen handed to the dialogs.
 #include "dialogs/frmProps_win.h"
 #include "library/modLibrary_win.h"
-#include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
 #include "printing/report.h"
 
@@ -9,8 +8,7 @@ namespace mainwindow {
 
 document::ContactRecord frmMain::valuesOnScreen() const {
   document::ContactRecord values;
-  for (const document::Field& field : document::fields)
-    values[field.slot] = control(design::boxId(field)).text();
+  for (const document::Field& field : document::fields) values[field.slot] = textOf(field);
   return values;
 }
 

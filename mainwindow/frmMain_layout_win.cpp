@@ -104,7 +104,6 @@ void frmMain::onLoad() {
   }
   showPage(0);
   buildToolbar();
-  prepareLinks();
 
   LIBRARY().COMBOINIT(windowing::handleText(CBOTBARBOX().handle()), "15", CBOTBARBOX(), true);
   ICONMENUS();

@@ -56,6 +56,7 @@ class frmMain : public library::CommandForm {
 
  protected:
   void onLoad() override;
+  void onLateControls() override;
   bool onQueryUnload() override;
   void onUnload() override;
   void onCommand(int id) override { runCommand(id); }
@@ -89,6 +90,8 @@ class frmMain : public library::CommandForm {
   void GoLast();
   void goTo(int index);
   void emptyFields();
+  void showField(const document::Field& field, std::string text);
+  [[nodiscard]] std::string textOf(const document::Field& field) const;
   void rewriteNameEntry();
   void refreshFieldState();
   void refreshStatusText();
@@ -149,7 +152,8 @@ class frmMain : public library::CommandForm {
 
   document::ContactList list_;
   /// Text of each box, by slot, as the box gave it back after it was filled: only what differs
-  /// from it was edited, and bytes that a box cannot carry survive a visit.
+  /// from it was edited, and bytes that a box cannot carry survive a visit. A box that is not
+  /// made yet is filled from it.
   std::array<std::string, document::fieldCount> shown_;
   FileDialogState CMD1;
   windowing::RichTextBox RTF1_{"RTF1"};

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "windowing/application_win.h"
@@ -16,6 +17,10 @@ namespace {
 
 constexpr char formClass[] = "TellaryForm";
 constexpr char formProperty[] = "TellaryForm";
+
+// After the first painting and the first wait for input, before a user can have done anything.
+constexpr UINT_PTR lateControlsTimer = 0x4C43;
+constexpr UINT lateControlsDelay = 50;  // milliseconds
 
 struct KindDesign {
   ControlKind kind;
@@ -111,12 +116,23 @@ void Form::load() {
   OffsetRect(&creation.place, -creation.place.left, -creation.place.top);
   create(creation);
   SetPropA(handle(), formProperty, this);
-  createControls();
+  createControls(false);
+  lateControlsMade_ = design_.lateContainers.empty();
   onLoad();
 }
 
-void Form::createControls() {
+void Form::makeLateControls() {
+  KillTimer(handle(), lateControlsTimer);
+  if (std::exchange(lateControlsMade_, true)) return;
+  createControls(true);
+  onLateControls();
+}
+
+void Form::createControls(bool late) {
   for (const ControlDesign& design : design_.controls) {
+    const auto& lateContainers = design_.lateContainers;
+    if (late != (std::ranges::find(lateContainers, design.container) != lateContainers.end()))
+      continue;
     const HWND container = design.container == 0 ? handle() : control(design.container).handle();
     const HWND made = createControl(design, container);
     if (made == nullptr) raiseLastError();
@@ -157,6 +173,7 @@ void Form::show() {
 void Form::appear() {
   const bool maximised = std::exchange(appearMaximised_, false);
   ShowWindow(handle(), maximised ? SW_SHOWMAXIMIZED : SW_SHOW);
+  if (!lateControlsMade_) SetTimer(handle(), lateControlsTimer, lateControlsDelay, nullptr);
 }
 
 void Form::maximiseWhenShown() {
@@ -252,6 +269,7 @@ void Form::focusNext(bool backwards) {
   const HWND focus = GetFocus();
   for (const ControlDesign& design : design_.controls) {
     const HWND window = control(design.id).handle();
+    if (window == nullptr) continue;
     if (window == focus || IsChild(window, focus)) {
       if (design.kind != ControlKind::container) at = stops.size();
     }
@@ -341,7 +359,11 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam != SIZE_MINIMIZED) onSize();
       return 0;
     case WM_TIMER:
-      onTimer(wParam);
+      if (wParam == lateControlsTimer) {
+        makeLateControls();
+      } else {
+        onTimer(wParam);
+      }
       return 0;
     case WM_ACTIVATE:
       keepFocus(wParam);

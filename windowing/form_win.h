@@ -57,6 +57,9 @@ struct FormDesign {
   int innerWidth;  ///< client area, twips
   int innerHeight;
   std::span<const ControlDesign> controls;
+  /// Containers out of sight at first: what they hold is made once the form is on screen, so
+  /// that it comes up sooner.
+  std::span<const int> lateContainers = {};
 };
 
 class Form : public Window {
@@ -74,11 +77,14 @@ class Form : public Window {
   /// Loads when needed, shows the form above its owner and returns when it is unloaded. All
   /// other windows of the program take no input meanwhile.
   void showModal();
+  /// Makes the controls that were left for later, if they are not made yet. A shown form does
+  /// so itself a moment after it is on screen; who needs them earlier calls this.
+  void makeLateControls();
   /// Closes the form as its close box does: asks it, runs its unload handler, destroys it.
   /// False when the form refused.
   bool unload();
 
-  /// A control by its identifier; a null control when there is none.
+  /// A control by its identifier; a null control when there is none, or none yet.
   [[nodiscard]] Control control(int id) const;
   /// A control by its name (the first of an array); raises when the form has none.
   [[nodiscard]] Control control(std::string_view name) const;
@@ -105,6 +111,8 @@ class Form : public Window {
 
  protected:
   virtual void onLoad() {}
+  /// The controls that were left for later have been made.
+  virtual void onLateControls() {}
   /// Whether the form may be closed.
   virtual bool onQueryUnload() { return true; }
   virtual void onUnload() {}
@@ -144,7 +152,7 @@ class Form : public Window {
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void createControls();
+  void createControls(bool late);
   HWND createControl(const ControlDesign& design, HWND container);
   LRESULT dispatchCommand(WPARAM wParam, LPARAM lParam);
   void keepFocus(WPARAM wParam);
@@ -159,6 +167,7 @@ class Form : public Window {
   HWND modalOwner_ = nullptr;
   bool modal_ = false;
   bool appearMaximised_ = false;
+  bool lateControlsMade_ = false;
 };
 
 /// The form whose window `window` is or lies in; null when it is none of the program's.

@@ -25,6 +25,7 @@ MainWindowTest::MainWindowTest() {
   };
   seams.shellOpen = [](auto&&...) {};
   form.load();
+  form.makeLateControls();
 }
 
 MainWindowTest::~MainWindowTest() {

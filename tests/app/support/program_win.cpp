@@ -199,8 +199,12 @@ void Program::attach() {
     return window_ != nullptr;
   });
   threadId_ = GetWindowThreadProcessId(window_, nullptr);
-  for (const HWND child : windowsThat(window_, [](HWND) { return true; }))
-    controls_.emplace(GetDlgCtrlID(child), child);
+  // The boxes of the hidden pages come a moment after the window.
+  waitFor("its controls", [this] {
+    for (const HWND child : windowsThat(window_, [](HWND) { return true; }))
+      controls_.emplace(GetDlgCtrlID(child), child);
+    return controls_.contains(id::CBOPWORKWEBSITE);
+  });
   settle();
 }
 
