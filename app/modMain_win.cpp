@@ -7,6 +7,7 @@
 #include "library/modLibrary_win.h"
 #include "mainwindow/frmMain_win.h"
 #include "windowing/application_win.h"
+#include "windowing/window_win.h"
 
 namespace app {
 namespace {
@@ -28,7 +29,12 @@ int Main() {
   const std::string requested = windowing::commandLineTail();
   if (!requested.empty()) ignoringErrors([&] { form.openNamedAtStart(documentPathOf(requested)); });
   ignoringErrors([] { Associate("tly", windowing::productName() + " Document", "2"); });
-  form.show();
+  try {
+    form.show();
+  } catch (const std::exception& error) {
+    windowing::reportError(error);
+  }
+  if (!IsWindowVisible(form.handle())) return 1;
   return windowing::runMessageLoop(form);
 }
 

@@ -9,6 +9,7 @@
 #include "library/path_utilities.h"
 #include "library/proper_case_win.h"
 #include "windowing/handles_win.h"
+#include "windowing/shell_win.h"
 #include "windowing/user_locale_win.h"
 
 namespace app {
@@ -31,6 +32,7 @@ std::string folderOf(const std::string& path) {
 
 // Empty where the shell does not know the file.
 std::string shellDisplayName(const std::string& path) {
+  windowing::prepareShell();
   SHFILEINFOA info{};
   static_assert(sizeof info == 352);
   const DWORD_PTR known = SHGetFileInfoA(path.c_str(), 0, &info, sizeof info,

@@ -23,19 +23,24 @@ endforeach()
 # Libraries of dialogs, printing and the shell are loaded when they are first called: together
 # they take a tenth of the start. What is called of each is listed in its .def file; a call of
 # another function of it would load it at the start again.
-foreach(library comdlg32 shell32 winspool)
+foreach(library comdlg32 ole32 shell32 winspool)
   set(definition ${CMAKE_SOURCE_DIR}/cmake/late/${library}.def)
-  set(archive ${CMAKE_BINARY_DIR}/lib${library}_late.a)
-  add_custom_command(OUTPUT ${archive} DEPENDS ${definition}
+  set(archive lib${library}_late.a) # its symbols are named after the path it is given
+  add_custom_command(OUTPUT ${archive} DEPENDS ${definition} WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
     COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${definition} --output-delaylib ${archive})
-  list(APPEND late_libraries ${archive})
+  list(APPEND late_libraries ${CMAKE_BINARY_DIR}/${archive})
+  # The linker takes what only a table of imports points at for unused, and would drop it.
+  file(STRINGS ${definition} functions REGEX "@")
+  list(TRANSFORM functions PREPEND "-Wl,--undefined=_" OUTPUT_VARIABLE functions)
+  list(APPEND late_functions ${functions})
 endforeach()
 add_custom_target(late_libraries DEPENDS ${late_libraries})
 
 add_library(tellary_windows STATIC ${windows_sources})
 add_dependencies(tellary_windows late_libraries)
 target_link_libraries(tellary_windows PUBLIC tellary_core ${late_libraries} delayimp
-  comctl32 gdi32 user32 advapi32 ole32 version msimg32 uxtheme)
+  comctl32 gdi32 user32 advapi32 version msimg32 uxtheme)
+target_link_options(tellary_windows PUBLIC ${late_functions})
 
 add_executable(Tellary WIN32 app/entry_win.cpp app/tellary.rc)
 target_link_libraries(Tellary PRIVATE tellary_windows)

@@ -57,9 +57,9 @@ void frmMain::FILELOAD(const std::string& path) {
     if (outcome.result == document::ReadResult::overflow) windowing::raiseOverflow();
     if (!readWhole_) throw RuntimeError(ErrorNumber::inputPastEnd, "Input past end of file");
   } catch (const RuntimeError& error) {
-    // A name that no file has yet loses nothing when it is written to.
-    if (error.number() == ErrorNumber::fileNotFound || error.number() == ErrorNumber::pathNotFound)
-      readWhole_ = true;
+    // A name that no file has yet loses nothing when it is written to. Where the whole folder is
+    // missing, a drive may only be away, and come back with the file.
+    if (error.number() == ErrorNumber::fileNotFound) readWhole_ = true;
     failure = std::current_exception();
   } catch (const std::bad_alloc&) {
     list_.clear();
@@ -131,8 +131,8 @@ bool frmMain::mayDiscard(int question) {
   if (!modified()) return true;
   const std::string name = LIBRARY().FILECHK(CMD1.fileName);
   const int answer = LIBRARY().MESSAGEBOXFCN(question, name, "", "", "");
-  if (answer == IDCANCEL) return false;
-  return answer != IDYES || SaveDocument();
+  // No answer at all is none that lets the work go.
+  return answer == IDNO || (answer == IDYES && SaveDocument());
 }
 
 void frmMain::newDocument() {

@@ -9,6 +9,7 @@
 
 #include "windowing/modal_win.h"
 #include "windowing/runtime_error.h"
+#include "windowing/shell_win.h"
 
 namespace windowing {
 namespace {
@@ -74,8 +75,9 @@ Seams realSeams() {
   real.fileDialog = askForFile;
   real.shellOpen = [](HWND owner, const std::string& verb, const std::string& file,
                       const std::string& folder) {
-    if (shellSurvives(file))
-      ShellExecuteA(owner, verb.c_str(), file.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL);
+    if (!shellSurvives(file)) return;
+    prepareShell();
+    ShellExecuteA(owner, verb.c_str(), file.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL);
   };
   real.localTime = [] {
     SYSTEMTIME now{};

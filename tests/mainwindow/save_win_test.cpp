@@ -221,6 +221,15 @@ TEST_F(Saving, AFileThatCouldNotBeOpenedIsNotWrittenOverEither) {
   save(0);
   EXPECT_TRUE(boxes_.empty());
   EXPECT_EQ(bytesOf(path_).size(), 28U * 4);
+
+  // A drive that was away when the document was opened may be back by now.
+  const std::string away = path_ + ".away\\e.tly";
+  form_.openNamedAtStart(away);
+  form_.runCommand(id::ADD);
+  CreateDirectoryA((path_ + ".away").c_str(), nullptr);
+  putFile(away, contacts(1, "e"));
+  save(0);
+  EXPECT_EQ(bytesOf(away), contacts(1, "e"));
 }
 
 // A disk that is really full. It takes a small file system, which tools/full_disk.sh makes.

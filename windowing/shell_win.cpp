@@ -1,0 +1,15 @@
+#include "windowing/shell_win.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+
+namespace windowing {
+
+void prepareShell() {
+  static const HRESULT ready =
+      CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+  (void)ready;
+}
+
+}  // namespace windowing
