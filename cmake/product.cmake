@@ -93,6 +93,10 @@ if(TELLARY_BENCH)
     # With the program's own manifest: it decides which controls are used.
     add_executable(bench_${name} ${source} app/tellary.rc)
     target_link_libraries(bench_${name} PRIVATE tellary_windows)
+    if(name STREQUAL printing_win)
+      target_sources(bench_${name} PRIVATE tests/support/printers_win.cpp)
+      target_link_libraries(bench_${name} PRIVATE winspool psapi)
+    endif()
     # Nobody can wait for a console program to be ready for the user.
     if(name MATCHES "^empty_window")
       set_target_properties(bench_${name} PROPERTIES WIN32_EXECUTABLE ON)

@@ -3,7 +3,7 @@
 # what it is held against in the same run, their ratio, and the ratio allowed. Figures are
 # medians of nine rounds. The exit code is zero only if all keep their limit.
 #
-#   figures.sh [--no-build] [PART ...]      PART: reading saving window start size; all without
+#   figures.sh [--no-build] [PART ...]      PART: reading saving window start printing size; all without
 #
 # The programs run on a screen in memory with a window manager, in a Wine prefix of their own.
 set -uo pipefail
@@ -15,11 +15,11 @@ parts=()
 for word in "$@"; do
   case $word in
     --no-build) build=no ;;
-    reading | saving | window | start | size) parts+=("$word") ;;
+    reading | saving | window | start | printing | size) parts+=("$word") ;;
     *) sed -n '2,/^set -uo/{/^set -uo/d;s/^# \{0,1\}//;p;}' "$0" >&2; exit 2 ;;
   esac
 done
-[[ ${#parts[@]} -gt 0 ]] || parts=(reading saving window start size)
+[[ ${#parts[@]} -gt 0 ]] || parts=(reading saving window start printing size)
 
 unset TELLARY_DISPLAY
 source "$root/tools/wine_env.sh"
@@ -86,6 +86,7 @@ for part in "${parts[@]}"; do
       cp "$product/Tellary.exe" "$product/bench_empty_window_win.exe" "$prefix/drive_c/"
       run "$product/bench_start_win.exe" 'C:\Tellary.exe' 'C:\bench_empty_window_win.exe' 'C:\full.tly'
       ;;
+    printing) run "$product/bench_printing_win.exe" ;;
     size)
       size=$(stat -c %s "$product/Tellary.exe")
       awk -v size="$size" 'BEGIN { printf "figure\tTellary.exe / 800 KB (bytes)\t%d\t819200\t%.3f\t1\n", size, size / 819200 }' >>"$table"

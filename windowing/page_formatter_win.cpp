@@ -65,7 +65,10 @@ class PageFormatter {
   [[nodiscard]] bool needed(const FORMATRANGE& range);
   // Positions are long in the message and int here; the two are one size on Windows.
   LRESULT format(FORMATRANGE& range, bool render);
-  void forget() {
+  // Fonts and measures go with the device; the text is good until it changes, and a long one
+  // takes its time to be read.
+  void releaseDevice() { measure_.reset(); }
+  void forgetText() {
     measure_.reset();
     text_.reset();
   }
@@ -192,11 +195,11 @@ LRESULT CALLBACK answer(HWND control, UINT message, WPARAM wParam, LPARAM lParam
     return DefSubclassProc(control, message, wParam, lParam);
   }
   if (message != EM_FORMATRANGE) {
-    if (!changesNothing(message)) formatter->forget();
+    if (!changesNothing(message)) formatter->forgetText();
     return DefSubclassProc(control, message, wParam, lParam);
   }
   auto* range = reinterpret_cast<FORMATRANGE*>(lParam);
-  if (range == nullptr) formatter->forget();
+  if (range == nullptr) formatter->releaseDevice();
   try {
     if (range != nullptr && formatter->needed(*range))
       return formatter->format(*range, wParam != FALSE);

@@ -1,0 +1,66 @@
+// What the printing and preview benchmarks share: a long report, and a printer of their own.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "bench/measuring.h"
+#include "document/ContactRecord.h"
+#include "printing/compose_report_win.h"
+#include "printing/print_host_win.h"
+#include "tests/support/printers_win.h"
+#include "windowing/printer_win.h"
+#include "windowing/richtextbox_win.h"
+
+namespace bench {
+
+/// A contact whose comment has `lines` lines of different lengths, a hundred characters at most.
+[[nodiscard]] inline document::ContactRecord longContact(int lines) {
+  document::ContactRecord contact;
+  contact[document::Slot::FirstNames] = "Ann";
+  contact[document::Slot::Surname] = "Alder";
+  std::string comment;
+  for (int line = 1; line <= lines; ++line) {
+    comment += "Line " + std::to_string(line) + " of a long comment";
+    for (int word = 0; word < line % 12; ++word) comment += ", " + std::to_string(line * word);
+    comment += "\r\n";
+  }
+  contact[document::Slot::Comments] = std::move(comment);
+  return contact;
+}
+
+/// A hidden box that holds the report of a contact, and the printer it is laid out for.
+class Paper {
+ public:
+  Paper() {
+    window_ = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr,
+                              nullptr);
+    report.create(window_, 1, {0, 0, 10, 10});
+    windowing::printer().select(test_support::TestPrinters::letter);
+  }
+  Paper(const Paper&) = delete;
+  Paper& operator=(const Paper&) = delete;
+  ~Paper() { DestroyWindow(window_); }
+
+  void compose(const document::ContactRecord& contact, printing::PrintHost& host) {
+    printing::composeReport(contact, report, host.RTF3());
+  }
+
+  windowing::RichTextBox report{"RTF1"};
+
+ private:
+  test_support::TestPrinters printers_;
+  HWND window_ = nullptr;
+};
+
+/// Ends the program where what is measured is not what it should be.
+inline void require(bool good, const char* what) {
+  if (good) return;
+  std::printf("%s\n", what);
+  std::exit(3);
+}
+
+}  // namespace bench

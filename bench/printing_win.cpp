@@ -1,0 +1,214 @@
+// Printing and the preview: what a page costs, first and last, and how long the user waits for
+// one, against the drawing calls themselves. Prints into a file, on a printer of its own.
+#include <windows.h>
+
+#include <psapi.h>
+
+#include <vector>
+
+#include "bench/paper_win.h"
+#include "library/own_keys_win.h"
+#include "printing/clsPrinting_win.h"
+#include "printing/frmPPrev_win.h"
+#include "windowing/form_win.h"
+#include "windowing/page_picture_win.h"
+#include "windowing/seams_win.h"
+
+namespace {
+
+using bench::require;
+using windowing::printer;
+
+constexpr int linesOf200Pages = 9400;
+constexpr int linesOf500Pages = 23300;
+
+/// The preview, which stays open behind the program's back so that it can be worked with.
+class OpenPreview : public printing::frmPPrev {
+ public:
+  void showPreview() override {
+    show();
+    settle();
+  }
+  /// Lets all that has to be painted be painted.
+  void settle() const {
+    RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    MSG message{};
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
+  }
+};
+
+/// One program at work: its preview, its print engine, and the report that is printed.
+struct Program {
+  OpenPreview preview;
+  printing::clsPrinting engine{preview};
+  bench::Paper paper;
+
+  void compose(int lines) {
+    paper.compose(bench::longContact(lines), preview);
+    engine.setReport(paper.report);
+  }
+  double print() {
+    return bench::milliseconds([&] { engine.PRINTDOCUMENT(preview, paper.report, true); });
+  }
+};
+
+/// When each page of a job was begun, by the question for the time in its header.
+std::vector<double> pageTimes(Program& program) {
+  std::vector<std::chrono::steady_clock::time_point> begun;
+  const auto clock = windowing::seams().localTime;
+  windowing::seams().localTime = [&] {
+    begun.push_back(std::chrono::steady_clock::now());
+    return clock();
+  };
+  program.print();
+  windowing::seams().localTime = clock;
+  std::vector<double> pages;
+  for (std::size_t i = 1; i < begun.size(); ++i)
+    pages.push_back(std::chrono::duration<double, std::milli>(begun[i] - begun[i - 1]).count());
+  return pages;
+}
+
+/// All pages as recordings of what is drawn on them.
+std::vector<windowing::MetafileHandle> record(Program& program) {
+  std::vector<windowing::MetafileHandle> pages;
+  for (int page = 1; page <= program.engine.pageCount(); ++page) {
+    program.engine.PAGESEL(static_cast<std::int16_t>(page), program.preview.PICSTDPAGE());
+    pages.emplace_back(CopyEnhMetaFileA(program.preview.PICSTDPAGE().recording(), nullptr));
+  }
+  return pages;
+}
+
+double printRecordings(const std::vector<windowing::MetafileHandle>& pages) {
+  return bench::milliseconds([&] {
+    const HDC dc = printer().startOutput();
+    const SIZE size = printer().physicalSize();
+    const RECT place{0, 0, size.cx, size.cy};
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+      if (page > 0) printer().newPage();
+      PlayEnhMetaFile(dc, pages[page].get(), &place);
+    }
+    printer().endDocument();
+  });
+}
+
+void measurePrinting(Program& program) {
+  const double composing = bench::milliseconds([&] { program.compose(linesOf200Pages); });
+  program.print();
+  const int count = program.engine.pageCount();
+  require(count >= 200, "The comment is too short for 200 pages");
+  program.engine.PRINTPREVIEW();
+  const std::vector<windowing::MetafileHandle> recordings = record(program);
+
+  bench::Figure flat;
+  bench::Figure engine;
+  std::vector<double> printing;
+  std::vector<double> counting;
+  for (int round = 0; round < bench::rounds; ++round) {
+    const std::vector<double> pages = pageTimes(program);
+    require(pages.size() + 1 >= recordings.size(), "Pages are missing");
+    flat.add(pages[199], pages[1]);
+    printing.push_back(program.print());
+    engine.add(printing.back(), printRecordings(recordings));
+    counting.push_back(bench::milliseconds([&] {
+      require(program.engine.PAGECOUNT(program.preview, 0, 1, 1, 1, 1) == count, "count");
+    }));
+  }
+  const auto rate = [&](double milliseconds) { return count * 1000 / milliseconds; };
+  std::printf("pages per second of %d: composed %.0f, counted %.0f, printed %.0f\n", count,
+              rate(composing), rate(bench::median(counting)), rate(bench::median(printing)));
+  flat.tell("page 200 / page 2 of a job (ms)", 1.5);
+  engine.tell("printing 200 pages / their drawing calls (ms)", 2);
+}
+
+/// The time of drawing 120 lines of text into a surface in memory.
+double draw120Lines() {
+  const windowing::WindowDc screen(nullptr);
+  const windowing::MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), 816, 1056));
+  const windowing::Selected surface(memory.get(), bitmap.get());
+  return bench::milliseconds([&] {
+    for (int line = 0; line < 120; ++line) {
+      const std::string text = "Line " + std::to_string(line) + " of a page of text in memory";
+      TextOutA(memory.get(), 10, line * 8, text.data(), static_cast<int>(text.size()));
+    }
+  });
+}
+
+double turnTo(Program& program, int page) {
+  return bench::milliseconds([&] {
+    program.engine.PAGESEL(static_cast<std::int16_t>(page), program.preview.PICSTDPAGE());
+    program.preview.settle();
+  });
+}
+
+double turnBetween(Program& program, int page, int other) {
+  turnTo(program, other);
+  return turnTo(program, page);
+}
+
+double zoomStep(Program& program) {
+  program.engine.ZOOMOUT();
+  program.preview.settle();
+  return bench::milliseconds([&] {
+    program.engine.ZOOMIN();
+    program.preview.settle();
+  });
+}
+
+/// Drawing the page on show once, at the size that the zoom gives it.
+double drawOnce(Program& program) {
+  const RECT whole = program.preview.PICWINDOW().pagePixels();
+  const windowing::WindowDc screen(nullptr);
+  const windowing::MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const int width = whole.right - whole.left;
+  const int height = whole.bottom - whole.top;
+  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), width, height));
+  const windowing::Selected surface(memory.get(), bitmap.get());
+  return bench::milliseconds([&] {
+    program.preview.PICSTDPAGE().draw(memory.get(), {0, 0, width, height});
+  });
+}
+
+double usedMegabytes() {
+  PROCESS_MEMORY_COUNTERS memory{};
+  require(GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory), "memory");
+  return static_cast<double>(memory.PagefileUsage) / 1e6;
+}
+
+void measurePreview(Program& program) {
+  program.compose(linesOf500Pages);
+  program.engine.PRINTPREVIEW();
+  const int count = program.engine.pageCount();
+  require(count >= 500, "The comment is too short for 500 pages");
+
+  bench::Figure first;
+  bench::Figure turning;
+  bench::Figure zooming;
+  for (int round = 0; round < bench::rounds; ++round) {
+    const double counting = bench::milliseconds(
+        [&] { (void)program.engine.PAGECOUNT(program.preview, 0, 1, 1, 1, 1); });
+    first.add(bench::milliseconds([&] { program.engine.PRINTPREVIEW(); }),
+              10 * draw120Lines() + counting);
+    turning.add(turnBetween(program, 499, 498), turnBetween(program, 2, 1));
+    zooming.add(zoomStep(program), drawOnce(program));
+  }
+  first.tell("first of 500 pages / 10 drawings + counting (ms)", 1);
+  turning.tell("turning to page 499 / to page 2 (ms)", 2);
+  zooming.tell("a zoom step / drawing the page once (ms)", 3);
+
+  for (int page = 1; page <= 50; ++page) turnTo(program, page);
+  const double early = usedMegabytes();
+  for (int page = 51; page <= 500; ++page) turnTo(program, page);
+  bench::Figure memory;
+  memory.add(usedMegabytes(), early);
+  memory.tell("memory after 500 turned pages / after 50 (MB)", 1.05);
+}
+
+}  // namespace
+
+int main() {
+  Program program;
+  measurePrinting(program);
+  measurePreview(program);
+  return 0;
+}
