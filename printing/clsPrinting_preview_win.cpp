@@ -31,6 +31,26 @@ PageSize sizeOf(const windowing::PagePicture& picture) {
   return {picture.width(), picture.height()};
 }
 
+// A page being drawn. Header and footer may raise: neither the picture nor what the box keeps for
+// its pages stays open then.
+class OpenPage {
+ public:
+  OpenPage(windowing::PagePicture& picture, const windowing::RichTextBox& text)
+      : picture_(picture), text_(text) {
+    picture_.begin(printer().dc());
+  }
+  OpenPage(const OpenPage&) = delete;
+  OpenPage& operator=(const OpenPage&) = delete;
+  ~OpenPage() {
+    picture_.finish();
+    text_.send(EM_FORMATRANGE, FALSE, 0);
+  }
+
+ private:
+  windowing::PagePicture& picture_;
+  const windowing::RichTextBox& text_;
+};
+
 bool same(const RECT& a, const RECT& b) {
   return EqualRect(&a, &b) != FALSE;
 }
@@ -165,7 +185,7 @@ void clsPrinting::PAGESEL(std::int16_t PAGENO, windowing::PagePicture& PICTURE) 
 void clsPrinting::drawPage(windowing::PagePicture& picture) {
   const windowing::RichTextBox& text = host_.RTF3();
   const BodyMargins margins = inTwips();
-  picture.begin(printer().dc());
+  const OpenPage open(picture, text);
   // Crossed as on the printer.
   LIBRARY().PAGEHEADERFOOTERINFOPREVIEW(picture, std::to_string(currentPage_), margins.left,
                                         margins.top, margins.right, margins.bottom);
@@ -176,8 +196,6 @@ void clsPrinting::drawPage(windowing::PagePicture& picture) {
   OffsetRect(&body_, offsetX_, offsetY_);
   (void)formatPage(text, shown);
   body_ = body;
-  picture.finish();
-  release(text);
 }
 
 void clsPrinting::setZoom(std::string_view text) {

@@ -132,8 +132,10 @@ void frmPPrev::onToolButton(int command) {
 }
 
 void frmPPrev::print(bool atOnce) {
+  const POINT seen = PICWINDOW_.scrollPosition();
   PRINTING().PRINTDOCUMENT(*this, RTF3(), atOnce);
   PRINTING().refreshPreview();
+  PICWINDOW_.scrollTo(seen);
 }
 
 void frmPPrev::onSelect(int id) {

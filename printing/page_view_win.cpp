@@ -51,6 +51,8 @@ void setBar(HWND bar, const PageSpan& span, double visible, LONG position) {
   info.nMax = span.scrollMax == 0 ? 0 : span.scrollMax + static_cast<int>(info.nPage) - 1;
   info.nPos = static_cast<int>(position);
   SetScrollInfo(bar, SB_CTL, &info, TRUE);
+  // Some hosts grey a bar only once it can be seen.
+  EnableWindow(bar, span.scrollMax > 0);
 }
 
 COLORREF darker(COLORREF colour, int hundredths) {
@@ -220,7 +222,8 @@ bool PageView::answerKey(WPARAM key) {
   }
 }
 
-void PageView::answerWheel(WPARAM wParam, bool sideways) {
+// `delta` counts to the right and down.
+void PageView::answerWheel(int delta, bool sideways) {
   UINT lines = 3;
   SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
   const ViewSize view = size();
@@ -228,13 +231,14 @@ void PageView::answerWheel(WPARAM wParam, bool sideways) {
   const int notch = lines == WHEEL_PAGESCROLL ? static_cast<int>(visible)
                                               : static_cast<int>(std::min(lines, 100U)) * lineStep;
   // Fine wheels send parts of a notch.
-  wheelRest_ += GET_WHEEL_DELTA_WPARAM(wParam) * notch;
-  const int step = wheelRest_ / WHEEL_DELTA;
-  wheelRest_ -= step * WHEEL_DELTA;
+  LONG& rest = sideways ? wheelRest_.cx : wheelRest_.cy;
+  rest += delta * notch;
+  const int step = static_cast<int>(rest) / WHEEL_DELTA;
+  rest -= step * WHEEL_DELTA;
   if (sideways) {
-    scrollBy(-step, 0);
+    scrollBy(step, 0);
   } else {
-    scrollBy(0, -step);
+    scrollBy(0, step);
   }
 }
 
@@ -313,7 +317,10 @@ LRESULT PageView::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (answerKey(wParam)) return 0;
       break;
     case WM_MOUSEWHEEL:
-      answerWheel(wParam, (GET_KEYSTATE_WPARAM(wParam) & MK_SHIFT) != 0);
+      answerWheel(-GET_WHEEL_DELTA_WPARAM(wParam), (GET_KEYSTATE_WPARAM(wParam) & MK_SHIFT) != 0);
+      return 0;
+    case WM_MOUSEHWHEEL:
+      answerWheel(GET_WHEEL_DELTA_WPARAM(wParam), true);
       return 0;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:

@@ -51,7 +51,7 @@ class PageView : public windowing::Window {
   void scrollBy(int across, int down);
   void answerBar(HWND bar, int code);
   bool answerKey(WPARAM key);
-  void answerWheel(WPARAM wParam, bool sideways);
+  void answerWheel(int delta, bool sideways);
   void answerClick(UINT button, POINT point);
   void paint();
   void drawShadow(HDC dc, const RECT& page) const;
@@ -65,7 +65,7 @@ class PageView : public windowing::Window {
   LONG across_ = 0;  ///< scroll positions
   LONG down_ = 0;
   POINT kept_{-1, -1};  ///< pixels of a click whose spot of the page stays under the pointer
-  int wheelRest_ = 0;
+  SIZE wheelRest_{};    ///< of each direction: what was turned and not scrolled yet
 };
 
 }  // namespace printing

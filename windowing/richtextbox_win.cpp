@@ -95,8 +95,9 @@ LRESULT CALLBACK RichTextBox::watch(HWND window, UINT message, WPARAM wParam, LP
                                     UINT_PTR id, DWORD_PTR box) {
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(window, watch, id);
-    // The container took the control with it.
-    static_cast<Control&>(*reinterpret_cast<RichTextBox*>(box)) = Control();
+    // The container took the control with it, or a new one stands in for it.
+    Control& control = *reinterpret_cast<RichTextBox*>(box);
+    if (control.handle() == window) control = Control();
   }
   return DefSubclassProc(window, message, wParam, lParam);
 }
@@ -161,7 +162,21 @@ RichText RichTextBox::selectedRichText() const {
   return {streamOut(SF_RTF | SFF_SELECTION), selection().length};
 }
 
-void RichTextBox::setRichText(const RichText& text) const {
+// Some hosts' control takes minutes to empty itself of thousands of paragraphs; a new one in its
+// place takes none.
+void RichTextBox::renew() {
+  const HWND old = handle();
+  const HWND container = GetParent(old);
+  RECT place{};
+  GetWindowRect(old, &place);
+  MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&place), 2);
+  create(container, GetDlgCtrlID(old), place, static_cast<DWORD>(GetWindowLongA(old, GWL_STYLE)));
+  DestroyWindow(old);
+}
+
+void RichTextBox::setRichText(const RichText& text) {
+  constexpr int muchText = 20'000;
+  if (length() > muchText) renew();
   streamIn(SF_RTF, text.rtf);
   correctEnd(length(), text.length);
   select({0, 0});

@@ -55,8 +55,9 @@ class RichTextBox : public Control {
 
   [[nodiscard]] RichText richText() const;
   [[nodiscard]] RichText selectedRichText() const;
-  /// Replaces the whole text; the caret is at its start afterwards.
-  void setRichText(const RichText& text) const;
+  /// Replaces the whole text; the caret is at its start afterwards. In place of a long text this
+  /// makes a new control: do not keep the handle.
+  void setRichText(const RichText& text);
   /// Replaces the selection; the caret stands behind what was inserted.
   void replaceSelection(const RichText& text) const;
   /// One paragraph break in place of the selection; the caret stands behind it.
@@ -66,6 +67,7 @@ class RichTextBox : public Control {
   static LRESULT CALLBACK watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                 UINT_PTR id, DWORD_PTR box);
   void applyFormat(WPARAM scope) const;
+  void renew();
   [[nodiscard]] std::string streamOut(WPARAM format) const;
   void streamIn(WPARAM format, const std::string& rtf) const;
   void correctEnd(int end, int expected) const;

@@ -141,6 +141,8 @@ TEST_F(Preview, OpensAtTheFirstPageAndHalfSize) {
     const RECT onScreen = form.PICWINDOW().pagePixels();
     EXPECT_EQ(onScreen.right - onScreen.left, screenPixels(6120));
     EXPECT_EQ(onScreen.bottom - onScreen.top, screenPixels(7920));
+    EXPECT_FALSE(IsWindowEnabled(GetDlgItem(form.PICWINDOW().handle(), id::SCRHBAR)));
+    EXPECT_TRUE(IsWindowEnabled(GetDlgItem(form.PICWINDOW().handle(), id::SCRVBAR)));
   });
 }
 
@@ -268,6 +270,10 @@ TEST_F(Preview, ScrollsThePage) {
     EXPECT_EQ(view.scrollPosition().y, 0);
     SendMessageA(view.handle(), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
     EXPECT_GT(view.scrollPosition().y, 0);
+    const POINT before = view.scrollPosition();
+    SendMessageA(view.handle(), WM_MOUSEHWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_LT(view.scrollPosition().x, before.x);
+    EXPECT_EQ(view.scrollPosition().y, before.y);
     form.runCommand(id::NEXT);
     EXPECT_EQ(view.scrollPosition().y, 0) << "a page begins at its top";
 
@@ -409,6 +415,7 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
       return test_support::pagesOf(TestPrinters::letterJob()).size();
     };
     form.runCommand(id::NEXT);
+    form.PICWINDOW().scrollTo({0, 500});
     TestPrinters::clearJobs();
     form.runCommand(id::PRINT);
     EXPECT_EQ(printedPages(), 1U);
@@ -418,6 +425,7 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
     EXPECT_EQ(printedPages(), 3U);
     EXPECT_EQ(dialogs, 1);
     EXPECT_EQ(page() + paging(), "21111") << "the page on show stays";
+    EXPECT_EQ(form.PICWINDOW().scrollPosition().y, 500) << "and what is seen of it";
   });
 }
 
@@ -454,12 +462,15 @@ TEST_F(Preview, HiddenStoresNothing) {
 
 TEST_F(Preview, MarginsThatDoNotFitOpenNothing) {
   PRINTING().setReport(RTF1_);
-  for (const char* margin : {"23", "x"}) {
-    store("Page Margin 2", margin);
-    EXPECT_THROW(PRINTING().PRINTPREVIEW(), windowing::RuntimeError);
+  // The last one leaves room for the text, but none for the footer.
+  for (const auto& [value, margin] :
+       {std::pair{"Page Margin 2", "23"}, {"Page Margin 2", "x"}, {"Page Margin 1", "-22"}}) {
+    store(value, margin);
+    EXPECT_THROW(PRINTING().PRINTPREVIEW(), windowing::RuntimeError) << margin;
     EXPECT_FALSE(thePreview().loaded());
+    EXPECT_EQ(thePreview().PICSTDPAGE().dc(), nullptr) << "no page is left half drawn";
+    store(value, "1");
   }
-  store("Page Margin 2", "1");
   preview([&] { EXPECT_EQ(thePreview().CBOPGNO().count(), 3); });
 }
 

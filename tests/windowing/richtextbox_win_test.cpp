@@ -97,6 +97,19 @@ TEST_F(RichTextBoxes, PiecesAreInsertedAtTheCaretInTheirFormat) {
   EXPECT_EQ(next, 17);
 }
 
+// Not what a control does by itself: it can take twenty times as long to empty as to fill.
+TEST_F(RichTextBoxes, ALongTextGoesAsFastAsItCame) {
+  box_.setFormat({"Arial", 12, true});
+  const ULONGLONG start = GetTickCount64();
+  box_.setPlain(repeated(repeated("words ", 12) + "\r\n", 6000));
+  const ULONGLONG filled = GetTickCount64();
+  box_.setPlain("short");
+  EXPECT_LT(GetTickCount64() - filled, (filled - start) * 2 + 200);
+  EXPECT_EQ(box_.text(), "short");
+  EXPECT_EQ(GetDlgItem(window_, 10), box_.handle());
+  EXPECT_EQ(box_.format().points, 12);
+}
+
 TEST_F(RichTextBoxes, SelectionsCountABreakAsOne) {
   box_.setPlain("one\r\ntwo");
   box_.select({4, 3});
