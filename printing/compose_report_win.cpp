@@ -3,12 +3,21 @@
 #include "printing/report.h"
 
 namespace printing {
+namespace {
+
+// A format is set on an empty box: what stands in it is replaced anyway, and to format a long text
+// anew takes long.
+void prepare(windowing::RichTextBox& box, const windowing::TextFormat& format) {
+  box.setPlain({});
+  box.setFormat(format);
+}
+
+}  // namespace
 
 void composeReport(const document::ContactRecord& values, windowing::RichTextBox& RTF1,
                    windowing::RichTextBox& RTF3) {
   windowing::TextFormat format = RTF1.format();
   format.points = windowing::documentPoints;
-  RTF1.setPlain({});
   RTF3.setPlain({});
   for (const ReportStep& step : reportOf(values)) {
     if (step.kind == ReportStep::Kind::lineBreak) {
@@ -16,12 +25,12 @@ void composeReport(const document::ContactRecord& values, windowing::RichTextBox
       continue;
     }
     format.bold = step.kind == ReportStep::Kind::boldText;
-    RTF1.setFormat(format);
+    prepare(RTF1, format);
     RTF1.setPlain(step.text);
     RTF3.replaceSelection(RTF1.richText());
   }
   format.bold = false;
-  RTF1.setFormat(format);
+  prepare(RTF1, format);
   RTF1.setRichText(RTF3.richText());
 }
 
