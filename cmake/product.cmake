@@ -12,10 +12,11 @@ target_compile_options(tellary_options INTERFACE
 # The linker has to be told as well: the guard lives in a library of its own here.
 target_link_options(tellary_options INTERFACE -fstack-protector-strong)
 
-# Size matters everywhere but in the document, which is read and written at the disk's pace.
+# Size matters everywhere but in the document, which is read and written at the disk's pace, and
+# where every pixel of a page passes through.
 string(REPLACE "-O3" "-Os" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 foreach(source IN LISTS plain_sources)
-  if(source MATCHES "/document/[^/]*$")
+  if(source MATCHES "/document/[^/]*$" OR source MATCHES "/smooth_shrink.cpp$")
     set_property(SOURCE ${source} APPEND PROPERTY COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
   endif()
 endforeach()

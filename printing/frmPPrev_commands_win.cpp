@@ -40,6 +40,8 @@ void frmPPrev::ICONMENUS() {
   load();
   // Sizes that change with the menu bar are for the time when it is complete.
   const bool ready = std::exchange(ready_, false);
+  // On a window the bar would be drawn with every item.
+  SetMenu(handle(), nullptr);
   ICOMNU->clear();
   ICOMNU->setImages(IMGLST);
   for (const PreviewCommand& command : previewCommands) {

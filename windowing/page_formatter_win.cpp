@@ -36,7 +36,17 @@ class Canvas {
   ~Canvas() { RestoreDC(dc_, saved_); }
 
   [[nodiscard]] HDC dc() const { return dc_; }
-  [[nodiscard]] int dpi() const { return dpiY_; }
+  // The font of a run, and its colour, are in the device until another run's are wanted: making
+  // them anew for every line would cost more than the text.
+  void use(const std::vector<TextRun>& runs, std::size_t run) {
+    if (run_ == run) return;
+    run_ = run;
+    const CHARFORMAT2A& format = runs[run].format;
+    FontHandle font = fontOf(format, dpiY_);
+    SelectObject(dc_, font.get());
+    font_ = std::move(font);
+    SetTextColor(dc_, (format.dwEffects & CFE_AUTOCOLOR) != 0 ? RGB(0, 0, 0) : format.crTextColor);
+  }
   [[nodiscard]] int x(int units) const {
     return static_cast<int>(std::lround(left_ + units * scaleX_));
   }
@@ -53,6 +63,8 @@ class Canvas {
   double left_;
   double top_;
   int saved_;
+  std::optional<std::size_t> run_;
+  FontHandle font_;
 };
 
 // The formatter of one control. Text and measures are kept from page to page.
@@ -75,7 +87,7 @@ class PageFormatter {
 
  private:
   void draw(const PageLayout& page, const PageArea& area, const FORMATRANGE& range);
-  void drawRun(const Canvas& canvas, const PageLine& line, int first, int last, int x);
+  void drawRun(Canvas& canvas, const PageLine& line, int first, int last, int x);
 
   HWND control_;
   std::optional<bool> needed_;
@@ -117,7 +129,7 @@ LRESULT PageFormatter::format(FORMATRANGE& range, bool render) {
 }
 
 void PageFormatter::draw(const PageLayout& page, const PageArea& area, const FORMATRANGE& range) {
-  const Canvas canvas(range.hdc, range.hdcTarget, range.rc);
+  Canvas canvas(range.hdc, range.hdcTarget, range.rc);
   for (const PageLine& line : page.lines) {
     int x = 0;
     int pieceX = 0;
@@ -141,10 +153,9 @@ void PageFormatter::draw(const PageLayout& page, const PageArea& area, const FOR
 
 // Draws characters of one format. Each is put where the measuring device would have it, so
 // that lines are as long on a coarse screen as on the printer.
-void PageFormatter::drawRun(const Canvas& canvas, const PageLine& line, int first, int last,
-                            int x) {
+void PageFormatter::drawRun(Canvas& canvas, const PageLine& line, int first, int last, int x) {
   if (first >= last) return;
-  const CHARFORMAT2A& format = text_->runs[text_->runAt(first)].format;
+  canvas.use(text_->runs, text_->runAt(first));
   std::wstring characters;
   std::vector<INT> advances;
   const int start = canvas.x(x);
@@ -155,10 +166,6 @@ void PageFormatter::drawRun(const Canvas& canvas, const PageLine& line, int firs
     advances.push_back(canvas.x(x) - placed);
     placed = canvas.x(x);
   }
-  const FontHandle font = fontOf(format, canvas.dpi());
-  const Selected selected(canvas.dc(), font.get());
-  SetTextColor(canvas.dc(),
-               (format.dwEffects & CFE_AUTOCOLOR) != 0 ? RGB(0, 0, 0) : format.crTextColor);
   ExtTextOutW(canvas.dc(), start, canvas.y(line.top + line.height.ascent), 0, nullptr,
               characters.c_str(), static_cast<UINT>(characters.size()), advances.data());
 }

@@ -17,9 +17,9 @@ namespace {
 // out whatever its mode.
 int fineness(const SIZE& shown) {
   constexpr std::int64_t mostPixels = 16'000'000;
-  constexpr int finest = 4;
+  constexpr std::int64_t smallPage = 200'000;  // in pixels; letters are hardly more than dots
   const std::int64_t pixels = std::int64_t{shown.cx} * shown.cy;
-  int factor = finest;
+  int factor = pixels < smallPage ? 4 : 3;
   while (factor > 1 && pixels * factor * factor > mostPixels) --factor;
   return factor;
 }
