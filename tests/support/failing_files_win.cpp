@@ -81,29 +81,4 @@ bool FailingFiles::remove(const std::string& path) {
   return !fails() && FileCalls::remove(path);
 }
 
-std::string bytesOf(const std::string& path) {
-  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ,
-                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                  OPEN_EXISTING, 0, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return "(none)";
-  std::string bytes(GetFileSize(file, nullptr), '\0');
-  DWORD done = 0;
-  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr);
-  bytes.resize(done);
-  CloseHandle(file);
-  return bytes;
-}
-
-bool putFile(const std::string& path, const std::string& bytes) {
-  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-  const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return false;
-  DWORD done = 0;
-  const BOOL written =
-      WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr);
-  CloseHandle(file);
-  return written && done == bytes.size();
-}
-
 }  // namespace support

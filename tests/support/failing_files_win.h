@@ -52,8 +52,11 @@ class FailingFiles : public windowing::FileCalls {
 };
 
 /// The file's bytes; "(none)" where there is no such file.
-[[nodiscard]] std::string bytesOf(const std::string& path);
-/// Makes or replaces a file, whatever its attributes are. False where the disk took less.
-bool putFile(const std::string& path, const std::string& bytes);
+[[nodiscard]] inline std::string bytesOf(const std::string& path) {
+  return test_support::readFile(path).value_or("(none)");
+}
+inline bool putFile(const std::string& path, const std::string& bytes) {
+  return test_support::writeFile(path, bytes);
+}
 
 }  // namespace support

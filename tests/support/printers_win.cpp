@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "tests/support/files_win.h"
+
 namespace test_support {
 namespace {
 
@@ -46,25 +48,6 @@ std::string folder() {
 
 std::string outputOf(const Device& device) {
   return folder() + "tellary_" + device.file + ".ps";
-}
-
-void writeFile(const std::string& path, const std::string& text) {
-  const HANDLE file =
-      CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-  DWORD written = 0;
-  WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
-  CloseHandle(file);
-}
-
-std::string readFile(const std::string& path) {
-  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                  nullptr, OPEN_EXISTING, 0, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return {};
-  std::string text(GetFileSize(file, nullptr), '\0');
-  DWORD read = 0;
-  ReadFile(file, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
-  CloseHandle(file);
-  return text;
 }
 
 std::string numbers(int a, int b) {
@@ -188,10 +171,10 @@ TestPrinters::~TestPrinters() {
 }
 
 std::string TestPrinters::letterJob() {
-  return readFile(outputOf(devices[0]));
+  return readFile(outputOf(devices[0])).value_or("");
 }
 std::string TestPrinters::a4Job() {
-  return readFile(outputOf(devices[1]));
+  return readFile(outputOf(devices[1])).value_or("");
 }
 void TestPrinters::clearJobs() {
   for (const Device& device : devices) {

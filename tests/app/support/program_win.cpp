@@ -302,22 +302,12 @@ int Program::focus() const {
   return GetDlgCtrlID(info.hwndFocus);
 }
 
-HWND Program::findWindow(const char* windowClass) const {
-  const auto windows = windowsThat(nullptr, [&](HWND window) {
-    return processOf(window) == processId_ && classOf(window) == windowClass &&
+HWND Program::findDialog() const {
+  const auto windows = windowsThat(nullptr, [this](HWND window) {
+    return processOf(window) == processId_ && classOf(window) == "#32770" &&
            IsWindowVisible(window) && IsWindowEnabled(window);
   });
   return windows.empty() ? nullptr : windows.front();
-}
-
-HWND Program::findDialog() const {
-  return findWindow("#32770");
-}
-
-std::string Program::tooltip() const {
-  HWND tip = nullptr;
-  waitFor("a tooltip", [&] { return (tip = findWindow(TOOLTIPS_CLASSA)) != nullptr; });
-  return textOf(tip);
 }
 
 Dialog Program::dialog() const {

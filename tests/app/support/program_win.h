@@ -26,7 +26,6 @@ void waitFor(const std::string& what, const std::function<bool()>& met);
 class Dialog {
  public:
   explicit Dialog(HWND window) : window_(window) {}
-  [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] std::string title() const;
   /// The text of a message box.
   [[nodiscard]] std::string message() const;
@@ -90,15 +89,12 @@ class Program {
   void key(WORD key, WORD with = 0) const;
   void holdKey(WORD key, int repeats, WORD with = 0) const;
   void type(const std::string& text) const;
-  void click(HWND at, POINT place) const;
   void clickButton(int command) const;
   void clickTab(int index) const;
   /// Moves the pointer over a button of the toolbar without pressing it.
   void hover(int command) const;
   /// Moves the pointer to a far corner of the screen.
   void pointAway() const;
-  /// Waits for a tooltip; its text.
-  [[nodiscard]] std::string tooltip() const;
   void bringToFront() const;
 
   // Dialogs of the program.
@@ -111,8 +107,8 @@ class Program {
   [[nodiscard]] std::string describe() const;
 
  private:
+  void click(HWND at, POINT place) const;
   [[nodiscard]] HWND findDialog() const;
-  [[nodiscard]] HWND findWindow(const char* windowClass) const;
   void attach();
   [[nodiscard]] RECT buttonPlace(int command) const;
 

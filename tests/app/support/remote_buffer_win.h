@@ -37,10 +37,6 @@ class RemoteBuffer {
     ReadProcessMemory(process_, memory_, &read, sizeof read, nullptr);
     return read;
   }
-  template <typename T>
-  void put(const T& written) const {
-    WriteProcessMemory(process_, memory_, &written, sizeof written, nullptr);
-  }
   /// Up to the first NUL.
   [[nodiscard]] std::string text() const {
     std::string read(size_, '\0');
