@@ -13,7 +13,6 @@ class Start : public drive::AppTest {};
 TEST_F(Start, WithoutArgumentsShowsAnEmptyUntitledDocument) {
   const Program& program = start();
   expectUntitled();
-  EXPECT_EQ(program.page(), 0);
   EXPECT_EQ(program.focus(), id::textItem(1)) << "ready to type";
   // Save is not available: it does nothing.
   program.command(id::SAVE);

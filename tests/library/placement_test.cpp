@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "windowing/runtime_error.h"
 
 using namespace library;
@@ -11,12 +13,10 @@ using windowing::Twips;
 
 namespace {
 
-constexpr ScreenSize screen{{15360}, {11520}};
 constexpr FormPlacement design{WindowState::normal, {10}, {20}, {9000}, {6000}};
 
-FormPlacement loaded(const StoredPlacement& stored, bool sizable = true,
-                     const ScreenSize& on = screen) {
-  return loadPlacement(stored, design, on, sizable, ',');
+FormPlacement loaded(const StoredPlacement& stored, bool sizable = true, double width = 15360) {
+  return loadPlacement(stored, design, {{width}, {11520}}, sizable, ',');
 }
 
 std::string written(const FormPlacement& form, bool sizable) {
@@ -31,35 +31,28 @@ std::string written(const FormPlacement& form, bool sizable) {
 TEST(Placement, EachAxisAsStoredOrAtTheCentre) {
   const struct {
     StoredPlacement stored;
-    bool sizable;
-    FormPlacement expected;
+    std::string placed;
   } rows[] = {
-      {{}, true, {{}, {3180}, {2760}, {9000}, {6000}}},
-      {{{}, "-200", "100", {}, {}}, true, {{}, {3180}, {100}, {9000}, {6000}}},
-      {{{}, "6360", "5520", {}, {}}, true, {{}, {6360}, {5520}, {9000}, {6000}}},  // flush
-      {{{}, "6361", "5521", {}, {}}, true, {{}, {3180}, {2760}, {9000}, {6000}}},
-      {{{}, "1237,5", "1237.5", "3000", "2000"}, true, {{}, {1237.5}, {1237.5}, {3000}, {2000}}},
-      // Halves go to the even twip.
-      {{{}, {}, {}, "3001", "2003"}, true, {{}, {6180}, {4758}, {3001}, {2003}}},
-      // Larger than the screen.
-      {{{}, "0", "0", "20000", "12000"}, true, {{}, {-2320}, {-240}, {20000}, {12000}}},
-      {{"2", "100", "200", "1", "x"}, false, {{}, {100}, {200}, {9000}, {6000}}},
-      {{"2", "100", "200", "3000", "2000"},
-       true,
-       {WindowState::maximized, {100}, {200}, {3000}, {2000}}},
-      {{"2", "100", "200", "3000", "tall"},
-       true,
-       {WindowState::maximized, {10}, {20}, {9000}, {6000}}},
+      {{}, "0 3180 2760 9000 6000"},
+      {{{}, "-200", "100", {}, {}}, "0 3180 100 9000 6000"},
+      {{{}, "6360", "5521", {}, {}}, "0 6360 2760 9000 6000"},  // flush, and one twip too far
+      {{{}, "1237,5", "1237.5", "3000", "2000"}, "0 1237.5 1237.5 3000 2000"},
+      {{{}, {}, {}, "3001", "2003"}, "0 6180 4758 3001 2003"},  // halves go to the even twip
+      {{{}, "0", "0", "20000", "12000"}, "0 -2320 -240 20000 12000"},
+      {{"2", "100", "200", "3000", "2000"}, "2 100 200 3000 2000"},
+      {{"2", "100", "200", "3000", "tall"}, "2 10 20 9000 6000"},
   };
   for (const auto& row : rows) {
-    SCOPED_TRACE(&row - rows);
-    const FormPlacement form = loaded(row.stored, row.sizable);
-    EXPECT_EQ(form.state, row.expected.state);
-    EXPECT_EQ(form.left, row.expected.left);
-    EXPECT_EQ(form.top, row.expected.top);
-    EXPECT_EQ(form.width, row.expected.width);
-    EXPECT_EQ(form.height, row.expected.height);
+    const FormPlacement form = loaded(row.stored);
+    std::ostringstream placed;
+    placed << static_cast<int>(form.state) << ' ' << form.left.value << ' ' << form.top.value << ' '
+           << form.width.value << ' ' << form.height.value;
+    EXPECT_EQ(placed.str(), row.placed);
   }
+  const FormPlacement fixed = loaded({"2", "100", "200", "1", "x"}, false);
+  EXPECT_EQ(fixed.state, WindowState::normal);
+  EXPECT_EQ(fixed.left, Twips{100});
+  EXPECT_EQ(fixed.width, design.width);
 }
 
 TEST(Placement, WhatCannotBeReadRaises) {
@@ -78,9 +71,8 @@ TEST(Placement, WhatCannotBeReadRaises) {
       EXPECT_EQ(error.number(), row.number);
     }
   // A screen more than 65,535 twips wider than the form, though a place is stored.
-  EXPECT_THROW((void)loaded({{}, "0", "0", {}, {}}, false, {{9000 + 65536}, {11520}}),
-               windowing::RuntimeError);
-  EXPECT_EQ(loaded({{}, "0", "0", {}, {}}, false, {{9000 + 65534}, {11520}}).left, Twips{0});
+  EXPECT_THROW((void)loaded({{}, "0", "0", {}, {}}, false, 9000 + 65536), windowing::RuntimeError);
+  EXPECT_EQ(loaded({{}, "0", "0", {}, {}}, false, 9000 + 65534).left, Twips{0});
 }
 
 TEST(Placement, WhatIsStoredOnClosing) {
@@ -100,8 +92,8 @@ TEST(Placement, AWindowAtTheScreensEdgeStaysThereAtEveryResolution) {
       const FormPlacement form{WindowState::normal, twips(1920 - width), twips(0), twips(width),
                                twips(400)};
       const std::vector<StoredValue> stored = placementToStore(form, true, ',');
-      const FormPlacement again = loadPlacement({{}, stored[1].text, {}, stored[3].text, {}}, form,
-                                                {twips(1920), twips(1080)}, true, ',');
+      const StoredPlacement texts{{}, stored[1].text, {}, stored[3].text, {}};
+      const FormPlacement again = loadPlacement(texts, form, {twips(1920), twips(1080)}, true, ',');
       ASSERT_EQ(windowing::toPixels(again.left, dpi), Pixels{1920 - width}) << dpi;
     }
 }

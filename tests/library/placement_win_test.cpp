@@ -8,7 +8,6 @@
 #include "tests/support/plain_form_win.h"
 #include "tests/support/scratch_registry_win.h"
 #include "windowing/application_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
 
 namespace library {
@@ -17,7 +16,6 @@ namespace {
 using test_support::DialogDriver;
 using test_support::PlainForm;
 using test_support::ScratchRegistry;
-using windowing::screenPixels;
 
 bool isCentred(const RECT& place) {
   return std::abs((place.left + place.right - GetSystemMetrics(SM_CXSCREEN)) / 2) <= 1 &&
@@ -27,9 +25,6 @@ bool isCentred(const RECT& place) {
 class PlacementTest : public testing::Test {
  protected:
   PlacementTest() { form.load(); }
-  void store(const std::string& name, const std::string& text) const {
-    ScratchRegistry::putText(registry.user(), key, name, text);
-  }
   [[nodiscard]] std::string stored(const std::string& name) const {
     return ScratchRegistry::text(registry.user(), key, name);
   }
@@ -78,38 +73,14 @@ TEST_F(PlacementTest, MaximisedFormsReopenMaximisedAndRestoreToTheStoredPlace) {
   expectPlace(form, place);
 }
 
-TEST_F(PlacementTest, WhatCannotBeReadRaisesAndLeavesTheDesign) {
-  const RECT design = form.outerPixels();
-  store("Left", "0");
-  store("Height", "0x10");
-  EXPECT_THROW(LIBRARY().FORMLOAD("frmPlain", form, true), windowing::RuntimeError);
-  expectPlace(form, design);
-  // Values of another type or too long count as missing.
-  ScratchRegistry::put(registry.user(), key, "Height", REG_DWORD, "1234");
-  store("Left", std::string(10000, '9'));
-  LIBRARY().FORMLOAD("frmPlain", form, true);
-  EXPECT_TRUE(isCentred(form.outerPixels()));
-}
-
 TEST_F(PlacementTest, MinimisedFormsStoreNothingAndNeverOpenMinimised) {
-  store("Window State", "1");
+  ScratchRegistry::putText(registry.user(), key, "Window State", "1");
   LIBRARY().FORMLOAD("frmPlain", form, true);
   form.show();
   EXPECT_FALSE(IsIconic(form.handle()));
   ShowWindow(form.handle(), SW_MINIMIZE);
   LIBRARY().FORMSAVE("frmPlain", form, true);
   EXPECT_EQ(stored("Left") + stored("Window State"), "(none)1");
-}
-
-TEST_F(PlacementTest, OneOfTheStandardButtonsMayBeMissing) {
-  LIBRARY().RESIZEBTNSOKCANCEL(form);
-  EXPECT_EQ(form.control("BTNOK").pixels().top, screenPixels(165));
-  EXPECT_NEAR(form.control("BTNOK").pixels().left, screenPixels(6000 - 135 - 1050 - 135 - 1050), 1);
-  PlainForm okOnly("frmOk", std::span(test_support::plainFormControls).first(2));
-  okOnly.load();
-  LIBRARY().RESIZEBTNSOKCANCEL(okOnly);
-  EXPECT_EQ(okOnly.control("BTNOK").pixels().left, screenPixels(30));
-  EXPECT_THROW(LIBRARY().RESIZEBTNCLOSE(okOnly), windowing::RuntimeError);
 }
 
 // A dialog that opens near the screen's corner unless something moves it.

@@ -105,15 +105,5 @@ TEST_F(Settings, DocumentsFolder) {
   EXPECT_EQ(registry.text(registry.user(), preferences, "Files Location"), folder / "gone");
 }
 
-TEST_F(Settings, TheOwnerIsTheMachinesAndTheOrganizationTheUsers) {
-  const std::string windows = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
-  registry.putText(registry.machine(), windows, "RegisteredOwner", "Owner");
-  registry.putText(registry.machine(), windows, "RegisteredOrganization", "not looked for here");
-  EXPECT_EQ(LIBRARY().GETCOMPANYREG(), "");
-  registry.putText(registry.user(), windows, "RegisteredOrganization", "Organization");
-  EXPECT_EQ(LIBRARY().GETCOMPANYNAME(), "Owner");
-  EXPECT_EQ(LIBRARY().GETCOMPANYREG(), "Organization");
-}
-
 }  // namespace
 }  // namespace library

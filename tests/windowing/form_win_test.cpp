@@ -8,14 +8,10 @@
 namespace {
 
 constexpr int stripId = 100;
-constexpr int amountId = 104;
 
 class Forms : public testing::Test {
  protected:
   Forms() { form.show(); }
-  void send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    SendMessageA(form.handle(), message, wParam, lParam);
-  }
   test_support::PlainForm form;
 };
 
@@ -44,24 +40,16 @@ TEST_F(Forms, TheProgramEndsHoweverItsWindowIsClosed) {
 TEST_F(Forms, CannotBeClosedBelowABox) {
   for (const bool takesInput : {false, true}) {
     EnableWindow(form.handle(), takesInput);
-    send(WM_CLOSE);
+    SendMessageA(form.handle(), WM_CLOSE, 0, 0);
     EXPECT_NE(form.loaded(), takesInput);
   }
-}
-
-TEST_F(Forms, AnAccessKeySelectsTheTextOfItsBox) {
-  const windowing::Control box = form.control(amountId);
-  box.setText("12");
-  send(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box.handle()), TRUE);
-  EXPECT_TRUE(box.focused());
-  EXPECT_EQ(box.send(EM_GETSEL), MAKELONG(0, 2));
 }
 
 TEST_F(Forms, PassNewSystemColoursOnToTheirControls) {
   const HWND strip = form.control(stripId).handle();
   UpdateWindow(strip);
   ASSERT_FALSE(GetUpdateRect(strip, nullptr, FALSE));
-  send(WM_SYSCOLORCHANGE);
+  SendMessageA(form.handle(), WM_SYSCOLORCHANGE, 0, 0);
   EXPECT_TRUE(GetUpdateRect(strip, nullptr, FALSE));
 }
 

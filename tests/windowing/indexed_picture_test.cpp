@@ -41,28 +41,5 @@ TEST(IndexedPicture, UnpacksRowsAndAlpha) {
   }
 }
 
-TEST(IndexedPicture, RefusesWhatIsNoSuchBitmap) {
-  const struct {
-    const char* what;
-    std::size_t at;
-    int value;
-    std::size_t size;
-  } spoilt[] = {{"empty", 0, 40, 0},
-                {"header cut short", 0, 40, 39},
-                {"last byte missing", 0, 40, sample(8).size() - 1},
-                {"another header", 0, 124, 60},
-                {"no width", 4, 0, 60},
-                {"top row first", 11, 0xFF, 60},
-                {"24 bits", 14, 24, 60},
-                {"compressed", 16, 1, 60},
-                {"too many colours", 33, 2, 4096}};
-  for (const auto& row : spoilt) {
-    Bytes bytes = sample(8);
-    bytes[row.at] = static_cast<std::byte>(row.value);
-    bytes.resize(row.size);
-    EXPECT_FALSE(unpackPicture(bytes, Alpha::straight)) << row.what;
-  }
-}
-
 }  // namespace
 }  // namespace windowing

@@ -1,7 +1,5 @@
 #include "tests/app/support/fixture_win.h"
 
-#include <cstdio>
-
 #include "tests/app/support/picture_win.h"
 
 namespace drive {
@@ -60,13 +58,7 @@ void AppTest::SetUp() {
 }
 
 void AppTest::TearDown() {
-  if (HasFailure() && program_ != nullptr && program_->running()) {
-    std::printf("The program's windows at the end:\n%s", program_->describe().c_str());
-    CreateDirectoryA(picturesFolder().c_str(), nullptr);
-    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    takePicture(GetDesktopWindow(),
-                picturesFolder() + "\\failed " + test->test_case_name() + ".bmp");
-  }
+  if (HasFailure()) takePicture(GetDesktopWindow(), picturesFolder() + "\\failed.bmp");
   program_.reset();
 }
 

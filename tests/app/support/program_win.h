@@ -78,7 +78,6 @@ class Program {
   [[nodiscard]] int chosenName() const;
   [[nodiscard]] bool buttonEnabled(int command) const;
   [[nodiscard]] bool modified() const { return buttonEnabled(library::id::SAVE); }
-  [[nodiscard]] int page() const;
   /// Identifier of the control with the focus, 0 for none.
   [[nodiscard]] int focus() const;
 
@@ -103,14 +102,11 @@ class Program {
   /// Waits for a message box, checks nothing, presses `button`; its title, "|", and its text.
   std::string answer(int button) const;
 
-  /// All windows of the program as text, for a failing test.
-  [[nodiscard]] std::string describe() const;
-
  private:
   void click(HWND at, POINT place) const;
   [[nodiscard]] HWND findDialog() const;
   void attach();
-  [[nodiscard]] RECT buttonPlace(int command) const;
+  [[nodiscard]] POINT buttonPlace(int command) const;
 
   HANDLE process_ = nullptr;
   DWORD processId_ = 0;
