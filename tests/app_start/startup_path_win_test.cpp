@@ -17,7 +17,11 @@ TEST(StartupPath, NamesTheDocumentAsTheDiskDoes) {
   char old[MAX_PATH] = {};
   GetCurrentDirectoryA(sizeof old, old);
   SetCurrentDirectoryA(folder.path().c_str());
+  char alias[MAX_PATH] = {};
+  GetShortPathNameA(file.c_str(), alias, sizeof alias);
   const std::pair<std::string, std::string> rows[] = {
+      {alias, file},
+      {"\\\\server\\share\\A\\b", "\\\\server\\share\\A\\b"},
       {file, file},
       {"MY PAPERS\\ANNA'S BOOK.TLY", file},
       {"my papers\\..\\my papers\\anna's book.tly", file},

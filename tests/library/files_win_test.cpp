@@ -6,7 +6,6 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
-#include "library/proper_case_win.h"
 #include "tests/support/dialog_driver_win.h"
 #include "tests/support/plain_form_win.h"
 #include "tests/support/scratch_folder_win.h"
@@ -131,22 +130,6 @@ TEST(Files, AddressesAreHandedToTheShellAsTheyStandOrFailInSilence) {
     EXPECT_EQ(handed, "Open mailto:" + address);
   }
   EXPECT_THROW(LIBRARY().INTERNETACCESS("none", "mailto:", "a"), windowing::RuntimeError);
-}
-
-TEST(ProperCase, LettersComeFromTheDisk) {
-  const ScratchFolder folder;
-  folder.folder("Inner Folder");
-  const std::string inner = folder.file("Inner Folder\\Long Name of a File.tly");
-  std::string upper = inner;
-  CharUpperA(upper.data());
-  char alias[MAX_PATH] = {};
-  GetShortPathNameA(inner.c_str(), alias, sizeof alias);
-  EXPECT_EQ(PROPERCASEPATH(upper), inner);
-  EXPECT_EQ(PROPERCASEPATH(alias), inner);
-  for (const std::string& kept :
-       {folder / "MISSING\\A.TLY", folder / "*.TLY", std::string("c:\\"),
-        std::string("\\\\server\\share\\A\\b"), std::string(), std::string("\\\\"), overlong})
-    EXPECT_EQ(PROPERCASEPATH(kept), kept);
 }
 
 }  // namespace

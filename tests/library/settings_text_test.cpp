@@ -2,15 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windowing/runtime_error.h"
-
 using namespace library;
-
-TEST(SettingsText, RootsTravelAsDecimalText) {
-  EXPECT_EQ(rootText(rootOfText("-2147483646")), "-2147483646");
-  for (const char* bad : {"", "HKEY_CURRENT_USER", "2147483649", "80000001h"})
-    EXPECT_THROW((void)rootOfText(bad), windowing::RuntimeError) << bad;
-}
 
 TEST(SettingsText, WhatAReadMeans) {
   using namespace std::string_view_literals;

@@ -72,16 +72,6 @@ TEST(PageLayout, BreaksLinesWhereWordsEndAndPagesWhereLinesDo) {
     EXPECT_EQ(seen(row.text, row.width, row.height), row.lines) << row.why;
 }
 
-TEST(PageLayout, PlacesLinesBelowEachOther) {
-  Typewriter measure(u"a\r\ra#\rc");
-  const PageLayout page = layOutPage(measure, 0, 7, {100, 100, 40});
-  ASSERT_EQ(page.lines.size(), 4U);
-  EXPECT_EQ(page.lines[2].top, 20) << "an empty line has its height";
-  EXPECT_EQ(page.lines[2].height.ascent, 18);
-  EXPECT_EQ(page.lines[3].top, 42);
-  EXPECT_EQ(page.height, 52);
-}
-
 TEST(PageLayout, LastPageCostsNoMoreThanTheFirst) {
   std::u16string text;
   for (int line = 0; line < 2000; ++line) text += u"some words on a line\r";

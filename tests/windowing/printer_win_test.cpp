@@ -65,22 +65,6 @@ TEST_F(Printers, AreChosenByNameOrIndexWithoutChangingTheWindowsDefault) {
   EXPECT_EQ(printer_.name(), TestPrinters::a4) << "a failed choice changes nothing";
 }
 
-TEST_F(Printers, ReportTheirPage) {
-  // Letter, 612 x 792 points, strips 18, 24, 36, 30.
-  EXPECT_DOUBLE_EQ(printer_.width(), 12240);
-  EXPECT_DOUBLE_EQ(printer_.height(), 15840);
-  EXPECT_NEAR(printer_.scaleWidth(), (612 - 18 - 24) * 20, 3);
-  EXPECT_NEAR(printer_.scaleHeight(), (792 - 36 - 30) * 20, 3);
-  EXPECT_EQ(printer_.physicalOffset().x, 18 * 600 / 72);
-  EXPECT_EQ(printer_.physicalOffset().y, 36 * 600 / 72);
-  EXPECT_DOUBLE_EQ(printer_.twipsPerPixelX(), 2.4);
-  printer_.setScaleMode(PrinterScale::pixels);
-  EXPECT_NEAR(printer_.scaleWidth(), (612 - 18 - 24) * 600.0 / 72, 1);
-  EXPECT_DOUBLE_EQ(printer_.width(), 12240) << "the paper's size has its own unit";
-  printer_.select(TestPrinters::a4);
-  EXPECT_EQ(printer_.physicalSize().cx, 595 * 300 / 72);
-}
-
 TEST_F(Printers, TurnAndChangeTheirPaperAtOnce) {
   const HDC dc = printer_.dc();
   printer_.setOrientation(Orientation::landscape);
