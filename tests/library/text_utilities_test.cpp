@@ -78,6 +78,7 @@ TEST(TextUtilities, AmountKeysAndComboHeights) {
   EXPECT_EQ(currencyKey("15", '.'), '.');
   EXPECT_EQ(currencyKey("1.5", '.'), 0);
   for (const int key : {44, 45, 97, 47, 58, 13}) EXPECT_EQ(currencyKey("15", key), 0) << key;
+  EXPECT_EQ(comboListHeight("15", 13), 221);
   EXPECT_THROW((void)comboListHeight("many", 13), windowing::RuntimeError);
 }
 

@@ -22,7 +22,7 @@ Bytes sample(unsigned bits) {
   append(bytes, {40, 3, 2}, 4);
   append(bytes, {1, bits}, 2);
   append(bytes, {0, 0, 0, 0, 3, 0}, 4);
-  append(bytes, {0xFF2E78C9, 0x80FF0010, 0x00000000}, 4);
+  append(bytes, {0xFF2E78C9, 0x80FF0013, 0x00000000}, 4);
   if (bits == 8)
     append(bytes, {0, 1, 2, 99, 2, 1, 0, 99});
   else
@@ -35,9 +35,9 @@ TEST(IndexedPicture, UnpacksRowsAndAlpha) {
     const auto straight = unpackPicture(sample(bits), Alpha::straight);
     ASSERT_TRUE(straight) << bits;
     EXPECT_EQ(straight->pixels,
-              (std::vector<std::uint32_t>{0xFF2E78C9, 0x80FF0010, 0, 0, 0x80FF0010, 0xFF2E78C9}))
+              (std::vector<std::uint32_t>{0xFF2E78C9, 0x80FF0013, 0, 0, 0x80FF0013, 0xFF2E78C9}))
         << bits;
-    EXPECT_EQ(unpackPicture(sample(bits), Alpha::premultiplied)->pixels[1], 0x80800008U);
+    EXPECT_EQ(unpackPicture(sample(bits), Alpha::premultiplied)->pixels[1], 0x8080000AU);
   }
 }
 
