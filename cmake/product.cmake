@@ -59,7 +59,7 @@ if(EXISTS /usr/src/googletest)
   file(GLOB_RECURSE win_tests CONFIGURE_DEPENDS tests/*_win_test.cpp)
   file(GLOB win_support CONFIGURE_DEPENDS tests/support/*_win.cpp)
   file(GLOB_RECURSE app_tests CONFIGURE_DEPENDS tests/app/*_app_test.cpp)
-  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp tests/support/printers_win.cpp)
+  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp tests/support/print*_win.cpp)
 
   if(win_tests)
     add_executable(tests_win ${win_tests} ${win_support} app/tellary.rc)

@@ -1,6 +1,4 @@
 // Starting, with and without a document.
-#include <algorithm>
-
 #include "tests/app/support/fixture_win.h"
 
 namespace {
@@ -15,75 +13,47 @@ class Start : public drive::AppTest {};
 TEST_F(Start, WithoutArgumentsShowsAnEmptyUntitledDocument) {
   const Program& program = start();
   expectUntitled();
-  for (const int box : drive::boxOf) EXPECT_TRUE(program.enabled(box)) << box;
-  EXPECT_EQ(program.page(), 0);
+  EXPECT_EQ(program.focus(), id::textItem(1)) << "ready to type";
   // Save is not available: it does nothing.
   program.command(id::SAVE);
   EXPECT_FALSE(program.hasDialog());
-  EXPECT_FALSE(setting("frmMain\\Items", "CMD Open Folder"));
+  EXPECT_EQ(setting("frmMain\\Items", "CMD Open Folder"), "(none)");
   close();
 }
 
-TEST_F(Start, OpensASample) {
-  const std::string file =
-      drive::windowsPath(drive::environment("TELLARY_SAMPLES")) + "\\friends.tly";
-  const Program& program = start(file);
-  EXPECT_EQ(program.title(), "Tellary - (" + file + ")");
-  EXPECT_EQ(program.text(id::textItem(0)), "Thistlebrook");
+TEST_F(Start, OpensASampleInAWindowOfItsOwnEachTime) {
+  const Program& program = start(sample());
+  EXPECT_EQ(program.title(), titleOf(sample()));
   EXPECT_EQ(program.text(id::textItem(1)), "Zo\xEB Harriet");
   EXPECT_EQ(program.text(id::textItem(22)),
             "Ring the bell twice, the first ring is never heard.\r\n\r\nBrings her own tea.\r\n"
             "Lends out the dinghy; ask a week ahead.");
-  EXPECT_EQ(program.text(id::textItem(23)), "Pellomar Instruments Ltd");
-  EXPECT_EQ(program.status(), place(1, static_cast<int>(program.names().size())));
   EXPECT_FALSE(program.modified());
+  const Program second(sample());
+  EXPECT_NE(program.processId(), second.processId());
+  EXPECT_EQ(second.title(), program.title());
 }
 
 // The whole tail is one path; the title has the letters of the disk.
 TEST_F(Start, TakesARelativePathWithBlanksAndAccentsInCapitals) {
   const std::string folder = path("Zo\xEB's caf\xE9");
   ASSERT_TRUE(CreateDirectoryA(folder.c_str(), nullptr));
-  const std::vector<Contact> contacts = drive::fullContacts(2);
+  std::vector<Contact> contacts = drive::fullContacts(2);
   const std::string file = write("Zo\xEB's caf\xE9\\Mes Amis -x.tly", drive::bytesOf(contacts));
   SetCurrentDirectoryA(this->folder().c_str());
   const Program& program = start("ZO\xCB'S CAF\xC9\\MES AMIS -X.TLY");
   SetCurrentDirectoryA("C:\\");
 
-  EXPECT_EQ(program.title(), "Tellary - (" + file + ")");
+  EXPECT_EQ(program.title(), titleOf(file));
   EXPECT_EQ(setting("frmMain\\Items", "CMD Open Folder"), folder);
-  EXPECT_FALSE(setting("frmMain\\Items", "CMD Save Folder"));
-  EXPECT_THAT(program.names(),
-              testing::ElementsAre(drive::nameOf(contacts[0]), drive::nameOf(contacts[1])));
   EXPECT_FALSE(program.modified());
   expectShown(contacts[0]);
   // Saving writes to this very file, without a dialog.
   program.enter(id::textItem(0), "M\xFCller");
+  contacts[0][drive::surname] = "M\xFCller";
   program.command(id::SAVE);
   EXPECT_FALSE(program.hasDialog());
-  std::vector<Contact> changed = contacts;
-  changed[0][drive::surname] = "M\xFCller";
-  EXPECT_EQ(read(file), drive::bytesOf(changed));
-}
-
-TEST_F(Start, EachStartIsAWindowOfItsOwn) {
-  const std::string file = write("two.tly", drive::bytesOf(drive::fullContacts(1)));
-  const Program& first = start(file);
-  const Program second(file);
-  EXPECT_NE(first.processId(), second.processId());
-  EXPECT_EQ(second.title(), first.title());
-}
-
-// --- What is no document ---
-
-struct BadInput {
-  const char* name;
-  std::string file;   ///< name in the scratch folder; with a backslash the whole tail
-  std::string bytes;  ///< what is written there; nothing for none
-  int contacts;       ///< how many are shown
-};
-
-void PrintTo(const BadInput& input, std::ostream* out) {
-  *out << input.name;
+  EXPECT_EQ(read(file), drive::bytesOf(contacts));
 }
 
 std::string copies(int count) {
@@ -92,76 +62,41 @@ std::string copies(int count) {
   return bytes;
 }
 
-const std::string two = drive::bytesOf(drive::fullContacts(2));
-
-class BadStart : public drive::AppTest, public testing::WithParamInterface<BadInput> {};
-
 // The program runs, tells nothing, shows what it read, and leaves the file alone.
-TEST_P(BadStart, RunsSilentlyAndShowsWhatWasRead) {
-  const BadInput& input = GetParam();
-  const bool whole = input.file.find('\\') != std::string::npos || input.file == "NUL";
-  const std::string file = whole ? input.file : path(input.file);
+TEST_F(Start, WithWhatIsNoDocumentShowsSilentlyWhatCouldBeRead) {
+  const std::string two = drive::bytesOf(drive::fullContacts(2));
   const std::string bystander = write("bystander.tly", two);
-  if (!input.bytes.empty()) write(input.file, input.bytes);
-  const Program& program = start(file);
-
-  EXPECT_FALSE(program.hasDialog());
-  EXPECT_TRUE(program.title().starts_with("Tellary - (")) << program.title();
-  const std::string name = file.substr(file.rfind('\\') + 1);
-  EXPECT_TRUE(program.title().ends_with(name + ")")) << program.title();
-  EXPECT_EQ(program.status(), input.contacts == 0 ? "" : place(1, input.contacts));
-  EXPECT_EQ(program.send(program.control(id::CBOTBARBOX), CB_GETCOUNT), input.contacts);
-  EXPECT_FALSE(program.modified());
-  for (const int box : drive::boxOf) {
-    if (program.enabled(box) != (input.contacts > 0)) ADD_FAILURE() << "state of box " << box;
-  }
-  EXPECT_EQ(program.buttonEnabled(id::REMOVE), input.contacts > 0);
-  EXPECT_EQ(program.buttonEnabled(id::LAST), input.contacts > 1);
-  if (input.contacts == 0) expectShown(Contact{});
-  close();
-  if (!input.bytes.empty()) {
-    EXPECT_TRUE(read(file) == input.bytes);
+  const struct {
+    std::string file;   // path, or name in the scratch folder
+    std::string bytes;  // what is written there; nothing for none
+    int contacts;       // how many are shown
+  } inputs[] = {{path("nobody.tly"), "", 0},
+                {"C:\\windows", "", 0},
+                {"NUL", "", 0},
+                {"C:\\" + std::string(400, 'n') + ".tly", "", 0},
+                {path("*.tly"), "", 0},
+                {"cut.tly", two.substr(0, two.size() - 20), 1},
+                {"quote.tly", two + "\"never closed\r\n\r\nx\r\n", 2},
+                {"zero.tly", std::string("\"a\0b\"\r\n", 7) + copies(2).substr(5), 2},
+                {"full.tly", copies(32768), 32767},
+                {"huge.tly", std::string(20'000'000, 'x'), 0}};
+  for (const auto& input : inputs) {
+    SCOPED_TRACE(input.file);
+    const std::string file = input.bytes.empty() ? input.file : write(input.file, input.bytes);
+    const Program& program = start(file);
+    EXPECT_FALSE(program.hasDialog());
+    const std::string name = file.substr(file.rfind('\\') + 1);
+    EXPECT_TRUE(program.title().ends_with(name + ")")) << program.title();
+    EXPECT_EQ(program.status(), input.contacts == 0 ? "" : place(1, input.contacts));
+    EXPECT_EQ(program.send(program.control(id::CBOTBARBOX), CB_GETCOUNT), input.contacts);
+    EXPECT_FALSE(program.modified());
+    EXPECT_EQ(program.enabled(id::textItem(0)), input.contacts > 0);
+    EXPECT_EQ(program.buttonEnabled(id::REMOVE), input.contacts > 0);
+    EXPECT_EQ(program.buttonEnabled(id::LAST), input.contacts > 1);
+    close();
+    EXPECT_TRUE(input.bytes.empty() || read(file) == input.bytes);
   }
   EXPECT_EQ(read(bystander), two);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, BadStart,
-    testing::Values(
-        BadInput{"Missing", "nobody.tly", "", 0}, BadInput{"Folder", "C:\\windows", "", 0},
-        BadInput{"CutInsideAField", "cut.tly", two.substr(0, two.size() - 20), 1},
-        BadInput{"UnclosedQuote", "quote.tly", two + "\"never closed\r\n\r\nx\r\n", 2},
-        BadInput{"NulBytes", "zero.tly", std::string("\"a\0b\"\r\n", 7) + copies(2).substr(5), 2},
-        BadInput{"OneContactTooMany", "full.tly", copies(32768), 32767},
-        BadInput{"OneHugeLine", "huge.tly", std::string(20'000'000, 'x'), 0},
-        BadInput{"Device", "NUL", "", 0},
-        BadInput{"OverlongPath", "C:\\" + std::string(400, 'n') + ".tly", "", 0},
-        BadInput{"Wildcards", "*.tly", "", 0}, BadInput{"QuestionMark", "bystande?.tly", "", 0}),
-    [](const auto& each) { return std::string(each.param.name); });
-
-// A name that no file has yet is made by Save; what a broken file holds is never written over.
-TEST_F(Start, SaveMakesTheMissingFileButSparesABrokenOne) {
-  const std::string missing = path("new.tly");
-  {
-    const Program& program = start(missing);
-    program.command(id::ADD);
-    program.enter(id::textItem(0), "Newcomer");
-    program.command(id::SAVE);
-    EXPECT_FALSE(program.hasDialog());
-    Contact contact;
-    contact[drive::surname] = "Newcomer";
-    EXPECT_EQ(read(missing), drive::bytesOf({contact}));
-  }
-  const std::string broken = write("broken.tly", two + "\"rest\"\r\n");
-  const Program& program = start(broken);
-  program.enter(id::textItem(0), "changed");
-  program.command(id::SAVE);
-  const drive::Dialog dialog = program.dialog();
-  EXPECT_EQ(dialog.title(), "Save As");
-  dialog.press(IDCANCEL);
-  program.settle();
-  EXPECT_TRUE(program.modified());
-  EXPECT_EQ(read(broken), two + "\"rest\"\r\n");
 }
 
 }  // namespace

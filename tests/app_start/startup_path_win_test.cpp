@@ -17,21 +17,19 @@ TEST(StartupPath, NamesTheDocumentAsTheDiskDoes) {
   char old[MAX_PATH] = {};
   GetCurrentDirectoryA(sizeof old, old);
   SetCurrentDirectoryA(folder.path().c_str());
-  std::string capitals = file;
-  CharUpperA(capitals.data());
+  char alias[MAX_PATH] = {};
+  GetShortPathNameA(file.c_str(), alias, sizeof alias);
   const std::pair<std::string, std::string> rows[] = {
+      {alias, file},
+      {"\\\\server\\share\\A\\b", "\\\\server\\share\\A\\b"},
       {file, file},
-      {capitals, file},
       {"MY PAPERS\\ANNA'S BOOK.TLY", file},
       {"my papers\\..\\my papers\\anna's book.tly", file},
       {"MY PAPERS\\NO EXTENSION", twin},
       {"MY PAPERS\\Not There.TLY", inner + "\\Not There.TLY"},
       {"New Folder\\a.tly", folder / "New Folder\\a.tly"},
-      {"-x", folder / "-x"},
       {"MY PAPERS\\*.tly", inner + "\\*.tly"},
-      {"MY PAPERS\\Anna?s Book.tly", inner + "\\Anna?s Book.tly"},
       {"my*\\a.tly", folder / "my*\\a.tly"},
-      {"MY PAPERS\\", inner + "\\"},
       {"my papers", inner},
       {"C:\\", "C:\\"},
   };
@@ -40,14 +38,10 @@ TEST(StartupPath, NamesTheDocumentAsTheDiskDoes) {
 }
 
 TEST(StartupPath, PathsTooLongStayNamed) {
-  for (const std::size_t length :
-       {std::size_t{3}, std::size_t{259}, std::size_t{260}, std::size_t{261}, std::size_t{32767}}) {
+  for (const std::size_t length : {3U, 259U, 260U, 261U, 32767U}) {
     const std::string path = "C:\\" + std::string(length - 3, 'x');
     EXPECT_EQ(documentPathOf(path), path) << length;
   }
-  EXPECT_NO_THROW((void)documentPathOf("\"C:\\quoted.tly\""));
-  EXPECT_NO_THROW((void)documentPathOf("NUL"));
-  EXPECT_NO_THROW((void)documentPathOf("\\\\"));
 }
 
 }  // namespace

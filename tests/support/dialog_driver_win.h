@@ -48,7 +48,4 @@ class DialogDriver {
   std::vector<SeenDialog> seen_;
 };
 
-/// Runs the thread's messages until `done` or `milliseconds` have passed; whether it was done.
-bool pumpUntil(const std::function<bool()>& done, DWORD milliseconds = 10000);
-
 }  // namespace test_support

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "windowing/handles_win.h"
+#include "tests/support/files_win.h"
 
 namespace test_support {
 
@@ -43,12 +43,7 @@ class ScratchFolder {
     return *this / name;
   }
   std::string file(const std::string& name, const std::string& bytes = {}) const {
-    const windowing::FileHandle file(CreateFileA((*this / name).c_str(), GENERIC_WRITE, 0, nullptr,
-                                                 CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    DWORD written = 0;
-    if (!file ||
-        !WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
-      throw std::runtime_error("no file " + name);
+    if (!writeFile(*this / name, bytes)) throw std::runtime_error("no file " + name);
     return *this / name;
   }
 

@@ -7,10 +7,13 @@
 
 namespace {
 
-using test_support::PlainForm;
-
 constexpr int stripId = 100;
-constexpr int amountId = 104;
+
+class Forms : public testing::Test {
+ protected:
+  Forms() { form.show(); }
+  test_support::PlainForm form;
+};
 
 bool waitedInVain = false;
 
@@ -24,9 +27,7 @@ DWORD WINAPI closeFromElsewhere(void* window) {
 }
 
 // A message that is sent, not posted, does not bring the loop round by itself.
-TEST(Form, TheProgramEndsHoweverItsWindowIsClosed) {
-  PlainForm form;
-  form.show();
+TEST_F(Forms, TheProgramEndsHoweverItsWindowIsClosed) {
   const UINT_PTR timer = SetTimer(nullptr, 0, 3000, giveUp);
   const HANDLE thread = CreateThread(nullptr, 0, closeFromElsewhere, form.handle(), 0, nullptr);
   windowing::runMessageLoop(form);
@@ -36,30 +37,15 @@ TEST(Form, TheProgramEndsHoweverItsWindowIsClosed) {
   CloseHandle(thread);
 }
 
-TEST(Form, CannotBeClosedBelowABox) {
-  PlainForm form;
-  form.show();
-  EnableWindow(form.handle(), FALSE);
-  SendMessageA(form.handle(), WM_CLOSE, 0, 0);
-  EXPECT_TRUE(form.loaded());
-  EnableWindow(form.handle(), TRUE);
-  SendMessageA(form.handle(), WM_CLOSE, 0, 0);
-  EXPECT_FALSE(form.loaded());
+TEST_F(Forms, CannotBeClosedBelowABox) {
+  for (const bool takesInput : {false, true}) {
+    EnableWindow(form.handle(), takesInput);
+    SendMessageA(form.handle(), WM_CLOSE, 0, 0);
+    EXPECT_NE(form.loaded(), takesInput);
+  }
 }
 
-TEST(Form, AnAccessKeySelectsTheTextOfItsBox) {
-  PlainForm form;
-  form.show();
-  const windowing::Control box = form.control(amountId);
-  box.setText("12");
-  SendMessageA(form.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box.handle()), TRUE);
-  EXPECT_TRUE(box.focused());
-  EXPECT_EQ(box.send(EM_GETSEL), MAKELONG(0, 2));
-}
-
-TEST(Form, PassesNewSystemColoursOnToItsControls) {
-  PlainForm form;
-  form.show();
+TEST_F(Forms, PassNewSystemColoursOnToTheirControls) {
   const HWND strip = form.control(stripId).handle();
   UpdateWindow(strip);
   ASSERT_FALSE(GetUpdateRect(strip, nullptr, FALSE));

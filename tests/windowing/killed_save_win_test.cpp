@@ -16,6 +16,7 @@ namespace windowing {
 namespace {
 
 using support::bytesOf;
+using support::putFile;
 using test_support::ScratchFolder;
 
 constexpr char documentVariable[] = "TELLARY_KILLED_DOCUMENT";
@@ -28,24 +29,24 @@ std::string variable(const char* name) {
   return text;
 }
 
-// A full document; those of two marks differ in every line.
-void fill(document::ContactList& list, char mark) {
+// The bytes of a full document; those of two marks differ in every line.
+std::string documentOf(char mark) {
   std::string text;
   for (int contact = 0; contact < document::ContactList::maxCount; ++contact) {
     const std::string number = std::to_string(contact);
     for (int line = 0; line < document::fieldCount; ++line)
       text.append("\"").append(1, mark).append(number).append("\"\r\n");
   }
-  document::read(text, list);
-}
-
-std::string textOf(const document::ContactList& list) {
-  std::string text;
-  document::write(list, [&](std::string_view piece) { text += piece; });
   return text;
 }
 
-void truncateAndWrite(const std::string& path, const document::ContactList& list) {
+void saveSafely(const std::string& path, const document::ContactList& list) {
+  FileCalls files;
+  replaceFile(
+      path, [&](const FileSink& sink) { document::write(list, sink); }, files);
+}
+
+void saveByTruncating(const std::string& path, const document::ContactList& list) {
   FileCalls files;
   const FileHandle file(files.open(path, GENERIC_WRITE, CREATE_ALWAYS));
   document::write(list, [&](std::string_view piece) {
@@ -59,103 +60,70 @@ void truncateAndWrite(const std::string& path, const document::ContactList& list
 const bool writer = [] {
   const std::string path = variable(documentVariable);
   if (path.empty()) return false;
-  const bool safely = variable(mannerVariable) == "safely";
+  const auto save = variable(mannerVariable) == "safely" ? saveSafely : saveByTruncating;
   document::ContactList lists[2];
-  fill(lists[0], 'a');
-  fill(lists[1], 'b');
-  FileCalls files;
+  document::read(documentOf('a'), lists[0]);
+  document::read(documentOf('b'), lists[1]);
   SetEvent(OpenEventA(EVENT_MODIFY_STATE, FALSE, startedEvent));
-  for (int turn = 1;; turn = 1 - turn) {
-    if (safely) {
-      replaceFile(
-          path, [&](const FileSink& sink) { document::write(lists[turn], sink); }, files);
-    } else {
-      truncateAndWrite(path, lists[turn]);
-    }
-  }
+  for (int turn = 1;; turn = 1 - turn) save(path, lists[turn]);
 }();
 
-class Killing {
- public:
-  Killing() {
-    fill(list_, 'a');
-    old_ = textOf(list_);
-    fill(list_, 'b');
-    new_ = textOf(list_);
-    SetEnvironmentVariableA(documentVariable, path_.c_str());
-  }
-  ~Killing() {
+class KilledSave : public testing::Test {
+ protected:
+  ~KilledSave() override {
     CloseHandle(started_);
     SetEnvironmentVariableA(documentVariable, nullptr);
-    SetEnvironmentVariableA(mannerVariable, nullptr);
   }
 
   /// Lets a writer save, kills it at a moment of its own, and answers whether the file is a
   /// whole document.
-  [[nodiscard]] bool survivesAKill(const char* manner) {
+  [[nodiscard]] bool survives(const char* manner) {
+    SetEnvironmentVariableA(documentVariable, path_.c_str());
     SetEnvironmentVariableA(mannerVariable, manner);
-    support::putFile(path_, old_);
+    putFile(path_, old_);
     char program[MAX_PATH] = {};
     GetModuleFileNameA(nullptr, program, sizeof program);
     STARTUPINFOA start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION child{};
-    if (!CreateProcessA(program, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                        &child))
-      return false;
-    const bool began = WaitForSingleObject(started_, 30000) == WAIT_OBJECT_0;
+    EXPECT_TRUE(CreateProcessA(program, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                               &start, &child));
+    EXPECT_EQ(WaitForSingleObject(started_, 30000), WAIT_OBJECT_0);
     Sleep(std::uniform_int_distribution<DWORD>(0, 200)(random_));
-    const bool killed = TerminateProcess(child.hProcess, 9) != FALSE;
+    EXPECT_TRUE(TerminateProcess(child.hProcess, 9));
     WaitForSingleObject(child.hProcess, 30000);
     CloseHandle(child.hThread);
     CloseHandle(child.hProcess);
-    EXPECT_TRUE(began && killed);
     const std::string now = bytesOf(path_);
     if (now == new_) ++renewed_;
     return now == old_ || now == new_;
   }
 
-  [[nodiscard]] int renewed() const { return renewed_; }
-  /// Whether a save after all this succeeds and leaves the document alone in its folder.
-  [[nodiscard]] bool recovers() {
-    FileCalls files;
-    replaceFile(
-        path_, [&](const FileSink& sink) { document::write(list_, sink); }, files);
-    return bytesOf(path_) == new_ && folder_.names().size() == 1;
-  }
-
- private:
   ScratchFolder folder_;
   const std::string path_ = folder_ / "Friends.tly";
-  document::ContactList list_;
-  std::string old_;
-  std::string new_;
+  const std::string old_ = documentOf('a');
+  const std::string new_ = documentOf('b');
   HANDLE started_ = CreateEventA(nullptr, FALSE, FALSE, startedEvent);
   std::mt19937 random_{std::random_device{}()};
   int renewed_ = 0;
 };
 
-TEST(KilledSave, LeavesAWholeDocumentWhereAWriterThatTruncatesLosesIt) {
+TEST_F(KilledSave, LeavesAWholeDocumentWhereAWriterThatTruncatesLosesIt) {
+  ASSERT_FALSE(writer);
   const std::string wanted = variable("TELLARY_KILLS");
   const int kills = wanted.empty() ? 50 : std::atoi(wanted.c_str());
-  Killing killing;
-  int lost = 0;
-  for (int i = 0; i < kills; ++i) lost += killing.survivesAKill("safely") ? 0 : 1;
-  ASSERT_FALSE(writer);
-  EXPECT_EQ(lost, 0) << "of " << kills;
-  // Some kills came after a whole save, or they proved nothing.
-  EXPECT_GT(killing.renewed(), 0);
-  EXPECT_TRUE(killing.recovers());
+  for (int i = 0; i < kills; ++i) ASSERT_TRUE(survives("safely")) << "kill " << i + 1;
+  EXPECT_GT(renewed_, 0) << "no kill came after a whole save: they prove nothing";
+  document::ContactList list;
+  document::read(new_, list);
+  saveSafely(path_, list);
+  EXPECT_TRUE(bytesOf(path_) == new_);
+  EXPECT_EQ(folder_.names().size(), 1U) << "the next save clears what the killed left behind";
 
-  int truncated = 0;
-  int tries = 0;
-  while (truncated == 0 && tries < kills) {
-    ++tries;
-    truncated += killing.survivesAKill("truncating") ? 0 : 1;
+  int tries = 1;
+  while (survives("truncating")) {
+    ASSERT_LT(tries++, kills) << "the kills do not hit a writer that is known to lose documents";
   }
-  EXPECT_GT(truncated, 0) << "the kills do not hit a writer that is known to lose documents";
-  std::printf("%d kills: %d documents lost, %d renewed; the truncating writer lost one at try %d\n",
-              kills, lost, killing.renewed(), tries);
 }
 
 }  // namespace

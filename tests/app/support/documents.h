@@ -3,9 +3,7 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "library/identifiers.h"
@@ -17,7 +15,7 @@ using Contact = std::array<std::string, 28>;
 
 // Places in a contact that tests speak of by name.
 constexpr std::size_t surname = 0, firstNames = 1, homeEmail = 13, homeWebsite = 14,
-                      workWebsite = 23, other1 = 24, comments = 26, company = 27;
+                      workWebsite = 23, comments = 26, company = 27;
 
 /// The box that shows each text of a contact.
 constexpr std::array<int, 28> boxOf = [] {
@@ -34,23 +32,16 @@ constexpr std::array<int, 28> boxOf = [] {
   return boxes;
 }();
 
-/// A contact with a text in every field; the texts tell the fields and the `number` apart.
-inline Contact fullContact(int number) {
-  Contact contact;
-  for (std::size_t i = 0; i < contact.size(); ++i)
-    contact[i]
-        .append("c")
-        .append(std::to_string(number))
-        .append(" field ")
-        .append(std::to_string(i + 1));
-  contact[homeWebsite] = "http://home" + std::to_string(number) + ".example/";
-  contact[workWebsite] = "http://work" + std::to_string(number) + ".example/";
-  return contact;
-}
-
+/// Contacts with a text in every field, all of them different.
 inline std::vector<Contact> fullContacts(int count) {
-  std::vector<Contact> contacts;
-  for (int number = 1; number <= count; ++number) contacts.push_back(fullContact(number));
+  std::vector<Contact> contacts(static_cast<std::size_t>(count));
+  for (std::size_t contact = 0; contact < contacts.size(); ++contact) {
+    const std::string number = std::to_string(contact + 1);
+    for (std::size_t field = 0; field < contacts[contact].size(); ++field)
+      contacts[contact][field] = "c" + number + " field " + std::to_string(field + 1);
+    contacts[contact][homeWebsite] = "http://home" + number + ".example/";
+    contacts[contact][workWebsite] = "http://work" + number + ".example/";
+  }
   return contacts;
 }
 
@@ -60,11 +51,6 @@ inline std::string bytesOf(const std::vector<Contact>& contacts) {
   for (const Contact& contact : contacts)
     for (const std::string& text : contact) bytes.append("\"").append(text).append("\"\r\n");
   return bytes;
-}
-
-/// What the name box shows for a contact.
-inline std::string nameOf(const Contact& contact) {
-  return contact[firstNames] + " " + contact[surname];
 }
 
 /// What the status bar shows for contact `number` (from 1) of `count`.

@@ -12,11 +12,16 @@
 #include "library/identifiers.h"
 #include "tests/app/support/documents.h"
 #include "tests/app/support/program_win.h"
+#include "tests/support/scratch_folder_win.h"
+#include "tests/support/scratch_registry_win.h"
 
 namespace drive {
 
 class AppTest : public testing::Test {
  protected:
+  /// Reads and writes the texts of the real registry.
+  using Registry = test_support::ScratchRegistry;
+
   void SetUp() override;
   void TearDown() override;
 
@@ -30,30 +35,36 @@ class AppTest : public testing::Test {
   /// Closes the program's window, with nothing to ask about, and waits for its end.
   void close();
 
+  [[nodiscard]] const std::string& folder() const { return scratch_.path(); }
   /// Full path of a file in the scratch folder.
-  [[nodiscard]] std::string path(const std::string& name) const { return folder_ + "\\" + name; }
-  [[nodiscard]] const std::string& folder() const { return folder_; }
+  [[nodiscard]] std::string path(const std::string& name) const { return scratch_ / name; }
   /// Writes a file in the scratch folder; its full path.
-  std::string write(const std::string& name, const std::string& bytes) const;
+  std::string write(const std::string& name, const std::string& bytes) const {
+    return scratch_.file(name, bytes);
+  }
   /// All bytes of a file; nothing when there is none.
-  [[nodiscard]] static std::optional<std::string> read(const std::string& file);
-  [[nodiscard]] static bool exists(const std::string& file);
+  [[nodiscard]] static std::optional<std::string> read(const std::string& file) {
+    return test_support::readFile(file);
+  }
+  /// The sample document that comes with the program.
+  [[nodiscard]] static std::string sample() {
+    return windowsPath(environment("TELLARY_SAMPLES")) + "\\friends.tly";
+  }
 
+  /// What the title shows of a document.
+  [[nodiscard]] static std::string titleOf(const std::string& file) {
+    return "Tellary - (" + file + ")";
+  }
   /// Expects the texts of `contact` on screen.
   void expectShown(const Contact& contact) const;
   /// Expects what a new document looks like: one empty contact, unmodified, no name.
   void expectUntitled() const;
 
-  /// A text value of the program's settings; nothing when there is none.
-  [[nodiscard]] static std::optional<std::string> setting(const std::string& section,
-                                                          const std::string& value);
-  static void storeSetting(const std::string& section, const std::string& value,
-                           const std::string& text);
+  /// A text of the program's settings; "(none)" when there is none.
+  [[nodiscard]] static std::string setting(const std::string& section, const std::string& value);
 
  private:
-  void tellWhatIsThere() const;
-
-  std::string folder_;
+  test_support::ScratchFolder scratch_;
   std::unique_ptr<Program> program_;
 };
 
@@ -69,13 +80,5 @@ class KeyAside {
   HKEY root_;
   std::string key_;
 };
-
-/// Writes a text value of the registry, and its key where there is none.
-void storeRegistryText(HKEY root, const std::string& key, const std::string& value,
-                       const std::string& text);
-
-/// A text value of the registry; nothing when there is none.
-[[nodiscard]] std::optional<std::string> registryText(HKEY root, const std::string& key,
-                                                      const std::string& value);
 
 }  // namespace drive

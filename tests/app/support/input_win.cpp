@@ -94,21 +94,20 @@ void Program::click(HWND at, POINT place) const {
   settle();
 }
 
-RECT Program::buttonPlace(int commandId) const {
-  const HWND bar = control(id::TBARMAIN);
-  const RemoteBuffer place(processId_, sizeof(RECT));
-  if (send(bar, TB_GETRECT, static_cast<WPARAM>(commandId), place.address()) == 0)
+POINT Program::buttonPlace(int commandId) const {
+  const RemoteBuffer place(processId_);
+  if (send(control(id::TBARMAIN), TB_GETRECT, static_cast<WPARAM>(commandId), place.address()) == 0)
     throw std::runtime_error("the toolbar has no button " + std::to_string(commandId));
-  return place.value<RECT>();
+  return middleOf(place.value<RECT>());
 }
 
 void Program::clickButton(int commandId) const {
-  click(control(id::TBARMAIN), middleOf(buttonPlace(commandId)));
+  click(control(id::TBARMAIN), buttonPlace(commandId));
 }
 
 void Program::hover(int commandId) const {
   const HWND bar = control(id::TBARMAIN);
-  POINT place = middleOf(buttonPlace(commandId));
+  POINT place = buttonPlace(commandId);
   PostMessageA(bar, WM_MOUSEMOVE, 0, pointParam(place));
   ClientToScreen(bar, &place);
   SetCursorPos(place.x, place.y);
@@ -122,7 +121,7 @@ void Program::pointAway() const {
 
 void Program::clickTab(int index) const {
   const HWND tabs = control(id::TABMAIN);
-  const RemoteBuffer place(processId_, sizeof(RECT));
+  const RemoteBuffer place(processId_);
   send(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(index), place.address());
   click(tabs, middleOf(place.value<RECT>()));
 }

@@ -1,76 +1,61 @@
 #include "tests/app/support/picture_win.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <cstdio>
-#include <vector>
+#include "tests/support/files_win.h"
 
 namespace drive {
 
 namespace {
 
-// Pixels of a part of the screen from the bottom row up, their fourth byte set.
-std::vector<std::uint32_t> pixelsOf(const RECT& place, BITMAPINFO& info) {
-  const int width = place.right - place.left, height = place.bottom - place.top;
-  info.bmiHeader.biSize = sizeof info.bmiHeader;
-  info.bmiHeader.biWidth = width;
-  info.bmiHeader.biHeight = height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  const HDC screen = GetDC(nullptr);
-  const HDC memory = CreateCompatibleDC(screen);
-  void* bits = nullptr;
-  const HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-  const HGDIOBJ old = SelectObject(memory, bitmap);
-  BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
-  GdiFlush();
-  const auto* first = static_cast<const std::uint32_t*>(bits);
-  std::vector<std::uint32_t> pixels(first, first + width * height);
-  SelectObject(memory, old);
-  DeleteObject(bitmap);
-  DeleteDC(memory);
-  ReleaseDC(nullptr, screen);
-  for (std::uint32_t& pixel : pixels) pixel |= 0xFF000000;
-  return pixels;
+template <typename T>
+std::string bytesOf(const T& value) {
+  return {reinterpret_cast<const char*>(&value), sizeof value};
 }
 
-RECT placeOf(HWND window) {
-  RECT place{};
-  GetWindowRect(window, &place);
-  return place;
+// Pixels of a part of the screen from the bottom row up, as bytes.
+std::string pixelsOf(const RECT& place, const BITMAPINFO& info) {
+  const LONG width = info.bmiHeader.biWidth, height = info.bmiHeader.biHeight;
+  const windowing::WindowDc screen(nullptr);
+  const windowing::MemoryDc memory(CreateCompatibleDC(screen.get()));
+  void* bits = nullptr;
+  const windowing::BitmapHandle bitmap(
+      CreateDIBSection(memory.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  const windowing::Selected selected(memory.get(), bitmap.get());
+  BitBlt(memory.get(), 0, 0, width, height, screen.get(), place.left, place.top, SRCCOPY);
+  GdiFlush();
+  return {static_cast<const char*>(bits),
+          static_cast<std::size_t>((width * 3 + 3) / 4 * 4 * height)};
 }
 
 }  // namespace
 
-bool screenShows(HWND window) {
-  BITMAPINFO info{};
-  const std::vector<std::uint32_t> pixels = pixelsOf(placeOf(window), info);
-  return !std::equal(pixels.begin() + 1, pixels.end(), pixels.begin());
-}
-
 bool takePicture(HWND window, const std::string& file) {
-  if (!screenShows(window)) return false;
+  RECT place{};
+  GetWindowRect(window, &place);
   BITMAPINFO info{};
+  info.bmiHeader = {sizeof info.bmiHeader,
+                    place.right - place.left,
+                    place.bottom - place.top,
+                    1,
+                    24,
+                    BI_RGB,
+                    0,
+                    0,
+                    0,
+                    0,
+                    0};
   // What the program drew arrives on the screen a little later.
-  constexpr DWORD pause = 60;
-  std::vector<std::uint32_t> pixels, before;
+  std::string pixels, before;
   for (int i = 0; i < 20 && (pixels.empty() || pixels != before); ++i) {
-    Sleep(pixels.empty() ? 0 : pause);
+    Sleep(60);
     before = std::move(pixels);
-    pixels = pixelsOf(placeOf(window), info);
+    pixels = pixelsOf(place, info);
   }
-
-  std::FILE* const stream = std::fopen(file.c_str(), "wb");
-  if (stream == nullptr) return false;
   BITMAPFILEHEADER header{};
-  const auto size = static_cast<DWORD>(pixels.size() * sizeof pixels.front());
   header.bfType = 0x4D42;
   header.bfOffBits = sizeof header + sizeof info.bmiHeader;
-  header.bfSize = header.bfOffBits + size;
-  const bool written = std::fwrite(&header, sizeof header, 1, stream) == 1 &&
-                       std::fwrite(&info.bmiHeader, sizeof info.bmiHeader, 1, stream) == 1 &&
-                       std::fwrite(pixels.data(), size, 1, stream) == 1;
-  return std::fclose(stream) == 0 && written;
+  header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
+  return pixels.find_first_not_of('\0') != std::string::npos &&
+         test_support::writeFile(file, bytesOf(header) + bytesOf(info.bmiHeader) + pixels);
 }
 
 }  // namespace drive

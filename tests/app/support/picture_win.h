@@ -7,9 +7,6 @@
 
 namespace drive {
 
-/// Whether there is anything to be seen where `window` is.
-[[nodiscard]] bool screenShows(HWND window);
-
 /// Saves what the screen shows of `window`, and of what lies over it, as a bitmap `file`. False
 /// when there is nothing to be seen, or the file cannot be written.
 bool takePicture(HWND window, const std::string& file);

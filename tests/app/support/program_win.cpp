@@ -12,6 +12,8 @@ namespace id = library::id;
 namespace {
 
 constexpr char formClass[] = "TellaryForm";
+constexpr int nameField = 0x47C;  // of a file dialog
+constexpr UINT getFolderPath = WM_USER + 102;
 
 std::string classOf(HWND window) {
   char name[64] = {};
@@ -110,14 +112,12 @@ std::string picturesFolder() {
 }
 
 HWND waitForMainWindow() {
-  std::vector<HWND> found;
+  HWND found = nullptr;
   waitFor("a main window", [&found] {
-    found = windowsThat(nullptr, [](HWND window) {
-      return classOf(window) == formClass && IsWindowVisible(window);
-    });
-    return !found.empty();
+    found = FindWindowA(formClass, nullptr);
+    return IsWindowVisible(found);
   });
-  return found.front();
+  return found;
 }
 
 // --- Dialogs ---
@@ -131,17 +131,12 @@ std::string Dialog::message() const {
   return text == nullptr ? std::string() : textOf(text);
 }
 
-namespace {
-constexpr int nameField = 0x47C;
-constexpr UINT getFolderPath = WM_USER + 102;
-}  // namespace
-
 std::string Dialog::fileName() const {
   return textOf(GetDlgItem(window_, nameField));
 }
 
 std::string Dialog::folder() const {
-  const RemoteBuffer buffer(processOf(window_), MAX_PATH);
+  const RemoteBuffer buffer(processOf(window_));
   sendWithin(window_, getFolderPath, MAX_PATH, buffer.address());
   return buffer.text();
 }
@@ -267,7 +262,7 @@ void Program::enter(int controlId, const std::string& newText) const {
 }
 
 std::string Program::status() const {
-  const RemoteBuffer buffer(processId_, 1024);
+  const RemoteBuffer buffer(processId_);
   send(control(id::SBMAIN), SB_GETTEXTA, 0, buffer.address());
   return buffer.text();
 }
@@ -295,10 +290,6 @@ bool Program::buttonEnabled(int commandId) const {
   return send(control(id::TBARMAIN), TB_ISBUTTONENABLED, static_cast<WPARAM>(commandId)) != 0;
 }
 
-int Program::page() const {
-  return static_cast<int>(send(control(id::TABMAIN), TCM_GETCURSEL));
-}
-
 int Program::focus() const {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;
@@ -306,22 +297,12 @@ int Program::focus() const {
   return GetDlgCtrlID(info.hwndFocus);
 }
 
-HWND Program::findWindow(const char* windowClass) const {
-  const auto windows = windowsThat(nullptr, [&](HWND window) {
-    return processOf(window) == processId_ && classOf(window) == windowClass &&
+HWND Program::findDialog() const {
+  const auto windows = windowsThat(nullptr, [this](HWND window) {
+    return processOf(window) == processId_ && classOf(window) == "#32770" &&
            IsWindowVisible(window) && IsWindowEnabled(window);
   });
   return windows.empty() ? nullptr : windows.front();
-}
-
-HWND Program::findDialog() const {
-  return findWindow("#32770");
-}
-
-std::string Program::tooltip() const {
-  HWND tip = nullptr;
-  waitFor("a tooltip", [&] { return (tip = findWindow(TOOLTIPS_CLASSA)) != nullptr; });
-  return textOf(tip);
 }
 
 Dialog Program::dialog() const {
@@ -341,25 +322,6 @@ std::string Program::answer(int button) const {
   box.press(button);
   settle();
   return said;
-}
-
-std::string Program::describe() const {
-  std::string lines;
-  const auto line = [&lines](HWND window, const char* indent) {
-    char text[120] = {};
-    DWORD_PTR ignored = 0;
-    SendMessageTimeoutA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text),
-                        SMTO_ABORTIFHUNG, 1000, &ignored);
-    lines += indent + classOf(window) + " " + std::to_string(GetDlgCtrlID(window)) +
-             (IsWindowEnabled(window) ? "" : " disabled") + " '" + text + "'\n";
-  };
-  for (const HWND top :
-       windowsThat(nullptr, [this](HWND w) { return processOf(w) == processId_; })) {
-    if (!IsWindowVisible(top)) continue;
-    line(top, "");
-    for (const HWND child : windowsThat(top, IsWindowVisible)) line(child, "  ");
-  }
-  return lines;
 }
 
 }  // namespace drive

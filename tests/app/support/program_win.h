@@ -26,7 +26,6 @@ void waitFor(const std::string& what, const std::function<bool()>& met);
 class Dialog {
  public:
   explicit Dialog(HWND window) : window_(window) {}
-  [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] std::string title() const;
   /// The text of a message box.
   [[nodiscard]] std::string message() const;
@@ -79,7 +78,6 @@ class Program {
   [[nodiscard]] int chosenName() const;
   [[nodiscard]] bool buttonEnabled(int command) const;
   [[nodiscard]] bool modified() const { return buttonEnabled(library::id::SAVE); }
-  [[nodiscard]] int page() const;
   /// Identifier of the control with the focus, 0 for none.
   [[nodiscard]] int focus() const;
 
@@ -90,15 +88,12 @@ class Program {
   void key(WORD key, WORD with = 0) const;
   void holdKey(WORD key, int repeats, WORD with = 0) const;
   void type(const std::string& text) const;
-  void click(HWND at, POINT place) const;
   void clickButton(int command) const;
   void clickTab(int index) const;
   /// Moves the pointer over a button of the toolbar without pressing it.
   void hover(int command) const;
   /// Moves the pointer to a far corner of the screen.
   void pointAway() const;
-  /// Waits for a tooltip; its text.
-  [[nodiscard]] std::string tooltip() const;
   void bringToFront() const;
 
   // Dialogs of the program.
@@ -107,14 +102,11 @@ class Program {
   /// Waits for a message box, checks nothing, presses `button`; its title, "|", and its text.
   std::string answer(int button) const;
 
-  /// All windows of the program as text, for a failing test.
-  [[nodiscard]] std::string describe() const;
-
  private:
+  void click(HWND at, POINT place) const;
   [[nodiscard]] HWND findDialog() const;
-  [[nodiscard]] HWND findWindow(const char* windowClass) const;
   void attach();
-  [[nodiscard]] RECT buttonPlace(int command) const;
+  [[nodiscard]] POINT buttonPlace(int command) const;
 
   HANDLE process_ = nullptr;
   DWORD processId_ = 0;

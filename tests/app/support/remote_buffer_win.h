@@ -4,23 +4,15 @@
 
 #include <windows.h>
 
-#include <stdexcept>
 #include <string>
 
 namespace drive {
 
 class RemoteBuffer {
  public:
-  RemoteBuffer(DWORD processId, std::size_t size)
-      : process_(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE,
-                             processId)),
-        size_(size) {
-    if (process_ != nullptr)
-      memory_ = VirtualAllocEx(process_, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-    if (memory_ == nullptr) {
-      CloseHandle(process_);
-      throw std::runtime_error("no memory in the program's process");
-    }
+  explicit RemoteBuffer(DWORD processId)
+      : process_(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ, FALSE, processId)),
+        memory_(VirtualAllocEx(process_, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)) {
   }
   RemoteBuffer(const RemoteBuffer&) = delete;
   RemoteBuffer& operator=(const RemoteBuffer&) = delete;
@@ -29,29 +21,24 @@ class RemoteBuffer {
     CloseHandle(process_);
   }
 
+  static constexpr std::size_t size = 1024;
   [[nodiscard]] LPARAM address() const { return reinterpret_cast<LPARAM>(memory_); }
-
   template <typename T>
   [[nodiscard]] T value() const {
     T read{};
     ReadProcessMemory(process_, memory_, &read, sizeof read, nullptr);
     return read;
   }
-  template <typename T>
-  void put(const T& written) const {
-    WriteProcessMemory(process_, memory_, &written, sizeof written, nullptr);
-  }
   /// Up to the first NUL.
   [[nodiscard]] std::string text() const {
-    std::string read(size_, '\0');
-    ReadProcessMemory(process_, memory_, read.data(), size_, nullptr);
-    return read.substr(0, read.find('\0'));
+    char read[size + 1] = {};
+    ReadProcessMemory(process_, memory_, read, size, nullptr);
+    return read;
   }
 
  private:
   HANDLE process_;
-  std::size_t size_;
-  void* memory_ = nullptr;
+  void* memory_;
 };
 
 }  // namespace drive
