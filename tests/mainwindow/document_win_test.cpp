@@ -1,7 +1,6 @@
 // The commands that act on the document as a whole, with every prompt and each answer.
 #include <gtest/gtest.h>
 
-#include "library/clsLibrary_win.h"
 #include "library/identifiers.h"
 #include "tests/support/main_window_win.h"
 
@@ -10,36 +9,21 @@ namespace {
 namespace id = library::id;
 using test_support::MainWindowTest;
 using test_support::Names;
-using test_support::ScratchRegistry;
 
-constexpr char itemsKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\frmMain\\Items";
-constexpr char viewKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\frmMain\\View";
+class Document : public MainWindowTest {};
 
-class Document : public MainWindowTest {
- protected:
-  [[nodiscard]] std::string stored(const char* value) const {
-    return ScratchRegistry::text(registry.user(), itemsKey, value);
-  }
-};
-
-TEST_F(Document, OpeningShowsTheFirstContactAndRemembersTheFolder) {
-  const std::string path = contactsFile({"Ash", "Birch"});
-  open(path);
-  EXPECT_EQ(text(id::LBLDESC), "Tellary - (" + path + ")");
-  EXPECT_EQ(form.documentPath(), path);
+TEST_F(Document, OpenAsksForDocumentsWhereTheLastOneWas) {
+  open(contactsFile({"Ash", "Birch"}));
   EXPECT_EQ(text(id::textItem(0)), "Ash");
-  EXPECT_FALSE(form.modified());
-  EXPECT_EQ(stored("CMD Open Folder"), scratch.path());
-  EXPECT_EQ(stored("CMD Save Folder"), "(none)");
-  ASSERT_EQ(dialogs.size(), 1U);
-  EXPECT_EQ(dialogs[0].title, "Open");
-  EXPECT_EQ(dialogs[0].fileName, "");
-  EXPECT_EQ(dialogs[0].flags, 0x280004U);
-  EXPECT_EQ(dialogs[0].extension, "tly");
-  EXPECT_EQ(dialogs[0].filter, "Tellary Document (*.tly)|*.tly");
   run(id::OPEN);
+  ASSERT_EQ(dialogs.size(), 2U);
+  EXPECT_EQ(dialogs[1].title, "Open");
+  EXPECT_EQ(dialogs[1].fileName, "");
   EXPECT_EQ(dialogs[1].folder, scratch.path());
-  EXPECT_EQ(form.documentPath(), path) << "a cancelled dialog changes nothing";
+  EXPECT_EQ(dialogs[1].flags, 0x280004U);
+  EXPECT_EQ(dialogs[1].extension, "tly");
+  EXPECT_EQ(dialogs[1].filter, "Tellary Document (*.tly)|*.tly");
+  EXPECT_EQ(text(id::textItem(0)), "Ash") << "a cancelled dialog changes nothing";
 }
 
 TEST_F(Document, NewAndOpenAskAboutUnsavedWorkAndObeyTheAnswer) {
@@ -48,10 +32,7 @@ TEST_F(Document, NewAndOpenAskAboutUnsavedWorkAndObeyTheAnswer) {
     for (const int answer : {IDCANCEL, IDNO, IDYES}) {
       SCOPED_TRACE(std::to_string(command) + " answered " + std::to_string(answer));
       boxes.clear();
-      answers.clear();
-      files.clear();
       open(path);
-      type(id::textItem(0), answer == IDYES ? "Ash" : "Alder");
       form.SETSAVE("TRUE");
       answers.push_back(answer);
       run(command);
