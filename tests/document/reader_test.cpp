@@ -66,19 +66,6 @@ TEST(Reader, Items) {
   }
 }
 
-TEST(Reader, PutsEachItemIntoItsField) {
-  ContactList list;
-  const ReadOutcome outcome = read(lines(28) + lines(28, "second "), list);
-  EXPECT_EQ(outcome.result, ReadResult::whole);
-  ASSERT_EQ(outcome.contacts, 2);
-  for (const Field& field : fields) {
-    const std::string text = std::to_string(field.filePosition) + "\r\n, x";
-    EXPECT_EQ(list.field(0, field.slot), text);
-    EXPECT_EQ(list.field(1, field.slot), "second " + text);
-    EXPECT_EQ(list.field(2, field.slot), "");
-  }
-}
-
 TEST(Reader, ReplacesTheList) {
   ContactList list;
   ASSERT_EQ(read(lines(28 * 3), list).contacts, 3);

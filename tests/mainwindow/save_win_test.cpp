@@ -50,6 +50,10 @@ class Saving : public test_support::MainWindowTest {
     calls_.failAt(call, failure);
     run(id::SAVE);
   }
+  /// Keeps everybody else from the file.
+  [[nodiscard]] HANDLE hold() const {
+    return CreateFileA(path_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  }
   /// Whether the only box so far tells that the document could not be saved.
   [[nodiscard]] bool failureTold() const {
     return boxes.size() == 1 &&
@@ -102,8 +106,7 @@ TEST_F(Saving, AReadOnlyOrHeldFileIsKeptAndSavedOnceItIsFree) {
   EXPECT_TRUE(failureTold());
   SetFileAttributesA(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
 
-  const HANDLE held =
-      CreateFileA(path_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  const HANDLE held = hold();
   save();
   EXPECT_TRUE(failureTold());
   CloseHandle(held);
@@ -153,6 +156,7 @@ TEST_F(Saving, WhatWasNotReadWholeIsNeverWrittenOver) {
     save();
     EXPECT_TRUE(form.modified());
     files = {path_, scratch / ".\\FRIENDS.tly", copy};
+    answers = {IDOK, IDYES};  // who is asked to overwrite would agree
     save();
     EXPECT_EQ(boxes.size(), 2U);
     EXPECT_EQ(bytesOf(path_), kept);
@@ -165,8 +169,7 @@ TEST_F(Saving, WhatWasNotReadWholeIsNeverWrittenOver) {
 
 TEST_F(Saving, AFileThatCouldNotBeOpenedIsNotWrittenOverEither) {
   open(contacts(1, "e"));
-  const HANDLE held =
-      CreateFileA(path_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  const HANDLE held = hold();
   form.openNamedAtStart(path_);
   EXPECT_EQ(form.contacts().count(), 0);
   run(id::ADD);

@@ -79,9 +79,9 @@ class PageSetup : public testing::Test {
     SendMessageA(GetParent(chosen), WM_COMMAND, MAKEWPARAM(control, CBN_SELCHANGE),
                  reinterpret_cast<LPARAM>(chosen));
   }
-  /// A letter with Alt, as the message loop hands it on.
-  static void access(char letter) {
-    MSG pressed{GetFocus(), WM_SYSKEYDOWN, static_cast<WPARAM>(letter), 1, 0, {}};
+  /// A key as the message loop hands it on.
+  static void press(WPARAM key, UINT message = WM_KEYDOWN) {
+    MSG pressed{GetFocus(), message, key, 1, 0, {}};
     windowing::dispatchMessage(pressed);
   }
   [[nodiscard]] std::string margins() const {
@@ -254,18 +254,6 @@ TEST_F(PageSetup, CancelWritesNothingButChoicesStay) {
   EXPECT_EQ(ticks(), "1111111111");
 }
 
-TEST_F(PageSetup, OKWithoutAPaperChosenLeavesThePaper) {
-  for (const char* margin : {"2.0", "3.0"}) {
-    form_.load();
-    EXPECT_EQ(list(id::CBOPAPER).selected(), 0);
-    type(id::UDNLEFT, margin);
-    click(id::BTNOK);
-    EXPECT_EQ(printer().paperSize(), 1);
-    EXPECT_EQ(library::modLibrary().paperCode, "0");
-  }
-  EXPECT_TRUE(boxes_.empty());
-}
-
 TEST_F(PageSetup, DefaultsShowAndStoreNothing) {
   for (const char* edge : edges) storeMargin(edge, "2.5");
   for (const StoredOption& option : storedOptions)
@@ -328,6 +316,9 @@ TEST_F(PageSetup, StoredStatesOfEveryKind) {
       EXPECT_EQ(ScratchRegistry::text(settings_.user(), keyOf(storedOption(option)),
                                       storedOption(option).valueName),
                 std::to_string(shown));
+    // No paper was chosen: none is given to the printer.
+    EXPECT_EQ(remembered(), std::string("1|") + TestPrinters::letter + "|0");
+    EXPECT_EQ(printer().paperSize(), 1);
   }
   // The first click ends the third state for good.
   storeOption(storedOption(Option::title), "2");
@@ -341,7 +332,8 @@ TEST_F(PageSetup, StoredStatesOfEveryKind) {
 TEST_F(PageSetup, BoxesLeadTheirItemsAndAllChangesEnableOK) {
   for (std::size_t i = 0; i < std::size(items); ++i) {
     reload();
-    form_.selectTab("HEADERFOOTER");
+    form_.control(id::TABSTRIP1).send(WM_KEYDOWN, VK_RIGHT);
+    EXPECT_FALSE(form_.control(id::FRAMPAGE).visible());
     click(items[i]);
     EXPECT_TRUE(accepts()) << items[i];
     for (std::size_t k = 0; k < std::size(items); ++k)
@@ -404,30 +396,34 @@ TEST_F(PageSetup, MarginsAreLimitedByThePaperAndTypingGoesOn) {
   EXPECT_TRUE(stored().starts_with("4.9|0.0|3.7|1.0|")) << stored();
 }
 
-TEST_F(PageSetup, SharedAccessKeysTakeTurns) {
+TEST_F(PageSetup, KeysReachEverything) {
   form_.show();
-  form_.control(id::TABSTRIP1).send(WM_KEYDOWN, VK_RIGHT);
-  EXPECT_TRUE(form_.control(id::FRAMHEADERFOOTER).visible());
-  EXPECT_FALSE(form_.control(id::FRAMPAGE).visible());
-  const struct {
-    char letter;
-    std::vector<int> inTurn;
-  } cases[] = {{'T', {id::CHKHEADTITLE, id::CHKHEADTIME, id::CHKHEADTITLE}},
-               {'D', {id::CHKHEADDATE, id::BTNDEFAULTSHF, id::CHKHEADDATE}},
-               {'F', {id::CHKFOOTER, id::CHKFOOTFIELD1, id::CHKFOOTFIELD2, id::CHKFOOTER}}};
-  for (const auto& [letter, inTurn] : cases) {
+  form_.selectTab("HEADERFOOTER");
+  // Controls that share a letter take turns, and are not clicked.
+  for (const auto& [letter, inTurn] :
+       {std::pair{'T', std::vector{id::CHKHEADTITLE, id::CHKHEADTIME, id::CHKHEADTITLE}},
+        {'D', {id::CHKHEADDATE, id::BTNDEFAULTSHF, id::CHKHEADDATE}}}) {
     form_.control(id::TABSTRIP1).focus();
     for (const int expected : inTurn) {
-      access(letter);
+      press(static_cast<WPARAM>(letter), WM_SYSKEYDOWN);
       EXPECT_EQ(GetDlgCtrlID(GetFocus()), expected) << letter;
     }
   }
   EXPECT_EQ(ticks(), "1111111111");
-  // In a text the letters are text.
   form_.control(id::TXTHEADTITLE).focus();
-  MSG typed{GetFocus(), WM_KEYDOWN, 'T', 1, 0, {}};
-  windowing::dispatchMessage(typed);
-  EXPECT_TRUE(form_.control(id::TXTHEADTITLE).focused());
+  press('T');
+  EXPECT_TRUE(form_.control(id::TXTHEADTITLE).focused()) << "letters of a text";
+
+  press(VK_RETURN);
+  EXPECT_TRUE(form_.loaded()) << "nothing to accept";
+  type(id::UDNLEFT, "2.0");
+  press(VK_RETURN);
+  EXPECT_FALSE(form_.loaded());
+  form_.show();
+  type(id::UDNLEFT, "3.0");
+  press(VK_ESCAPE);
+  EXPECT_FALSE(form_.loaded());
+  EXPECT_TRUE(stored().starts_with("2.0|")) << stored();
 }
 
 TEST_F(PageSetup, PlaceIsKept) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "pagesetup/paper_table.h"
-
 namespace pagesetup {
 namespace {
 
@@ -14,13 +12,6 @@ void expectBox(const Box& box, const Box& expected) {
   EXPECT_NEAR(box.top, expected.top, 1e-6);
   EXPECT_NEAR(box.width, expected.width, 1e-6);
   EXPECT_NEAR(box.height, expected.height, 1e-6);
-}
-
-TEST(PaperTable, CodesThatDifferFromThoseOfWindowsAreTheFamilys) {
-  const std::pair<int, int> cases[] = {{1, 0},   {9, 1},    {261, 4},  {269, 9}, {19, 12},
-                                       {31, 16}, {259, 17}, {256, 21}, {0, -1},  {-1, -1},
-                                       {7, -1},  {34, -1},  {263, -1}, {300, -1}};
-  for (const auto& [code, index] : cases) EXPECT_EQ(paperIndex(code), index) << code;
 }
 
 TEST(SamplePage, StripsCountInWholeInchesByWayOfTenths) {
