@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "windowing/runtime_error.h"
 
 namespace pagesetup {
@@ -27,19 +29,13 @@ Page letterPage() {
 
 // Commands as text: "x,y-x text" with "-" before the end of a line.
 std::string drawn(const HeaderFooterOptions& options, const Page& page) {
-  std::string all;
-  const auto number = [](double value) {
-    std::string text = std::to_string(value);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
-    return text;
-  };
+  std::ostringstream all;
   for (const DrawCommand& command : headerAndFooter(options, page)) {
-    all += number(command.x) + ',' + number(command.y);
-    all += command.kind == DrawCommand::Kind::line ? '-' + number(command.toX) : ' ' + command.text;
-    all += '|';
+    all << command.x << ',' << command.y;
+    if (command.kind == DrawCommand::Kind::line) all << '-' << command.toX;
+    all << (command.kind == DrawCommand::Kind::text ? " " : "") << command.text << '|';
   }
-  return all;
+  return all.str();
 }
 
 TEST(HeaderAndFooter, StandWhereTheFamilyPutsThem) {
