@@ -206,9 +206,15 @@ TEST_F(Properties, FiguresOfTheDocumentsText) {
   form_.UPDATEINFO();
   EXPECT_EQ(figures(), "2|55|327|55|");
   // Margins are shared with the maker's other products.
-  storeMargin(marginKey, "2", "0.5");
-  form_.UPDATEINFO();
-  EXPECT_EQ(figures(), "1|55|327|55|");
+  const struct {
+    const char *edge, *inches, *figures;
+  } margins[] = {
+      {"2", "0.5", "1|55|327|55|"}, {"3", "8", "4|55|327|55|"}, {"3", "11", "55|55|327|55|"}};
+  for (const auto& margin : margins) {
+    storeMargin(marginKey, margin.edge, margin.inches);
+    form_.UPDATEINFO();
+    EXPECT_EQ(figures(), margin.figures) << margin.inches;
+  }
 
   // Words wrap between the side margins; the left one is looked for where it is never written.
   report = "a word and ";
@@ -273,7 +279,7 @@ TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
 }
 
 TEST_F(Properties, ComesBackWhereItWasLeft) {
-  show(folder_.file("a.tly"), "DOCUMENT");
+  form_.load();
   RECT place = form_.outerPixels();
   OffsetRect(&place, 31, -27);
   form_.moveOuter(place);
@@ -282,15 +288,12 @@ TEST_F(Properties, ComesBackWhereItWasLeft) {
   EXPECT_EQ(form_.outerPixels().left, place.left);
   EXPECT_EQ(form_.outerPixels().top, place.top);
   form_.unload();
-  // A stored place that is none does not keep the dialog from opening.
+  // A stored place that is none does not keep the dialog from opening; Esc closes it.
   ScratchRegistry::putText(registry_.user(), placeKey, "Left", "far");
   form_.load();
-  for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
-    form_.load();
-    PostMessageA(form_.control(id::TXTLOCATION).handle(), WM_KEYDOWN, key, 0);
-    form_.showModal();
-    EXPECT_FALSE(form_.loaded());
-  }
+  PostMessageA(form_.control(id::TXTLOCATION).handle(), WM_KEYDOWN, VK_ESCAPE, 0);
+  form_.showModal();
+  EXPECT_FALSE(form_.loaded());
 }
 
 }  // namespace

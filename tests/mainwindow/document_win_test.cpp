@@ -1,4 +1,7 @@
 // The commands that act on the document as a whole, with every prompt and each answer.
+#include <windows.h>
+
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include "library/identifiers.h"
@@ -86,6 +89,8 @@ TEST_F(Document, AShownBarLeavesNothingUnpainted) {
 // Other captions and menus chosen in the system's settings change the room inside the window.
 TEST_F(Document, ThePartsFitTheRoomInside) {
   const RECT designed = form.outerPixels();
+  RECT lastTab{};
+  form.control(id::TABMAIN).send(TCM_GETITEMRECT, 2, reinterpret_cast<LPARAM>(&lastTab));
   EXPECT_LE(designed.bottom - designed.top, 512);
   for (const int more : {-10, 0, 30}) {
     SCOPED_TRACE(more);
@@ -99,8 +104,11 @@ TEST_F(Document, ThePartsFitTheRoomInside) {
     EXPECT_EQ(form.control(id::SBMAIN).pixels().bottom, inside.bottom);
     EXPECT_EQ(body.bottom, form.control(id::SBMAIN).pixels().top);
     EXPECT_LE(tabs.bottom, body.bottom - body.top);
-    for (const int frame : {id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK})
-      EXPECT_LE(form.control(frame).pixels().bottom, tabs.bottom);
+    for (const int page : {id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK}) {
+      const RECT frame = form.control(page).pixels();
+      EXPECT_GE(frame.top, tabs.top + lastTab.bottom);
+      EXPECT_LE(frame.bottom, tabs.bottom);
+    }
   }
 }
 
