@@ -13,13 +13,18 @@ using test_support::MainWindowTest;
 
 class Contacts : public MainWindowTest {};
 
-TEST_F(Contacts, AddingToAnEmptyListTakesNothingFromTheDocumentBefore) {
+TEST_F(Contacts, AddingStoresWhatIsOnScreenInItsOwnContact) {
   open(contactsFile({"Ash"}));
   open(scratch.file("empty.tly"));
   EXPECT_EQ(text(id::textItem(0)), "");
   run(id::ADD);
+  EXPECT_EQ(form.contacts().nameEntry(0), " ") << "nothing of the document before";
+  type(id::textItem(0), "Birch");
+  EXPECT_EQ(form.contacts().nameEntry(0), " ") << "not before the contact is left";
+  run(id::ADD);
+  EXPECT_EQ(form.contacts().nameEntry(0), " Birch");
+  EXPECT_EQ(form.contacts().nameEntry(1), " ");
   EXPECT_EQ(text(id::textItem(0)), "");
-  EXPECT_EQ(form.contacts().nameEntry(0), " ");
 }
 
 // A visit without edits leaves every byte: what no box can carry, too.
