@@ -31,7 +31,7 @@ TEST(MenuText, PartsOfACaption) {
 TEST(MenuText, KeysChooseItems) {
   std::vector<MenuEntry> entries = {
       {"&Save"}, {"&Print", false}, {"", true, true}, {"Save &As"},
-      {"200 %"}, {"25 %"},          {"&Send"},        {"Page &Width\tCtrl+Q"}};
+      {"200 %"}, {"25 %"},          {"&Send"},        {"Quite &Wide\tCtrl+Q"}};
   const struct {
     char key;
     int highlighted;  // -1: none

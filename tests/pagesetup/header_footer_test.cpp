@@ -117,13 +117,15 @@ TEST(HeaderAndFooter, OverflowInSixteenBits) {
     }
     EXPECT_EQ(overflowed, c.overflows) << &c - cases;
   }
-  HeaderFooterOptions footerAlone;
-  footerAlone[Option::footer] = "1";
+  HeaderFooterOptions options = defaults();
+  options[Option::header] = "0";
   Page page = letterPage();
   page.margins.top = -32768;
-  EXPECT_NO_THROW((void)headerAndFooter(footerAlone, page)) << "what is off is not computed";
+  EXPECT_NO_THROW((void)headerAndFooter(options, page)) << "what is off is not computed";
+  options = {};
+  options[Option::footer] = "1";
   page.height = 32767 + 1441;
-  EXPECT_THROW((void)headerAndFooter(footerAlone, page), windowing::RuntimeError)
+  EXPECT_THROW((void)headerAndFooter(options, page), windowing::RuntimeError)
       << "the base itself has 16 bits";
 }
 
