@@ -62,6 +62,8 @@ TEST_F(Spin, KeysWheelAndButtonsStep) {
     SendMessageA(arrows, WM_LBUTTONUP, 0, MAKELPARAM(area.right / 2, y));
     EXPECT_EQ(box.text(), shown(expected));
   }
+  spin.setValue(0.75);
+  EXPECT_EQ(box.text(), shown("0.8"));
 }
 
 TEST_F(Spin, TypingIsCheckedAndAlwaysLeavesANumber) {
