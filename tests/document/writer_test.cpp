@@ -96,7 +96,7 @@ TEST(Writer, WritesEveryContactAnewThatIsNotAsItWouldWriteIt) {
   ContactList list;
   ASSERT_EQ(read(text, list).result, ReadResult::whole);
   ASSERT_EQ(list.count(), contacts);
-  list.remove(20);
+  list.remove(21);
   list.remove(6);
   list.store(10, Slot::Comments, "changed");
   ASSERT_TRUE(list.append());
