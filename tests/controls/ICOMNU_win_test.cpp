@@ -17,14 +17,13 @@ namespace {
 constexpr windowing::ImageStrip strips[] = {{16, IDB_TOOLBAR16}};
 constexpr windowing::FormDesign design = {"frmTest", "Test", WS_OVERLAPPEDWINDOW, 0, 3000,
                                           2000,      {}};
-enum Number { file = 1, open, save, line, zoom, wide, narrow, view, bar };
+enum Number { file = 1, open, save, line, zoom, width, view, bar };
 
 class MenuForm : public windowing::Form {
  public:
   MenuForm() : Form(design) {
     menus.onHighlight = [this](int number) { highlights.push_back(number); };
     menus.onSystemHighlight = [this](std::uint32_t code) { systemHighlights.push_back(code); };
-    menus.setImages(images);
     load();
   }
   void build() {
@@ -33,11 +32,9 @@ class MenuForm : public windowing::Form {
     menus.AddItem(save, file, "&Save", false, false, 402, false, false);
     menus.AddItem(line, file, "", true, false, 0, true, false);
     menus.AddItem(zoom, file, "&Zoom", true, false, 0, false, false);
-    menus.AddItem(wide, zoom, "&Page Width", true, true, 403, false, false);
-    menus.AddItem(narrow, zoom, "25 %", true, false, 404, false, false);
+    menus.AddItem(width, zoom, "&Page Width", true, true, 403, false, false);
     menus.AddItem(view, 0, "&View", true, false, 0, false, true);
     menus.AddItem(bar, view, "S&tatus Bar", true, true, 405, false, false);
-    menus.ItemIcon(open, library::imageIndex("OPEN"));
   }
   HMENU createMenu() override {
     build();
@@ -53,26 +50,17 @@ class MenuForm : public windowing::Form {
                         reinterpret_cast<LPARAM>(menu));
   }
 
-  windowing::ImageList images{strips};
   ICOMNU menus;
   std::vector<int> highlights;
   std::vector<std::uint32_t> systemHighlights;
 };
-
-MENUITEMINFOA infoAt(HMENU menu, UINT position) {
-  MENUITEMINFOA info{};
-  info.cbSize = sizeof info;
-  info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_DATA;
-  GetMenuItemInfoA(menu, position, TRUE, &info);
-  return info;
-}
 
 TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
   MenuForm form;
   ICOMNU& menus = form.menus;
   menus.setEnabled(save, true);
   menus.setChecked(bar, false);
-  EXPECT_EQ(infoAt(menus.popup(view), 0).fState & MFS_CHECKED, 0u);
+  EXPECT_EQ(GetMenuState(menus.popup(view), 0, MF_BYPOSITION) & MF_CHECKED, 0U);
   menus.clear();
   EXPECT_EQ(GetMenuItemCount(menus.bar()), 0);
   for (int i = 0; i < 2; ++i) {
@@ -81,7 +69,7 @@ TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
     EXPECT_EQ(GetMenuItemCount(menus.popup(file)), 4);
     EXPECT_TRUE(menus.isEnabled(save));
     EXPECT_FALSE(menus.isChecked(bar));
-    EXPECT_EQ(infoAt(menus.popup(file), 1).fState & MFS_GRAYED, 0u);
+    EXPECT_EQ(GetMenuState(menus.popup(file), 1, MF_BYPOSITION) & MF_GRAYED, 0U);
   }
   EXPECT_EQ(GetMenu(form.handle()), menus.bar());
 }

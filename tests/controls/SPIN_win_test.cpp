@@ -36,21 +36,6 @@ class Spin : public ::testing::Test {
   }
 };
 
-TEST_F(Spin, StartsAtOneAndShowsWhatItIsSetTo) {
-  EXPECT_EQ(spin.text(), shown("1.0"));
-  EXPECT_EQ(box.text(), shown("1.0"));
-  spin.setValue(0.75);
-  EXPECT_EQ(box.text(), shown("0.8"));
-  EXPECT_DOUBLE_EQ(spin.value(), 0.8);
-  EXPECT_EQ(form.count(SPIN::changed), 1);
-  spin.setValue(0.8);
-  EXPECT_EQ(form.count(SPIN::changed), 1) << "nothing changed";
-  box.setText("2.5");
-  EXPECT_EQ(spin.text(), shown("2.5"));
-  box.setText("none");
-  EXPECT_EQ(box.text(), shown("2.5"));
-}
-
 TEST_F(Spin, KeysWheelAndButtonsStep) {
   spin.setLimits(0, 3);
   box.focus();
@@ -71,12 +56,14 @@ TEST_F(Spin, KeysWheelAndButtonsStep) {
   const HWND arrows = FindWindowExA(spin.handle(), nullptr, UPDOWN_CLASSA, nullptr);
   RECT area{};
   GetClientRect(arrows, &area);
-  SendMessageA(arrows, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(area.right / 2, 2));
-  SendMessageA(arrows, WM_LBUTTONUP, 0, MAKELPARAM(area.right / 2, 2));
-  EXPECT_EQ(box.text(), shown("1.9"));
-  SendMessageA(arrows, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(area.right / 2, area.bottom - 3));
-  SendMessageA(arrows, WM_LBUTTONUP, 0, MAKELPARAM(area.right / 2, area.bottom - 3));
-  EXPECT_EQ(box.text(), shown("1.8"));
+  const std::pair<LONG, const char*> clicks[] = {{2, "1.9"}, {area.bottom - 3, "1.8"}};
+  for (const auto& [y, expected] : clicks) {
+    SendMessageA(arrows, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(area.right / 2, y));
+    SendMessageA(arrows, WM_LBUTTONUP, 0, MAKELPARAM(area.right / 2, y));
+    EXPECT_EQ(box.text(), shown(expected));
+  }
+  spin.setValue(0.75);
+  EXPECT_EQ(box.text(), shown("0.8"));
 }
 
 TEST_F(Spin, TypingIsCheckedAndAlwaysLeavesANumber) {

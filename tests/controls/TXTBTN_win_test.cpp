@@ -24,18 +24,13 @@ class TxtBtn : public ::testing::Test {
   }};
   TXTBTN box{form.tested()};
 
-  [[nodiscard]] POINT middle() const {
-    const RECT button = box.buttonPlace();
-    return {(button.left + button.right) / 2, (button.top + button.bottom) / 2};
-  }
   void down() const {
-    const POINT at = middle();
-    const LPARAM point = MAKELPARAM(at.x, at.y);
+    const RECT button = box.buttonPlace();
+    const LPARAM point = MAKELPARAM(button.left + 2, button.top + 2);
     box.send(WM_NCLBUTTONDOWN, static_cast<WPARAM>(box.send(WM_NCHITTEST, 0, point)), point);
   }
   void up(int offset = 0) const {
-    POINT at = middle();
-    at.x += offset;
+    POINT at{box.buttonPlace().left + 2 + offset, box.buttonPlace().top + 2};
     ScreenToClient(box.handle(), &at);
     box.send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     box.send(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
@@ -97,7 +92,6 @@ TEST_F(TxtBtn, LeavingIsGoingToAnotherControlOfTheWindow) {
   up();
   EXPECT_EQ(form.count(TXTBTN::left), 1) << "its own button";
   form.control(test::beforeId).focus();
-  EXPECT_EQ(form.count(TXTBTN::left), 2);
   down();
   EXPECT_EQ(form.count(TXTBTN::left), 2);
   EXPECT_TRUE(box.focused()) << "the button takes the focus from the control before";

@@ -50,45 +50,30 @@ std::string read(const std::string& bytes) {
          std::to_string(header->height) + " " + std::to_string(header->depth);
 }
 
-struct Case {
-  std::string bytes;
-  const char* read;
-};
-
 TEST(ImageHeader, TellsTypeSidesAndDepth) {
   const std::string preview = segment(0xE1, std::string(60000, '\xFF'));
-  const Case cases[] = {
-      {bmp(3, 2, 24), "BMP 3x2 24"},
+  const std::pair<std::string, const char*> cases[] = {
       {bmp(3, 2, 1, 12), "BMP 3x2 1"},
       {bmp(65535, 65535, 4, 12), "BMP 65535x65535 4"},
       {bmp(640, 480, 8, 124), "BMP 640x480 8"},
       {bmp(10, static_cast<std::uint32_t>(-20), 32), "BMP 10x20 32"},
-      {bmp(0x7FFFFFFF, 1, 16), "BMP 2147483647x1 16"},
       {png(3, 2, 8, 2), "PNG 3x2 24"},
-      {png(3, 2, 8, 6), "PNG 3x2 32"},
       {png(3, 2, 16, 6), "PNG 3x2 64"},
       {png(300, 200, 4, 3), "PNG 300x200 4"},
-      {png(3, 2, 1, 0), "PNG 3x2 1"},
       {png(3, 2, 8, 4), "PNG 3x2 16"},
       {gif(320, 200, 0xF7), "GIF 320x200 8"},
-      {gif(320, 200, 0x80, "GIF87a"), "GIF 320x200 1"},
-      {gif(320, 200, 0x30), "GIF 320x200 4"},
+      {gif(320, 200, 0x30, "GIF87a"), "GIF 320x200 4"},
       {jpegStart + segment(0xE0, "JFIF") + frame(0xC0, 800, 600, 3), "JPEG 800x600 24"},
       {jpegStart + segment(0xC4, "tables") + frame(0xC2, 800, 600, 1), "JPEG 800x600 8"},
       {jpegStart + preview + preview + frame(0xC1, 8, 6, 4), "JPEG 8x6 32"},
-      {jpegStart + "\xFF\xFF\xFF" + frame(0xCF, 9, 9, 3, 12), "JPEG 9x9 36"},
-      {jpegStart + "\xFF\x01\xFF\xD0" + frame(0xC0, 1, 1, 3), "JPEG 1x1 24"},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(read(c.bytes), c.read);
-    // Cut anywhere, a header says nothing.
-    const std::size_t step = c.bytes.size() > 1000 ? 997 : 1;
-    for (std::size_t cut = 0; cut < c.bytes.size(); cut += step) {
-      // The components of a frame are not looked at.
-      const bool header = std::string(c.read).starts_with("JPEG") && cut + 12 >= c.bytes.size();
-      if (header) continue;
-      EXPECT_EQ(read(c.bytes.substr(0, cut)), "none") << c.read << " cut at " << cut;
-    }
+      {jpegStart + "\xFF\xFF\xFF\x01\xFF\xD0" + frame(0xCF, 9, 9, 3, 12), "JPEG 9x9 36"}};
+  for (const auto& [bytes, expected] : cases) {
+    EXPECT_EQ(read(bytes), expected);
+    // Cut anywhere, a header says nothing; but the components of a frame are not looked at.
+    const std::size_t needed = bytes.starts_with(jpegStart) ? bytes.size() - 12 : bytes.size();
+    const std::size_t step = bytes.size() > 1000 ? 997 : 1;
+    for (std::size_t cut = 0; cut < needed; cut += step)
+      EXPECT_EQ(read(bytes.substr(0, cut)), "none") << expected << " cut at " << cut;
   }
 }
 
@@ -96,14 +81,12 @@ TEST(ImageHeader, BelievesNoLies) {
   const std::string lies[] = {
       "",
       "text",
-      "MZ" + std::string(100, '\0'),
       bmp(0, 2, 24),
       bmp(3, 0, 24),
       bmp(static_cast<std::uint32_t>(-3), 2, 24),
       bmp(3, 0x80000000U, 24),
       bmp(3, 2, 0),
       bmp(3, 2, 7),
-      bmp(3, 2, 24, 0),
       bmp(3, 2, 24, 13),
       png(0, 2, 8, 2),
       png(3, 0x80000000U, 8, 2),

@@ -11,13 +11,11 @@
 namespace document {
 namespace {
 
-/// Appends contacts with the given surnames.
-void add(ContactList& list, const std::vector<std::string>& surnames) {
-  for (const std::string& surname : surnames) {
-    ASSERT_TRUE(list.append());
-    list.ClearLastRecord();
-    list.store(list.count() - 1, Slot::Surname, surname);
-  }
+/// Loads contacts with the given surnames from a file's bytes, so that none of them is changed.
+void load(ContactList& list, const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += "\"" + name + "\"" + std::string(28, '\n');
+  ASSERT_EQ(read(text, list).contacts, static_cast<int>(names.size()));
 }
 
 /// The surnames, the spare element's in brackets.
@@ -27,80 +25,42 @@ std::string surnames(const ContactList& list) {
   return all + "[" + std::string(list.field(list.count(), Slot::Surname)) + "]";
 }
 
-/// Loads contacts with the given surnames from a file's bytes, so that none of them is changed.
-void load(ContactList& list, const std::vector<std::string>& names) {
-  std::string text;
-  for (const std::string& name : names) text += "\"" + name + "\"" + std::string(28, '\n');
-  ASSERT_EQ(read(text, list).contacts, static_cast<int>(names.size()));
-}
-
-TEST(ContactList, StartsEmptyWithASpareElement) {
+TEST(ContactList, IndexesOutsideReadEmptyAndStoreNothing) {
   ContactList list;
-  EXPECT_EQ(list.count(), 0);
-  EXPECT_EQ(list.current(), 0);
   list.ClearLastRecord();
   list.remove(0);
   EXPECT_EQ(list.count(), 0);
-  list.store(0, Slot::Company, "kept in the spare element");
-  EXPECT_EQ(list.field(0, Slot::Company), "kept in the spare element");
-  EXPECT_EQ(list.nameEntry(0), " ");
-}
-
-TEST(ContactList, IndexesOutsideReadEmptyAndStoreNothing) {
-  ContactList list;
   load(list, {"a", "b"});
-  for (const int index : {-32768, -1, 3, 4, 32767}) {
+  for (const int index : {-32768, -1, 3, 32767}) {
     list.store(index, Slot::Surname, "x");
     EXPECT_EQ(list.field(index, Slot::Surname), "");
     EXPECT_EQ(list.record(index), ContactRecord{});
-    EXPECT_EQ(list.nameEntry(index), " ");
     list.remove(index);
   }
   list.remove(2);  // the spare element is no contact
   EXPECT_EQ(surnames(list), "a b []");
 }
 
-TEST(ContactList, AppendMakesTheSpareElementTheLastContact) {
-  ContactList list;
-  list.store(0, Slot::Surname, "left over");
-  ASSERT_TRUE(list.append());
-  EXPECT_EQ(surnames(list), "left over []");
-  list.ClearLastRecord();
-  EXPECT_EQ(surnames(list), " []");
-  add(list, {"b"});
-  EXPECT_EQ(surnames(list), " b []");
-}
-
-TEST(ContactList, Remove) {
-  struct Case {
-    const char* what;
+TEST(ContactList, RemoveKeepsTheOthersAndEmptiesTheSpareElement) {
+  const struct {
     std::vector<std::string> names;
     int current, index;
     const char* left;
     int currentAfter;
-  };
-  const std::vector<Case> cases{
-      {"middle of three", {"a", "b", "c"}, 1, 1, "a c []", 1},
-      {"first of three", {"a", "b", "c"}, 0, 0, "b c []", 0},
-      {"last of three", {"a", "b", "c"}, 2, 2, "a b []", 2},
-      {"last of two", {"a", "b"}, 1, 1, "a []", 0},
-      {"only one", {"a"}, 0, 0, "[]", 0},
-      {"none", {}, 0, 0, "[]", 0},
-      {"below", {"a", "b"}, 1, -1, "a b []", 1},
-  };
-  for (const Case& c : cases)
+  } cases[] = {{{"a", "b", "c"}, 1, 1, "a c []", 1},
+               {{"a", "b", "c"}, 2, 2, "a b []", 2},
+               {{"a", "b"}, 1, 1, "a []", 0},
+               {{"a"}, 0, 0, "[]", 0}};
+  for (const auto& c : cases)
     for (const bool changed : {false, true}) {
-      SCOPED_TRACE(c.what);
+      SCOPED_TRACE(c.left);
       ContactList list;
-      if (changed)
-        add(list, c.names);
-      else
-        load(list, c.names);
+      load(list, c.names);
+      for (int i = 0; changed && i < list.count(); ++i) list.store(i, Slot::Company, "changed");
       list.setCurrent(static_cast<std::int16_t>(c.current));
-      list.store(list.count(), Slot::Surname, c.names.empty() ? "" : "spare");
+      list.store(list.count(), Slot::Surname, "spare");
       list.remove(c.index);
-      const bool removed = c.index >= 0 && !c.names.empty();
-      EXPECT_EQ(surnames(list), removed || c.names.empty() ? c.left : "a b [spare]");
+      EXPECT_EQ(surnames(list), c.left);
       EXPECT_EQ(list.current(), c.currentAfter);
     }
 }
@@ -109,33 +69,23 @@ TEST(ContactList, StepsCheckNoBounds) {
   ContactList list;
   load(list, {"a", "b", "c"});
   list.GoLast();
-  EXPECT_EQ(list.current(), 2);
   list.GoNext();
   list.GoNext();
   EXPECT_EQ(list.current(), 4);
   list.GoFirst();
   list.GoPrevious();
   EXPECT_EQ(list.current(), -1);
-  EXPECT_EQ(list.record(list.current()), ContactRecord{});
-  list.clear();
-  EXPECT_EQ(list.current(), 0);
-  list.GoLast();
-  EXPECT_EQ(list.current(), -1);
-
   list.setCurrent(32767);
   EXPECT_FALSE(list.GoNext());
-  EXPECT_EQ(list.current(), 32767);
   list.setCurrent(-32768);
   EXPECT_FALSE(list.GoPrevious());
-  EXPECT_EQ(list.current(), -32768);
 }
 
 TEST(ContactList, StoreChangesOneTextOfOneContact) {
   ContactList list;
   load(list, {"a", "b"});
   const char* const inFile = list.field(0, Slot::Surname).data();
-  const std::string equal = "a";
-  list.store(0, Slot::Surname, equal);
+  list.store(0, Slot::Surname, std::string("a"));
   EXPECT_EQ(list.field(0, Slot::Surname).data(), inFile) << "an equal text is not copied";
 
   const std::string odd("NUL \0 quote \" break \r\n end", 26);
@@ -147,26 +97,11 @@ TEST(ContactList, StoreChangesOneTextOfOneContact) {
   list.store(0, Slot::Comments, list.field(0, Slot::Comments).substr(4));
   EXPECT_EQ(list.field(0, Slot::Comments), odd.substr(4));
   list.store(1, Slot::Company, list.field(1, Slot::Surname));
-  EXPECT_EQ(list.field(1, Slot::Company), "b");
-  for (int i = 0; i <= list.count(); ++i)
-    for (const Field& field : fields)
-      EXPECT_EQ(list.field(i, field.slot), list.record(i)[field.slot]);
-}
+  EXPECT_EQ(list.record(1)[Slot::Company], "b");
 
-TEST(ContactList, NameEntryIsNeverTrimmed) {
-  const struct {
-    const char *first, *last, *entry;
-  } cases[] = {{"", "", " "},
-               {"Imogen", "", "Imogen "},
-               {"", "Farthingay", " Farthingay"},
-               {" A ", " B", " A   B"}};
-  ContactList list;
-  add(list, {""});
-  for (const auto& c : cases) {
-    list.store(0, Slot::FirstNames, c.first);
-    list.store(0, Slot::Surname, c.last);
-    EXPECT_EQ(list.nameEntry(0), c.entry);
-  }
+  EXPECT_EQ(list.nameEntry(1), " b");
+  list.store(1, Slot::FirstNames, " A ");
+  EXPECT_EQ(list.nameEntry(1), " A  b") << "nothing is trimmed";
 }
 
 TEST(ContactList, FullListTakesNoMore) {
@@ -175,7 +110,6 @@ TEST(ContactList, FullListTakesNoMore) {
     list.store(i, Slot::Surname, std::to_string(i + 1));
   ASSERT_EQ(list.count(), 32767);
   EXPECT_FALSE(list.append());
-  EXPECT_EQ(list.count(), 32767);
   EXPECT_EQ(list.field(32766, Slot::Surname), "32767");
   EXPECT_EQ(list.field(32767, Slot::Surname), "");
 
@@ -183,7 +117,6 @@ TEST(ContactList, FullListTakesNoMore) {
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 10000; ++i) list.remove(100);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
-  EXPECT_EQ(list.count(), 22767);
   EXPECT_EQ(list.field(99, Slot::Surname), "100");
   EXPECT_EQ(list.field(100, Slot::Surname), "10101");
   EXPECT_TRUE(list.append());

@@ -1,6 +1,7 @@
 // The contact on screen: adding, removing, stepping and editing on the real window.
 #include <gtest/gtest.h>
 
+#include "controls/TXTBTN_win.h"
 #include "library/identifiers.h"
 #include "tests/support/failing_files_win.h"
 #include "tests/support/main_window_win.h"
@@ -9,32 +10,21 @@ namespace {
 
 namespace id = library::id;
 using test_support::MainWindowTest;
-using test_support::Names;
 
 class Contacts : public MainWindowTest {};
 
-struct Removal {
-  const char* name;
-  int at;
-  const char* shown;
-  int current;
-};
-
-TEST_F(Contacts, AddingToAnEmptyListTakesNothingFromTheDocumentBefore) {
+TEST_F(Contacts, AddingStoresWhatIsOnScreenInItsOwnContact) {
   open(contactsFile({"Ash"}));
   open(scratch.file("empty.tly"));
   EXPECT_EQ(text(id::textItem(0)), "");
   run(id::ADD);
+  EXPECT_EQ(form.contacts().nameEntry(0), " ") << "nothing of the document before";
+  type(id::textItem(0), "Birch");
+  EXPECT_EQ(form.contacts().nameEntry(0), " ") << "not before the contact is left";
+  run(id::ADD);
+  EXPECT_EQ(form.contacts().nameEntry(0), " Birch");
+  EXPECT_EQ(form.contacts().nameEntry(1), " ");
   EXPECT_EQ(text(id::textItem(0)), "");
-  EXPECT_EQ(form.contacts().nameEntry(0), " ");
-}
-
-TEST_F(Contacts, ARecordChangesOnlyWhenItIsLeft) {
-  open(contactsFile({"Ash", "Birch"}));
-  type(id::textItem(0), "Alder");
-  EXPECT_EQ(form.contacts().nameEntry(0), " Ash");
-  run(id::NEXT);
-  EXPECT_EQ(form.contacts().nameEntry(0), " Alder");
 }
 
 // A visit without edits leaves every byte: what no box can carry, too.
@@ -64,25 +54,23 @@ TEST_F(Contacts, BytesThatABoxCannotCarrySurviveAVisit) {
 
 TEST_F(Contacts, AWebAddressGetsItsSchemeWhenTheBoxIsLeft) {
   open(contactsFile({"Ash"}));
-  struct Address {
+  const struct {
+    int box;
     const char* typed;
     const char* left;
-    bool modified;
-  };
-  const Address addresses[] = {{"www.x.example", "http://www.x.example", true},
-                               {"https://x.example", "https://x.example", false},
-                               {"HTTP://X", "HTTP://X", false},
-                               {"", "", false}};
-  for (const Address& address : addresses) {
-    type(id::CBOPWEBSITE, address.typed);
+  } rows[] = {{id::CBOPWEBSITE, "www.x.example", "http://www.x.example"},
+              {id::CBOPWORKWEBSITE, "x", "http://x"},
+              {id::CBOPWEBSITE, "https://x.example", "https://x.example"},
+              {id::CBOPWEBSITE, "HTTP://X", "HTTP://X"},
+              {id::CBOPWEBSITE, "", ""},
+              {id::CBOPEMAIL, "ann", "ann"}};
+  for (const auto& [box, typed, left] : rows) {
+    type(box, typed);
     form.SETSAVE("False");
-    notice(id::CBOPWEBSITE, 0x0801);
-    EXPECT_EQ(text(id::CBOPWEBSITE), address.left);
-    EXPECT_EQ(form.modified(), address.modified) << address.typed;
+    notice(box, controls::TXTBTN::left);
+    EXPECT_EQ(text(box), left);
+    EXPECT_EQ(form.modified(), left != std::string(typed)) << typed;
   }
-  type(id::CBOPEMAIL, "ann");
-  notice(id::CBOPEMAIL, 0x0801);
-  EXPECT_EQ(text(id::CBOPEMAIL), "ann");
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // The commands that act on the document as a whole, with every prompt and each answer.
+#include <windows.h>
+
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "library/clsLibrary_win.h"
 #include "library/identifiers.h"
 #include "tests/support/main_window_win.h"
 
@@ -10,36 +12,21 @@ namespace {
 namespace id = library::id;
 using test_support::MainWindowTest;
 using test_support::Names;
-using test_support::ScratchRegistry;
 
-constexpr char itemsKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\frmMain\\Items";
-constexpr char viewKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\frmMain\\View";
+class Document : public MainWindowTest {};
 
-class Document : public MainWindowTest {
- protected:
-  [[nodiscard]] std::string stored(const char* value) const {
-    return ScratchRegistry::text(registry.user(), itemsKey, value);
-  }
-};
-
-TEST_F(Document, OpeningShowsTheFirstContactAndRemembersTheFolder) {
-  const std::string path = contactsFile({"Ash", "Birch"});
-  open(path);
-  EXPECT_EQ(text(id::LBLDESC), "Tellary - (" + path + ")");
-  EXPECT_EQ(form.documentPath(), path);
+TEST_F(Document, OpenAsksForDocumentsWhereTheLastOneWas) {
+  open(contactsFile({"Ash", "Birch"}));
   EXPECT_EQ(text(id::textItem(0)), "Ash");
-  EXPECT_FALSE(form.modified());
-  EXPECT_EQ(stored("CMD Open Folder"), scratch.path());
-  EXPECT_EQ(stored("CMD Save Folder"), "(none)");
-  ASSERT_EQ(dialogs.size(), 1U);
-  EXPECT_EQ(dialogs[0].title, "Open");
-  EXPECT_EQ(dialogs[0].fileName, "");
-  EXPECT_EQ(dialogs[0].flags, 0x280004U);
-  EXPECT_EQ(dialogs[0].extension, "tly");
-  EXPECT_EQ(dialogs[0].filter, "Tellary Document (*.tly)|*.tly");
   run(id::OPEN);
+  ASSERT_EQ(dialogs.size(), 2U);
+  EXPECT_EQ(dialogs[1].title, "Open");
+  EXPECT_EQ(dialogs[1].fileName, "");
   EXPECT_EQ(dialogs[1].folder, scratch.path());
-  EXPECT_EQ(form.documentPath(), path) << "a cancelled dialog changes nothing";
+  EXPECT_EQ(dialogs[1].flags, 0x280004U);
+  EXPECT_EQ(dialogs[1].extension, "tly");
+  EXPECT_EQ(dialogs[1].filter, "Tellary Document (*.tly)|*.tly");
+  EXPECT_EQ(text(id::textItem(0)), "Ash") << "a cancelled dialog changes nothing";
 }
 
 TEST_F(Document, NewAndOpenAskAboutUnsavedWorkAndObeyTheAnswer) {
@@ -48,10 +35,7 @@ TEST_F(Document, NewAndOpenAskAboutUnsavedWorkAndObeyTheAnswer) {
     for (const int answer : {IDCANCEL, IDNO, IDYES}) {
       SCOPED_TRACE(std::to_string(command) + " answered " + std::to_string(answer));
       boxes.clear();
-      answers.clear();
-      files.clear();
       open(path);
-      type(id::textItem(0), answer == IDYES ? "Ash" : "Alder");
       form.SETSAVE("TRUE");
       answers.push_back(answer);
       run(command);
@@ -74,7 +58,9 @@ TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
     SCOPED_TRACE(path);
     boxes.clear();
     open(path);
-    EXPECT_EQ(boxes.size(), 1U);
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].title, "Open");
+    EXPECT_NE(boxes[0].text.find("'" + path + "'"), std::string::npos) << boxes[0].text;
     EXPECT_EQ(form.contacts().count(), 0);
     EXPECT_TRUE(names().empty());
     EXPECT_EQ(text(id::textItem(0)), "");
@@ -82,19 +68,6 @@ TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
     EXPECT_FALSE(enabled(id::REMOVE));
     EXPECT_EQ(text(id::LBLDESC), "Tellary - (" + path + ")");
   }
-}
-
-// Frames keep their distance from the tab strip, and nothing reaches past the window.
-TEST_F(Document, NothingIsClipped) {
-  const RECT tabs = form.control(id::TABMAIN).pixels();
-  const RECT body = form.control(id::PICMAINBOX).pixels();
-  EXPECT_LE(tabs.bottom, body.bottom - body.top);
-  for (const int frame : {id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK}) {
-    EXPECT_LE(form.control(frame).pixels().bottom, tabs.bottom);
-    EXPECT_NEAR(form.control(frame).top() - form.control(id::TABMAIN).top(), 390, 15);
-  }
-  const RECT place = form.outerPixels();
-  EXPECT_LE(place.bottom - place.top, 512);
 }
 
 // The strips cover one another while they move, and what the system keeps of them is not enough.
@@ -114,14 +87,29 @@ TEST_F(Document, AShownBarLeavesNothingUnpainted) {
 }
 
 // Other captions and menus chosen in the system's settings change the room inside the window.
-TEST_F(Document, TheStatusBarStaysAtTheFoot) {
-  RECT place = form.outerPixels();
-  place.bottom += 30;
-  form.moveOuter(place);
-  RECT inside{};
-  GetClientRect(form.handle(), &inside);
-  EXPECT_EQ(form.control(id::SBMAIN).pixels().bottom, inside.bottom);
-  EXPECT_EQ(form.control(id::PICMAINBOX).pixels().bottom, form.control(id::SBMAIN).pixels().top);
+TEST_F(Document, ThePartsFitTheRoomInside) {
+  const RECT designed = form.outerPixels();
+  RECT lastTab{};
+  form.control(id::TABMAIN).send(TCM_GETITEMRECT, 2, reinterpret_cast<LPARAM>(&lastTab));
+  EXPECT_LE(designed.bottom - designed.top, 512);
+  for (const int more : {-10, 0, 30}) {
+    SCOPED_TRACE(more);
+    RECT place = designed;
+    place.bottom += more;
+    form.moveOuter(place);
+    RECT inside{};
+    GetClientRect(form.handle(), &inside);
+    const RECT body = form.control(id::PICMAINBOX).pixels();
+    const RECT tabs = form.control(id::TABMAIN).pixels();
+    EXPECT_EQ(form.control(id::SBMAIN).pixels().bottom, inside.bottom);
+    EXPECT_EQ(body.bottom, form.control(id::SBMAIN).pixels().top);
+    EXPECT_LE(tabs.bottom, body.bottom - body.top);
+    for (const int page : {id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK}) {
+      const RECT frame = form.control(page).pixels();
+      EXPECT_GE(frame.top, tabs.top + lastTab.bottom);
+      EXPECT_LE(frame.bottom, tabs.bottom);
+    }
+  }
 }
 
 }  // namespace

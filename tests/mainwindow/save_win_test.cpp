@@ -1,13 +1,10 @@
 // What the main window makes of a document that cannot be written, or was not read whole.
 #include <gtest/gtest.h>
 
-#include "document/reader.h"
+#include "document/fields.h"
 #include "library/identifiers.h"
-#include "mainwindow/document_file_win.h"
-#include "mainwindow/frmMain_win.h"
 #include "tests/support/failing_files_win.h"
-#include "windowing/runtime_error.h"
-#include "windowing/seams_win.h"
+#include "tests/support/main_window_win.h"
 
 namespace mainwindow {
 namespace {
@@ -18,7 +15,6 @@ using support::FailingFiles;
 using support::Failure;
 using support::putFile;
 using test_support::ScratchFolder;
-using windowing::Replaced;
 
 std::string contacts(int count, const std::string& mark) {
   std::string text;
@@ -28,66 +24,44 @@ std::string contacts(int count, const std::string& mark) {
   return text;
 }
 
-// A window on a document of its own; boxes and file dialogs answer for themselves.
-class Saving : public testing::Test {
+/// The document with another job title, the fourth text, in its first contact.
+std::string withJobTitle(const std::string& document, const std::string& title) {
+  const std::size_t lineSize = document.find('\n') + 1;
+  return document.substr(0, 3 * lineSize) + '"' + title + "\"\r\n" + document.substr(4 * lineSize);
+}
+
+class Saving : public test_support::MainWindowTest {
  protected:
-  Saving() {
-    RegCreateKeyA(HKEY_CURRENT_USER, "Software\\Tellary tests", &settings_);
-    form_.load();
-  }
+  Saving() { form.setFileCalls(calls_); }
   ~Saving() override {
-    answer_ = IDNO;
-    form_.unload();
-    MSG message{};  // the window has told the program to quit
-    PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    RegCloseKey(settings_);
+    form.SETSAVE("False");
+    form.unload();  // while its file calls are there
   }
 
   void open(const std::string& content) {
-    form_.setFileCalls(files_);
-    files_.failAt(0);
+    calls_.failAt(0);
     putFile(path_, content);
-    form_.openNamedAtStart(path_);
-    boxes_.clear();
+    form.openNamedAtStart(path_);
   }
-  void edit(const std::string& jobTitle) { form_.control(id::TXTITEMS + 3).setText(jobTitle); }
+  void edit(const std::string& jobTitle) { type(id::textItem(3), jobTitle); }
   /// Runs Save with the n-th call failing.
-  void save(int call, const Failure& failure = {}) {
-    boxes_.clear();
-    files_.failAt(call, failure);
-    form_.runCommand(id::SAVE);
+  void save(int call = 0, const Failure& failure = {}) {
+    boxes.clear();
+    calls_.failAt(call, failure);
+    run(id::SAVE);
   }
-  [[nodiscard]] int failuresTold() const {
-    int told = 0;
-    for (const std::string& text : boxes_)
-      told += text.find("There is a problem saving the document '") == 0 ? 1 : 0;
-    return told;
+  /// Keeps everybody else from the file.
+  [[nodiscard]] HANDLE hold() const {
+    return CreateFileA(path_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  }
+  /// Whether the only box so far tells that the document could not be saved.
+  [[nodiscard]] bool failureTold() const {
+    return boxes.size() == 1 &&
+           boxes[0].text.starts_with("There is a problem saving the document '");
   }
 
-  ScratchFolder folder_;
-  const std::string path_ = folder_ / "Friends.tly";
-  FailingFiles files_;
-  HKEY settings_ = nullptr;
-  int answer_ = IDYES;
-  std::vector<std::string> boxes_;
-  std::vector<std::string> chosen_;  ///< answers of the file dialog; empty is its Cancel
-  Replaced<decltype(windowing::Seams::settingsRoot)> root_{windowing::seams().settingsRoot,
-                                                           [this](HKEY) { return settings_; }};
-  Replaced<decltype(windowing::Seams::messageBox)> box_{
-      windowing::seams().messageBox,
-      [this](HWND, const std::string& text, const std::string&, UINT) {
-        boxes_.push_back(text);
-        return answer_;
-      }};
-  Replaced<decltype(windowing::Seams::fileDialog)> dialog_{
-      windowing::seams().fileDialog,
-      [this](HWND, const windowing::FileDialog&) -> std::optional<std::string> {
-        if (chosen_.empty()) return std::nullopt;
-        const std::string next = chosen_.front();
-        chosen_.erase(chosen_.begin());
-        return next;
-      }};
-  frmMain form_;
+  const std::string path_ = scratch / "Friends.tly";
+  FailingFiles calls_;
 };
 
 TEST_F(Saving, WhateverCallFailsTheDocumentStaysModifiedAndTheUserIsToldOnce) {
@@ -95,34 +69,29 @@ TEST_F(Saving, WhateverCallFailsTheDocumentStaysModifiedAndTheUserIsToldOnce) {
                               {ERROR_DISK_FULL, true, false},
                               {ERROR_DISK_FULL, true, true},
                               {ERROR_IO_DEVICE, false, true}};
-  int edits = 0;
+  const std::string before = contacts(3, "a");
   for (const Failure& failure : failures) {
     int call = 1;
     for (bool reached = true; reached; ++call) {
       SCOPED_TRACE(std::to_string(failure.error) + ", call " + std::to_string(call));
-      const std::string before = contacts(3, "a");
       open(before);
-      const std::string typed = "typed" + std::to_string(++edits);
-      edit(typed);
-      std::string after = before;
-      after.replace(before.find("\"a0\"\r\n") + 3 * 6 + 1, 2, typed);
+      edit("typed");
       save(call, failure);
-      reached = files_.calls() >= call;
-      const bool saved = !form_.modified();
-      EXPECT_EQ(bytesOf(path_), saved ? after : before);
-      EXPECT_EQ(failuresTold(), saved ? 0 : 1);
-      EXPECT_EQ(boxes_.size(), saved ? 0U : 1U);
+      reached = calls_.calls() >= call;
+      const bool saved = !form.modified();
+      EXPECT_EQ(bytesOf(path_), saved ? withJobTitle(before, "typed") : before);
+      EXPECT_EQ(boxes.empty(), saved);
+      EXPECT_NE(failureTold(), saved);
       if (!failure.onwards) {
-        EXPECT_EQ(folder_.names().size(), 1U);
+        EXPECT_EQ(scratch.names().size(), 1U);
       }
       // The cause is gone: what was typed has not been lost.
-      edit(typed + "!");
-      after.replace(after.find(typed), typed.size(), typed + "!");
-      save(0);
-      EXPECT_FALSE(form_.modified());
-      EXPECT_TRUE(boxes_.empty());
-      EXPECT_EQ(bytesOf(path_), after);
-      EXPECT_EQ(folder_.names().size(), 1U);
+      edit("more");
+      save();
+      EXPECT_FALSE(form.modified());
+      EXPECT_TRUE(boxes.empty());
+      EXPECT_EQ(bytesOf(path_), withJobTitle(before, "more"));
+      EXPECT_EQ(scratch.names().size(), 1U);
     }
     EXPECT_GT(call, 7);
   }
@@ -133,93 +102,91 @@ TEST_F(Saving, AReadOnlyOrHeldFileIsKeptAndSavedOnceItIsFree) {
   open(before);
   edit("typed");
   SetFileAttributesA(path_.c_str(), FILE_ATTRIBUTE_READONLY);
-  save(0);
-  EXPECT_EQ(failuresTold(), 1);
+  save();
+  EXPECT_TRUE(failureTold());
   SetFileAttributesA(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
 
-  const HANDLE held =
-      CreateFileA(path_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-  save(0);
-  EXPECT_EQ(failuresTold(), 1);
+  const HANDLE held = hold();
+  save();
+  EXPECT_TRUE(failureTold());
   CloseHandle(held);
   EXPECT_EQ(bytesOf(path_), before);
-  EXPECT_TRUE(form_.modified());
+  EXPECT_TRUE(form.modified());
 
   // Closing asks, is answered Yes, and stays when the save fails.
   SetFileAttributesA(path_.c_str(), FILE_ATTRIBUTE_READONLY);
-  boxes_.clear();
-  form_.runCommand(id::EXIT);
-  EXPECT_EQ(boxes_.size(), 2U);
-  EXPECT_TRUE(form_.loaded());
+  boxes.clear();
+  answers = {IDYES};
+  run(id::EXIT);
+  EXPECT_EQ(boxes.size(), 2U);
+  EXPECT_TRUE(form.loaded());
   SetFileAttributesA(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
-  save(0);
-  EXPECT_FALSE(form_.modified());
-  EXPECT_NE(bytesOf(path_).find("\"typed\""), std::string::npos);
+  save();
+  EXPECT_FALSE(form.modified());
+  EXPECT_EQ(bytesOf(path_), withJobTitle(before, "typed"));
 }
 
 TEST_F(Saving, ASaveAsThatFailsKeepsPathAndTitle) {
   open(contacts(1, "c"));
   edit("typed");
-  const std::string title = form_.control(id::LBLDESC).text();
-  boxes_.clear();
-  folder_.folder("Folder.tly");
-  for (const std::string& target : {(folder_ / "gone\\Other.tly"), (folder_ / "Folder.tly")}) {
-    chosen_ = {target};
-    form_.runCommand(id::SAVEAS);
-    EXPECT_EQ(form_.documentPath(), path_);
-    EXPECT_EQ(form_.control(id::LBLDESC).text(), title);
-    EXPECT_TRUE(form_.modified());
+  const std::string title = text(id::LBLDESC);
+  scratch.folder("Folder.tly");
+  for (const char* target : {"gone\\Other.tly", "Folder.tly"}) {
+    boxes.clear();
+    files = {scratch / target};
+    run(id::SAVEAS);
+    EXPECT_TRUE(failureTold());
+    EXPECT_EQ(form.documentPath(), path_);
+    EXPECT_EQ(text(id::LBLDESC), title);
+    EXPECT_TRUE(form.modified());
   }
-  EXPECT_EQ(failuresTold(), 2);
-  EXPECT_EQ(folder_.names(), (std::vector<std::string>{"Folder.tly", "Friends.tly"}));
+  EXPECT_EQ(scratch.names(), (std::vector<std::string>{"Folder.tly", "Friends.tly"}));
 }
 
 TEST_F(Saving, WhatWasNotReadWholeIsNeverWrittenOver) {
-  const std::string before = contacts(2, "d") + "\"broken off\"\r\n";
-  std::string otherSpelling = folder_ / ".\\FRIENDS.tly";
-  const std::string copy = folder_ / "Copy.tly";
+  const std::string copy = scratch / "Copy.tly";
   for (const bool shorterThanItSaid : {false, true}) {
-    files_.pretendedBytes = shorterThanItSaid ? 100 : 0;
-    open(shorterThanItSaid ? contacts(2, "d") : before);
-    files_.pretendedBytes = 0;
+    calls_.pretendedBytes = shorterThanItSaid ? 100 : 0;
+    open(contacts(2, "d") + (shorterThanItSaid ? "" : "\"broken off\"\r\n"));
+    calls_.pretendedBytes = 0;
     const std::string kept = bytesOf(path_);
-    EXPECT_EQ(form_.contacts().count(), 2);
+    EXPECT_EQ(form.contacts().count(), 2);
     edit("typed");
     // Cancelled, then the same file by its own and by another name, then a file of its own.
-    save(0);
-    EXPECT_TRUE(form_.modified());
-    chosen_ = {path_, otherSpelling, copy};
-    save(0);
-    EXPECT_EQ(boxes_.size(), 2U);
+    save();
+    EXPECT_TRUE(form.modified());
+    files = {path_, scratch / ".\\FRIENDS.tly", copy};
+    answers = {IDOK, IDYES};  // who is asked to overwrite would agree
+    save();
+    EXPECT_EQ(boxes.size(), 2U);
     EXPECT_EQ(bytesOf(path_), kept);
-    EXPECT_NE(bytesOf(copy).find("\"typed\""), std::string::npos);
-    EXPECT_EQ(form_.documentPath(), copy);
-    EXPECT_FALSE(form_.modified());
+    EXPECT_EQ(bytesOf(copy), withJobTitle(contacts(2, "d"), "typed"));
+    EXPECT_EQ(form.documentPath(), copy);
+    EXPECT_FALSE(form.modified());
     DeleteFileA(copy.c_str());
   }
 }
 
 TEST_F(Saving, AFileThatCouldNotBeOpenedIsNotWrittenOverEither) {
   open(contacts(1, "e"));
-  const HANDLE held =
-      CreateFileA(path_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-  form_.openNamedAtStart(path_);
-  EXPECT_EQ(form_.contacts().count(), 0);
-  form_.runCommand(id::ADD);
-  chosen_ = {path_};
-  save(0);
+  const HANDLE held = hold();
+  form.openNamedAtStart(path_);
+  EXPECT_EQ(form.contacts().count(), 0);
+  run(id::ADD);
+  files = {path_};
+  save();
   CloseHandle(held);
-  EXPECT_TRUE(form_.modified());
-  chosen_ = {path_};
-  save(0);
+  EXPECT_TRUE(form.modified());
+  files = {path_};
+  save();
   EXPECT_EQ(bytesOf(path_), contacts(1, "e"));
 
   // A name that no file has yet may be written to without a question.
   DeleteFileA(path_.c_str());
-  form_.openNamedAtStart(path_);
-  form_.runCommand(id::ADD);
-  save(0);
-  EXPECT_TRUE(boxes_.empty());
+  form.openNamedAtStart(path_);
+  run(id::ADD);
+  save();
+  EXPECT_TRUE(boxes.empty());
   EXPECT_EQ(bytesOf(path_).size(), 28U * 4);
 
   // A drive that was away when the document was opened may be back by now.
@@ -247,25 +214,23 @@ TEST_F(Saving, AFullDiskKeepsTheOldDocumentUntilThereIsRoom) {
     SCOPED_TRACE(left);
     open(before);
     ASSERT_TRUE(putFile(path, before));
-    form_.openNamedAtStart(path);
+    form.openNamedAtStart(path);
     edit("typed");
     ASSERT_TRUE(GetDiskFreeSpaceExA(disk.path().c_str(), &space, nullptr, nullptr));
     const auto room = static_cast<LONGLONG>(space.QuadPart);
     ASSERT_GT(room, size) << "the disk is too small for one save";
     ASSERT_LT(room, 64 << 20) << "this is no small disk";
     ASSERT_TRUE(putFile(filler, std::string(static_cast<std::size_t>(room - left), '#')));
-    save(0);
-    EXPECT_EQ(bytesOf(path), before);
-    EXPECT_EQ(failuresTold(), 1);
-    EXPECT_TRUE(form_.modified());
+    save();
+    EXPECT_TRUE(bytesOf(path) == before);
+    EXPECT_TRUE(failureTold());
+    EXPECT_TRUE(form.modified());
     EXPECT_EQ(disk.names().size(), 2U);
     DeleteFileA(filler.c_str());
-    save(0);
-    EXPECT_FALSE(form_.modified());
-    EXPECT_TRUE(boxes_.empty());
-    EXPECT_NE(bytesOf(path), before);
-    EXPECT_NE(bytesOf(path).find("\"typed\""), std::string::npos);
-    EXPECT_EQ(bytesOf(path).size(), before.size());  // "typed" is as long as "full0"
+    save();
+    EXPECT_FALSE(form.modified());
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_TRUE(bytesOf(path) == withJobTitle(before, "typed"));
     EXPECT_EQ(disk.names().size(), 1U);
   }
 }
