@@ -52,6 +52,28 @@ TEST_F(Contacts, BytesThatABoxCannotCarrySurviveAVisit) {
   EXPECT_EQ(support::bytesOf(path), fileOf({fields, other}));
 }
 
+// The pages out of sight are made after the window is on screen.
+TEST_F(Contacts, BoxesThatAreMadeLateShowTheContactOnScreenAndCostNoneOfIt) {
+  const std::string bytes = fileOf({{28, "first"}, {28, "second"}});
+  const std::string path = scratch.file("late.tly", bytes);
+  form.unload();
+  form.openNamedAtStart(path);
+  ASSERT_EQ(form.control(id::CBOPEMAIL).handle(), nullptr);
+  run(id::NEXT);
+  form.FILESAVEAS(path);
+  EXPECT_EQ(support::bytesOf(path), bytes);
+  type(id::textItem(0), "typed");
+  form.SETSAVE("False");
+  form.makeLateControls();
+  EXPECT_EQ(text(id::CBOPEMAIL), "second");
+  EXPECT_EQ(text(id::textItem(0)), "typed");
+  EXPECT_FALSE(form.modified());
+  type(id::CBOPEMAIL, "edited");
+  run(id::FIRST);
+  run(id::LAST);
+  EXPECT_EQ(text(id::CBOPEMAIL), "edited");
+}
+
 TEST_F(Contacts, AWebAddressGetsItsSchemeWhenTheBoxIsLeft) {
   open(contactsFile({"Ash"}));
   const struct {

@@ -191,11 +191,11 @@ TEST_F(Saving, AFileThatCouldNotBeOpenedIsNotWrittenOverEither) {
 
   // A drive that was away when the document was opened may be back by now.
   const std::string away = path_ + ".away\\e.tly";
-  form_.openNamedAtStart(away);
-  form_.runCommand(id::ADD);
+  form.openNamedAtStart(away);
+  run(id::ADD);
   CreateDirectoryA((path_ + ".away").c_str(), nullptr);
   putFile(away, contacts(1, "e"));
-  save(0);
+  save();
   EXPECT_EQ(bytesOf(away), contacts(1, "e"));
 }
 
