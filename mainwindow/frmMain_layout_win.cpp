@@ -83,6 +83,7 @@ windowing::TextBox frmMain::TXTITEMS(int index) const {
 }
 
 void frmMain::onLoad() {
+  arrangeable_ = false;
   windowing::setMainWindow(handle());
   library::modLibrary().showAbout = [] { dialogs::frmAbout().showModal(); };
   SetWindowTextA(handle(), windowing::productName().c_str());
@@ -118,6 +119,7 @@ void frmMain::onLoad() {
   SETSAVE("False");
   loading_ = false;
   startNewDocument();
+  arrangeable_ = true;
   layOut();
   setFirstFocus(TXTITEMS(1));
 }
@@ -176,11 +178,10 @@ void frmMain::layOut() {
   arrange();
 }
 
-// The room inside changes with the height of captions and menus, too.
+// The room inside changes with the height of captions and menus, too. While the menus are built
+// anew there is nothing to go by.
 void frmMain::onSize() {
-  // Before everything is made, and while the menus are built anew, there is nothing to go by.
-  const bool ready = SBMAIN().handle() != nullptr && ICOMNU->numberOf(id::STANDARDBAR) != 0;
-  if (ready) arrange();
+  if (arrangeable_ && ICOMNU->numberOf(id::STANDARDBAR) != 0) arrange();
 }
 
 // Strips from the top, the status bar at the foot, the body in what is left.
