@@ -206,15 +206,13 @@ void clsPrinting::setZoom(std::string_view text) {
 void clsPrinting::ZOOMIN() {
   const std::string now = selectedText(host_.CBOPGZOOM());
   const std::string_view next = zoomedIn(now);
-  if (next != now) setZoom(next);
-  UpdateZoomControls();
+  if (next != now) setZoom(next);  // brings the controls in step, too
 }
 
 void clsPrinting::ZOOMOUT() {
   const std::string now = selectedText(host_.CBOPGZOOM());
   const std::string_view next = zoomedOut(now);
-  if (next != now) setZoom(next);
-  UpdateZoomControls();
+  if (next != now) setZoom(next);  // brings the controls in step, too
 }
 
 void clsPrinting::ZOOMSEL() {

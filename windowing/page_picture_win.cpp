@@ -17,12 +17,15 @@ namespace {
 // out whatever its mode.
 int fineness(const SIZE& shown) {
   constexpr std::int64_t mostPixels = 16'000'000;
-  constexpr std::int64_t smallPage = 200'000;  // in pixels; letters are hardly more than dots
+  constexpr std::int64_t smallPage = 300'000;  // in pixels; letters are hardly more than dots
   const std::int64_t pixels = std::int64_t{shown.cx} * shown.cy;
   int factor = pixels < smallPage ? 4 : 3;
   while (factor > 1 && pixels * factor * factor > mostPixels) --factor;
   return factor;
 }
+
+// The largest surface that is made to fit two pictures of different shapes.
+constexpr LONG mostKept = 4'000'000;
 
 // Rows that are drawn at once, so that a large picture takes no more memory than a small one.
 int rowsAtOnce(LONG width, int factor) {
@@ -30,11 +33,14 @@ int rowsAtOnce(LONG width, int factor) {
   return std::max<int>(1, pixels / (width * factor * factor));
 }
 
+}  // namespace
+
 // A bitmap in memory whose pixels can be reached directly, rows from the top.
 class PixelSurface {
  public:
   explicit PixelSurface(const SIZE& size)
-      : count_(static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy)),
+      : size_(size),
+        count_(static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy)),
         dc_(CreateCompatibleDC(nullptr)) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -54,10 +60,12 @@ class PixelSurface {
     if (bitmap_) SelectObject(dc_.get(), old_);
   }
   [[nodiscard]] bool usable() const { return bits_ != nullptr; }
+  [[nodiscard]] const SIZE& size() const { return size_; }
   [[nodiscard]] HDC dc() const { return dc_.get(); }
   [[nodiscard]] std::span<std::uint32_t> pixels() const { return {bits_, count_}; }
 
  private:
+  SIZE size_;
   std::size_t count_;
   std::uint32_t* bits_ = nullptr;
   MemoryDc dc_;
@@ -65,7 +73,22 @@ class PixelSurface {
   HGDIOBJ old_ = nullptr;
 };
 
-}  // namespace
+PagePicture::PagePicture() = default;
+
+PagePicture::~PagePicture() {
+  finish();
+}
+
+// Kept from one drawing to the next: the system takes longer to find fresh memory than to draw.
+PixelSurface* PagePicture::surface(const SIZE& size) const {
+  const SIZE had = surface_ ? surface_->size() : SIZE{};
+  if (had.cx < size.cx || had.cy < size.cy) {
+    const SIZE both{std::max(had.cx, size.cx), std::max(had.cy, size.cy)};
+    surface_.reset();
+    surface_ = std::make_unique<PixelSurface>(both.cx <= mostKept / both.cy ? both : size);
+  }
+  return surface_->usable() ? surface_.get() : nullptr;
+}
 
 void PagePicture::resize(double width, double height) {
   width_ = width;
@@ -99,17 +122,17 @@ void PagePicture::draw(HDC device, const RECT& place, const RECT& part) const {
   const int factor = fineness(whole);
   const int width = visible.right - visible.left;
   const int rows = std::min<int>(rowsAtOnce(width, factor), visible.bottom - visible.top);
-  const PixelSurface fine({width * factor, rows * factor});
+  const PixelSurface* fine = surface({width * factor, rows * factor});
   const PixelSurface coarse({width, rows});
-  if (!fine.usable() || !coarse.usable()) return;
+  if (fine == nullptr || !coarse.usable()) return;
   const RECT band{0, 0, width * factor, rows * factor};
   for (LONG top = visible.top; top < visible.bottom; top += rows) {
-    FillRect(fine.dc(), &band, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    FillRect(fine->dc(), &band, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     RECT page{0, 0, whole.cx * factor, whole.cy * factor};
     OffsetRect(&page, (place.left - visible.left) * factor, (place.top - top) * factor);
-    if (recording_) PlayEnhMetaFile(fine.dc(), recording_.get(), &page);
+    if (recording_) PlayEnhMetaFile(fine->dc(), recording_.get(), &page);
     GdiFlush();
-    shrinkSmoothly(fine.pixels(), coarse.pixels(), width, factor);
+    shrinkSmoothly(fine->pixels(), fine->size().cx, coarse.pixels(), width, factor);
     BitBlt(device, visible.left, top, width, std::min<int>(rows, visible.bottom - top), coarse.dc(),
            0, 0, SRCCOPY);
   }

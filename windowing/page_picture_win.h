@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <memory>
+
 #include "windowing/handles_win.h"
 #include "windowing/text_format.h"
 
@@ -16,12 +18,14 @@ struct MetafileTraits {
 };
 using MetafileHandle = UniqueHandle<MetafileTraits>;
 
+class PixelSurface;
+
 class PagePicture {
  public:
-  PagePicture() = default;
+  PagePicture();
   PagePicture(const PagePicture&) = delete;
   PagePicture& operator=(const PagePicture&) = delete;
-  ~PagePicture() { finish(); }
+  ~PagePicture();
 
   /// Size in twips. What was drawn before stays until the next `begin`.
   void resize(double width, double height);
@@ -47,11 +51,14 @@ class PagePicture {
   void setFont(const TextFormat& font) { font_ = font; }
 
  private:
+  [[nodiscard]] PixelSurface* surface(const SIZE& size) const;
+
   double width_ = 0;
   double height_ = 0;
   HDC dc_ = nullptr;
   MetafileHandle recording_;
   TextFormat font_;
+  mutable std::unique_ptr<PixelSurface> surface_;  ///< what drawing scales down from
 };
 
 }  // namespace windowing

@@ -8,7 +8,7 @@
 #include <cstdint>
 
 // The names are the compiler's.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
 extern "C" {
 
 std::uintptr_t __stack_chk_guard = 0x00FF0A0DU;  // stops text functions, should nothing better come
@@ -20,13 +20,13 @@ std::uintptr_t __stack_chk_guard = 0x00FF0A0DU;  // stops text functions, should
 }
 
 }  // extern "C"
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
 
 namespace windowing {
 namespace {
 
 // Before everything else, and not guarded itself: its own guard would change on the way.
-[[gnu::constructor(101), gnu::no_stack_protector]] void chooseGuard() {
+__attribute__((constructor(101), no_stack_protector)) void chooseGuard() {
   RtlGenRandom(&__stack_chk_guard, sizeof __stack_chk_guard);
 }
 
