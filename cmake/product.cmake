@@ -47,6 +47,9 @@ add_executable(Tellary WIN32 app/entry_win.cpp app/tellary.rc)
 target_link_libraries(Tellary PRIVATE tellary_windows)
 target_link_options(Tellary PRIVATE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
   $<$<CONFIG:Release>:-s>)
+add_test(NAME late_libraries COMMAND sh -c
+  "! ${CMAKE_OBJDUMP} -p '$<TARGET_FILE:Tellary>' | grep -iE 'DLL Name: (comdlg32|ole32|shell32|winspool)'")
+set_tests_properties(late_libraries PROPERTIES LABELS app)
 file(GLOB pictures CONFIGURE_DEPENDS app/icons/*.ico app/icons/*.bmp)
 set_source_files_properties(app/tellary.rc PROPERTIES OBJECT_DEPENDS
   "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/library/resource_ids.h;${CMAKE_SOURCE_DIR}/app/app.manifest;${pictures}")

@@ -3,7 +3,7 @@
 #
 # A GoogleTest case counts by its own lines; a case that began and never ended (a crash, a time
 # limit) has failed. A program that failed without a failed case (a leak found at its end) counts
-# as one failure. A fuzz target is one test.
+# as one failure. A program without cases, as a fuzz target, is one test.
 
 { sub(/\r$/, "") }
 
@@ -34,9 +34,10 @@
   good = $0 ~ /   Passed +[0-9.]+ sec$/
   # Left out as a whole, where the machine does not allow for it.
   if ($0 ~ /\*\*\*Skipped +[0-9.]+ sec$/) { totalSkipped++; next }
+  alone = !(program in started)
   ok = passed[program] + 0
   bad = started[program] - ok - skipped[program]
-  if (name ~ /_fuzz$/) { ok = good; bad = !good }
+  if (alone) { ok = good; bad = !good }
   if (!good && bad == 0) bad = 1
   if (!good) {
     printf "%s", output[program] > failures
