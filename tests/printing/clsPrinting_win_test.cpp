@@ -38,6 +38,8 @@ std::size_t bodyLines(const std::vector<JobPage>& pages) {
   return lines;
 }
 
+constexpr int ascent = 75;  // of letters of 10 points at 600 dots per inch
+
 class Printing : public testing::Test {
  protected:
   Printing() {
@@ -118,14 +120,30 @@ TEST_F(Printing, SendsHeaderFooterAndBodyOfEveryPage) {
 
   // Pixels of 2.4 twips from the printable corner, which lies (360, 720) twips inside.
   const JobPage& first = pages[0];
-  EXPECT_EQ(first.find("Line 1").x, (1440 - 360) * 10 / 24);
-  EXPECT_EQ(first.find("05/02").x, (1640 * 10 + 12) / 24);
-  EXPECT_EQ(first.find("Ann").x, 1740 * 10 / 24);
+  const struct {
+    const char* start;
+    double x, top;  // twips
+  } places[] = {{"05/02", 1440 + 200, 1440 - 700},
+                {"9:05", 11400 - 2500, 1440 - 700},
+                {"Tellary", (11400 - 15 * 170) / 2.0 + 400, 1440 - 700},
+                {"Ann", 1440 + 300, 14520 - 1440 + 360},
+                {"Untitled", 11400 - 4000, 14520 - 1440 + 360},
+                {"1", (11400 - 170) / 2.0, 14520 - 1440 + 360},
+                {"Line 1", 1440 - 360, 1440 - 720}};
+  for (const auto& [start, x, top] : places) {
+    EXPECT_NEAR(first.find(start).x, x / 2.4, 0.6) << start;
+    EXPECT_NEAR(first.find(start).y, top / 2.4 + ascent, 2) << start;
+  }
+  ASSERT_EQ(first.rules.size(), 2U);
+  for (const int footer : {0, 1}) {
+    const test_support::JobRule& rule = first.rules[static_cast<std::size_t>(footer)];
+    EXPECT_NEAR(rule.x, (1440 - 200) / 2.4, 0.6);
+    EXPECT_NEAR(rule.toX, (11400 - 1440) / 2.4, 0.6);
+    EXPECT_NEAR(rule.y, (footer == 1 ? 14520 - 1440 + 200 : 1440 - 300) / 2.4, 0.6);
+  }
   const int foot = (15840 - 1440 - 720) * 10 / 24;
   EXPECT_LE(first.texts.back().y, foot);
   EXPECT_GT(first.texts.back().y, foot - 120) << "the page is filled";
-  EXPECT_NEAR(first.find("Untitled").x, (11400 - 4000) / 2.4, 1.5);
-  EXPECT_NEAR(first.find("Ann").y - first.find("05/02").y, (14520 - 1440 + 360 - 740) / 2.4, 1.5);
 }
 
 TEST_F(Printing, RoundsBodyMarginsToWholeInchesAndHandsTheOthersOverCrossed) {
@@ -148,11 +166,12 @@ TEST_F(Printing, RoundsBodyMarginsToWholeInchesAndHandsTheOthersOverCrossed) {
   setMargin("1", "1");
   setMargin("3", "2");
   EXPECT_EQ(print().at(0).find("Ann").y, usual);
+  EXPECT_NEAR(print().at(0).rules.at(1).toX, (11400 - 2880) / 2.4, 1) << "it shortens the rules";
 }
 
 TEST_F(Printing, EndsSilentlyWhereMarginsAreWrong) {
   RTF1_.setPlain("Body");
-  for (const char* wrong : {"23", "x", "", "-23"}) {
+  for (const char* wrong : {"23", "x", "", "-23", "1e300"}) {
     setMargin("2", wrong);
     EXPECT_TRUE(print().empty()) << wrong;
   }
@@ -238,6 +257,9 @@ TEST_F(Printing, GoesToThePrinterThatWasChosen) {
   const std::vector<JobPage> onA4 = pagesOf(TestPrinters::a4Job());
   EXPECT_EQ(onA4.size(), 3U) << "all the pages there, not as many as there were on the other";
   EXPECT_EQ(bodyLines(onA4), 112U);
+  // Turned, the strips of 20 and 10 points lie at the left and at the top.
+  EXPECT_NEAR(onA4[0].find("Line 1").x, (1440 - 400) / 4.8, 0.6);
+  EXPECT_NEAR(onA4[0].find("Line 1").y, (1440 - 200) / 4.8 + ascent / 2.0, 2);
   printer().select(TestPrinters::letter);
 }
 
@@ -265,6 +287,10 @@ TEST_F(Printing, DrawsThePageOnShow) {
   EXPECT_NEAR(drawing.texts[6].y - printed.texts[6].y, 300, 1);
   EXPECT_NEAR(drawing.texts[2].x, ((12240 - 15 * 170) / 2.0 + 700) / 2.4, 0.6);
   EXPECT_NEAR(drawing.texts[4].x, (12240 - 5000) / 2.4, 0.6);
+  setMargin("1", "2");
+  const test_support::DrawnLine rule = draw(1).lines.at(1);
+  EXPECT_NEAR(rule.from.y, (15840 - 2880 + 200) / 2.4, 0.6) << "crossed as on paper";
+  EXPECT_NEAR(rule.to.x, (12240 - 1440) / 2.4, 0.6);
 }
 
 TEST_F(Printing, FillsTheLinesUpToTheRightMargin) {
@@ -293,6 +319,9 @@ TEST_F(Printing, ComposesTheReport) {
     ASSERT_EQ(drawing.texts.size(), 6U + 4U);
     EXPECT_EQ(drawing.texts[6].weight, FW_BOLD);
     for (std::size_t i = 7; i < 10; ++i) EXPECT_EQ(drawing.texts[i].weight, FW_NORMAL);
+    const JobPage printed = print().at(0);
+    EXPECT_TRUE(printed.texts.at(6).bold) << printed.joined();
+    EXPECT_FALSE(printed.find("Work").bold);
   }
   composeReport({}, RTF1_, thePreview().RTF3());
   EXPECT_EQ(RTF1_.length(), 1) << "one line break and nothing else";

@@ -178,8 +178,13 @@ TEST_F(Preview, TurnsPages) {
     EXPECT_NE(firstLines[2], firstLines[1]);
     EXPECT_NE(firstLines[3], firstLines[2]);
   });
-  RTF1_.setPlain("One page");
-  preview([&] { EXPECT_EQ(page() + paging(), "10000"); });
+  for (const char* text : {"Line on one page", ""}) {
+    RTF1_.setPlain(text);
+    preview([&] {
+      EXPECT_EQ(page() + paging(), "10000");
+      EXPECT_EQ(firstLineOnShow(), text);
+    });
+  }
 }
 
 TEST_F(Preview, ZoomsByMenuListAndSteps) {
@@ -396,6 +401,43 @@ TEST_F(Preview, ShowsThePagesThatArePrinted) {
       EXPECT_GT(placedLines(drawn).size(), 1U);
       EXPECT_EQ(placedLines(drawn), placedLines(printed.texts));
       thePreview().runCommand(id::NEXT);
+    }
+  });
+}
+
+TEST_F(Preview, ShowsTheWordsWhereTheyArePrintedAtEveryZoom) {
+  std::string text;  // lines far enough from each other to be told apart at the smallest size
+  for (int line = 1; line <= 11; ++line) text += "Line\r\n\r\n\r\n\r\n\r\n";
+  RTF1_.setPlain(text);
+  preview([&] {
+    PageView& view = thePreview().PICWINDOW();
+    const auto drawing = test_support::drawingOf(thePreview().PICSTDPAGE().recording());
+    for (int zoom = id::ZOOM200; zoom <= id::ZOOMWP; ++zoom) {
+      thePreview().runCommand(zoom);
+      view.scrollTo({0, 0});
+      const windowing::WindowDc shown(view.handle());
+      const RECT page = view.pagePixels();
+      const double scale = (page.bottom - page.top) / 6600.0;
+      // Darkest of what is shown of a part of the page, from 0 black to 255 white.
+      const auto darkest = [&](int left, int top, int right, int bottom) {
+        const auto pixels = [scale](int onPaper) { return static_cast<int>(onPaper * scale); };
+        int found = 255;
+        for (int y = page.top + pixels(top); y < page.top + pixels(bottom); ++y)
+          for (int x = page.left + pixels(left); x < page.left + pixels(right); ++x)
+            found = std::min<int>(found, GetRValue(GetPixel(shown.get(), x, y)));
+        return found;
+      };
+      int seen = 0;
+      const double visible = screenPixels(view.size().visibleHeight());
+      for (const auto& [words, left, base, weight, width, colour] : drawing.texts) {
+        if (words != "Line" || page.top + (base + 300) * scale > visible) continue;
+        ++seen;
+        EXPECT_LT(darkest(left, base - 80, left + width, base), 180) << zoom;
+        EXPECT_EQ(darkest(left, base + 80, left + width, base + 300), 255) << zoom;
+        EXPECT_EQ(darkest(left + width + 100, base - 80, left + 1000, base), 255) << zoom;
+      }
+      EXPECT_EQ(seen == 11, zoom == id::ZOOM25 || zoom == id::ZOOMWP) << zoom;
+      EXPECT_GE(seen, 1) << zoom;
     }
   });
 }

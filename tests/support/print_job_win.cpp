@@ -38,6 +38,7 @@ JobText JobPage::find(const std::string& start) const {
 std::vector<JobPage> pagesOf(const std::string& postScript) {
   std::vector<JobPage> pages;
   int glyphs = 0;  // since the last move
+  bool bold = false;
   std::istringstream lines(postScript);
   for (std::string line; std::getline(lines, line);) {
     if (line.rfind("%%Page:", 0) == 0) {
@@ -46,13 +47,19 @@ std::vector<JobPage> pagesOf(const std::string& postScript) {
     }
     if (pages.empty()) continue;
     JobPage& page = pages.back();
-    if (endsWith(line, " moveto")) {
+    if (endsWith(line, " findfont")) {
+      bold = line.find("Bold") != std::string::npos;
+    } else if (endsWith(line, " moveto")) {
       JobText text;
+      text.bold = bold;
       std::istringstream(line) >> text.x >> text.y;
       // A text that was spread has a move before each of its characters.
       const bool goesOn = glyphs == 1 && page.texts.back().y == text.y;
       if (!goesOn) page.texts.push_back(text);
       glyphs = 0;
+    } else if (endsWith(line, " lineto") && !page.texts.empty()) {
+      const JobText& from = page.texts.back();
+      page.rules.push_back({from.x, from.y, std::stoi(line)});
     } else if (endsWith(line, " glyphshow") && !page.texts.empty()) {
       page.texts.back().text += characterOf(line.substr(1, line.find(' ') - 1));
       ++glyphs;

@@ -12,10 +12,19 @@ struct JobText {
   int x = 0;
   int y = 0;
   std::string text;
+  bool bold = false;
+};
+
+/// A line across the page.
+struct JobRule {
+  int x = 0;
+  int y = 0;
+  int toX = 0;
 };
 
 struct JobPage {
   std::vector<JobText> texts;
+  std::vector<JobRule> rules;
   /// All texts in the order in which they were drawn, "|" between them.
   [[nodiscard]] std::string joined() const;
   /// The first text that begins with `start`; one at (-1, -1) when there is none.

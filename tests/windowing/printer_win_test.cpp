@@ -44,8 +44,17 @@ TEST(NoPrinter, EveryOperationRaisesAPrinterError) {
   EXPECT_EQ(errorOf([&] { none.setPaperSize(1); }), printerError);
   EXPECT_EQ(errorOf([&] { none.newPage(); }), printerError);
   EXPECT_EQ(errorOf([&] { none.endDocument(); }), 0) << "there is nothing to end";
-  const TestPrinters printers;
-  EXPECT_EQ(none.name(), TestPrinters::letter) << "as soon as there is one it is found";
+  {
+    const TestPrinters printers;
+    EXPECT_EQ(none.name(), TestPrinters::letter) << "as soon as there is one it is found";
+  }
+  // Taken away while it is in use, it refuses all, and what it was set to stays.
+  EXPECT_EQ(errorOf([&] { none.setPaperSize(DMPAPER_A4); }), printerError);
+  EXPECT_EQ(errorOf([&] { none.setOrientation(Orientation::landscape); }), printerError);
+  EXPECT_EQ(none.paperSize(), DMPAPER_LETTER);
+  EXPECT_EQ(none.orientation(), Orientation::portrait);
+  EXPECT_EQ(errorOf([&] { none.startOutput(); }), printerError);
+  EXPECT_FALSE(none.documentOpen());
 }
 
 class Printers : public testing::Test {
