@@ -33,8 +33,8 @@ int Main() {
     form.show();
   } catch (const std::exception& error) {
     windowing::reportError(error);
+    if (!IsWindowVisible(form.handle())) return 1;
   }
-  if (!IsWindowVisible(form.handle())) return 1;
   return windowing::runMessageLoop(form);
 }
 

@@ -40,6 +40,12 @@ constexpr int askSaveBeforeClose = 6;
 constexpr int askSaveFirst = 8;
 constexpr int problemSaving = 10;
 
+// Whether there is certainly no such file. A drive that does not answer may hold one.
+bool isFree(const std::string& path, windowing::FileCalls& calls) {
+  return calls.attributes(path) == INVALID_FILE_ATTRIBUTES &&
+         GetLastError() == ERROR_FILE_NOT_FOUND;
+}
+
 constexpr char openFolderValue[] = "CMD Open Folder";
 constexpr char saveFolderValue[] = "CMD Save Folder";
 
@@ -222,7 +228,7 @@ bool frmMain::saveAs() {
     chosen =
         library::withDefaultExtension(*answer, std::string(".") + extension, windowing::isLeadByte);
     rememberFolder(saveFolderValue, chosen);
-    if (!readWhole_ && sameFile(chosen, CMD1.fileName)) {
+    if (!readWhole_ && sameFile(chosen, CMD1.fileName) && !isFree(chosen, *fileCalls_)) {
       windowing::seams().messageBox(windowing::dialogOwner(),
                                     "The document '" + chosen +
                                         "' was not read completely and is kept as it is.\r\n"

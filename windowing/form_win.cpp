@@ -116,23 +116,50 @@ void Form::load() {
   OffsetRect(&creation.place, -creation.place.left, -creation.place.top);
   create(creation);
   SetPropA(handle(), formProperty, this);
-  createControls(false);
-  lateControlsMade_ = design_.lateContainers.empty();
-  onLoad();
+  try {
+    createControls(false);
+    lateControlsMade_ = design_.lateContainers.empty();
+    onLoad();
+  } catch (...) {
+    // Half a form is none: who shows it next is told the reason, too.
+    DestroyWindow(handle());
+    throw;
+  }
 }
 
 void Form::makeLateControls() {
   KillTimer(handle(), lateControlsTimer);
   if (std::exchange(lateControlsMade_, true)) return;
-  createControls(true);
-  onLateControls();
+  try {
+    createControls(true);
+    onLateControls();
+  } catch (...) {
+    // All of them or none: a box that was made but not filled would pass for one that the user
+    // has emptied.
+    dropLateControls();
+    lateControlsMade_ = false;
+    throw;
+  }
+}
+
+void Form::dropLateControls() {
+  for (const ControlDesign& design : design_.controls) {
+    if (!isLate(design)) continue;
+    const auto made = controls_.find(design.id);
+    if (made == controls_.end()) continue;
+    DestroyWindow(made->second);
+    controls_.erase(made);
+  }
+}
+
+bool Form::isLate(const ControlDesign& design) const {
+  const auto& containers = design_.lateContainers;
+  return std::ranges::find(containers, design.container) != containers.end();
 }
 
 void Form::createControls(bool late) {
   for (const ControlDesign& design : design_.controls) {
-    const auto& lateContainers = design_.lateContainers;
-    if (late != (std::ranges::find(lateContainers, design.container) != lateContainers.end()))
-      continue;
+    if (late != isLate(design)) continue;
     const HWND container = design.container == 0 ? handle() : control(design.container).handle();
     const HWND made = createControl(design, container);
     if (made == nullptr) raiseLastError();

@@ -71,6 +71,7 @@ class Form : public Window {
   [[nodiscard]] bool loaded() const { return handle() != nullptr; }
 
   /// Makes the window, hidden, and runs the form's load handler; nothing when it is loaded.
+  /// Raises what either raises; the form is not loaded then.
   void load();
   /// Loads when needed and shows the form beside the others.
   void show();
@@ -78,7 +79,8 @@ class Form : public Window {
   /// other windows of the program take no input meanwhile.
   void showModal();
   /// Makes the controls that were left for later, if they are not made yet. A shown form does
-  /// so itself a moment after it is on screen; who needs them earlier calls this.
+  /// so itself a moment after it is on screen; who needs them earlier calls this. Raises what
+  /// keeps them from being made; none of them is there then.
   void makeLateControls();
   /// Closes the form as its close box does: asks it, runs its unload handler, destroys it.
   /// False when the form refused.
@@ -152,7 +154,9 @@ class Form : public Window {
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  [[nodiscard]] bool isLate(const ControlDesign& design) const;
   void createControls(bool late);
+  void dropLateControls();
   HWND createControl(const ControlDesign& design, HWND container);
   LRESULT dispatchCommand(WPARAM wParam, LPARAM lParam);
   void keepFocus(WPARAM wParam);

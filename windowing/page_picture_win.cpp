@@ -87,7 +87,8 @@ PixelSurface* PagePicture::surface(const SIZE& size) const {
     surface_.reset();
     surface_ = std::make_unique<PixelSurface>(both.cx <= mostKept / both.cy ? both : size);
   }
-  return surface_->usable() ? surface_.get() : nullptr;
+  if (!surface_->usable()) surface_.reset();  // the memory for it may be there next time
+  return surface_.get();
 }
 
 void PagePicture::resize(double width, double height) {

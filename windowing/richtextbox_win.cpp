@@ -93,6 +93,8 @@ HWND RichTextBox::create(HWND container, int id, const RECT& place, DWORD style)
 
 LRESULT CALLBACK RichTextBox::watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                     UINT_PTR id, DWORD_PTR box) {
+  // The font that a form gives to its controls is none for documents: empty lines would have it.
+  if (message == WM_SETFONT) return 0;
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(window, watch, id);
     // The container took the control with it, or a new one stands in for it.

@@ -197,6 +197,13 @@ TEST_F(Saving, AFileThatCouldNotBeOpenedIsNotWrittenOverEither) {
   putFile(away, contacts(1, "e"));
   save();
   EXPECT_EQ(bytesOf(away), contacts(1, "e"));
+
+  // A folder without the file has nothing to be kept.
+  DeleteFileA(away.c_str());
+  files = {away};
+  save();
+  EXPECT_EQ(bytesOf(away).size(), 28U * 4);
+  EXPECT_TRUE(boxes.empty());
 }
 
 // A disk that is really full. It takes a small file system, which tools/full_disk.sh makes.

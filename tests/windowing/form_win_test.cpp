@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/plain_form_win.h"
+#include "windowing/runtime_error.h"
 
 namespace {
 
@@ -51,6 +52,46 @@ TEST_F(Forms, PassNewSystemColoursOnToTheirControls) {
   ASSERT_FALSE(GetUpdateRect(strip, nullptr, FALSE));
   SendMessageA(form.handle(), WM_SYSCOLORCHANGE, 0, 0);
   EXPECT_TRUE(GetUpdateRect(strip, nullptr, FALSE));
+}
+
+// A form that has trouble with the last of its controls.
+class TroubledForm : public windowing::Form {
+ public:
+  explicit TroubledForm(std::span<const int> late)
+      : Form({"frmTroubled", "", WS_OVERLAPPED, 0, 900, 900, controls, late}) {}
+  bool troubled = true;
+
+ protected:
+  HWND createCustom(const windowing::ControlDesign& design, HWND container, const RECT&) override {
+    if (troubled) throw windowing::RuntimeError(windowing::ErrorNumber::outOfMemory, "");
+    return CreateWindowA("STATIC", "", WS_CHILD, 0, 0, 9, 9, container,
+                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)), nullptr,
+                         nullptr);
+  }
+
+ private:
+  static constexpr windowing::ControlDesign controls[] = {
+      {"PAGE", 1, windowing::ControlKind::container, "", 0, 0, 900, 900},
+      {"TXTBOX", 2, windowing::ControlKind::textBox, "", 0, 0, 300, 300, 1},
+      {"LAST", 3, windowing::ControlKind::custom, "", 0, 0, 300, 300, 1},
+  };
+};
+
+// A box that stood there empty would be stored over what it should show.
+TEST(FormInTrouble, HasAllOfItsControlsOrNone) {
+  constexpr int page[] = {1};
+  TroubledForm late(page), whole({});
+  late.load();
+  EXPECT_THROW(late.makeLateControls(), windowing::RuntimeError);
+  EXPECT_EQ(GetWindow(late.control(1).handle(), GW_CHILD), nullptr);
+  EXPECT_EQ(late.control(2).handle(), nullptr);
+  EXPECT_THROW(whole.load(), windowing::RuntimeError);
+  EXPECT_FALSE(whole.loaded());
+  late.troubled = whole.troubled = false;
+  late.makeLateControls();
+  whole.load();
+  for (TroubledForm* form : {&late, &whole})
+    for (const int id : {2, 3}) EXPECT_TRUE(IsChild(form->handle(), form->control(id).handle()));
 }
 
 }  // namespace

@@ -97,6 +97,14 @@ TEST_F(RichTextBoxes, ALongTextGoesWithItsControl) {
   EXPECT_EQ(box_.format().points, 12);
 }
 
+// Empty lines before the first words have the document's format, too, in an old box and a new one.
+TEST_F(RichTextBoxes, TheFontOfAFormIsNoneForDocuments) {
+  box_.send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(SYSTEM_FONT)));
+  box_.insertLineBreak();
+  other_.insertLineBreak();
+  EXPECT_EQ(box_.richText().rtf, other_.richText().rtf);
+}
+
 TEST_F(RichTextBoxes, SelectionsCountABreakAsOne) {
   box_.setPlain("one\r\ntwo");
   box_.select({4, 3});
