@@ -80,7 +80,7 @@ std::string hexValue(std::int32_t color) {
   std::string hexadecimal = "#";
   std::string decimal;
   for (const std::int32_t part : parts) {
-    char buffer[16];
+    char buffer[16] = {};
     const char* end =
         std::to_chars(buffer, buffer + sizeof buffer, static_cast<std::uint32_t>(part), 16).ptr;
     if (end - buffer < 2) hexadecimal += '0';
@@ -166,8 +166,7 @@ std::string fileSizeText(std::uint64_t bytes, char decimalSign, char groupSepara
                 {1000000, 1048576.0, 0, "MB"},
                 {UINT64_MAX, 1073741824.0, 2, "GB"}};
   const auto size = static_cast<double>(bytes);
-  const std::string whole =
-      windowing::formatDecimals(size, 1, 0, decimalSign, groupSeparator) + " Bytes";
+  std::string whole = windowing::formatDecimals(size, 1, 0, decimalSign, groupSeparator) + " Bytes";
   if (bytes < 1024) return whole;
   const auto* range = std::find_if(std::begin(ranges), std::end(ranges), [&](const auto& row) {
     return bytes / 1024 < row.belowKilobytes;

@@ -103,7 +103,7 @@ const std::vector<Country> countries{
 
 const std::vector<std::string_view> jobs{
     "Bookbinder", "Marine surveyor", "Ma\xEEtre d'h\xF4tel", "Teacher", "Nurse", "Electrician", "Piano tuner",
-    "Attach\xE9" " de presse", "Baker", "Translator", "Gesch\xE4" "ftsf\xFChrer", "Archivist", "Bus driver"};
+    "Attach\xE9 de presse", "Baker", "Translator", "Gesch\344ftsf\374hrer", "Archivist", "Bus driver"};
 const std::vector<std::string_view> companyWords{
     "Quorvane", "Lindrath", "Pellomar", "Zarvent", "Ondrille", "Brastow", "Fj\xE4llmera", "Ch\xEAnoir", "M\xFChlrad"};
 const std::vector<std::string_view> companyTrades{
@@ -202,7 +202,7 @@ class Author {
 int main(int argc, char** argv) {
   const long count = argc > 1 ? std::strtol(argv[1], nullptr, 10) : -1;
   if (count < 0 || count > ContactList::maxCount || argc > 4) {
-    std::fputs("usage: generate_contacts COUNT [SEED [FILE]], COUNT 0 to 32767\n", stderr);
+    (void)std::fputs("usage: generate_contacts COUNT [SEED [FILE]], COUNT 0 to 32767\n", stderr);
     return 2;
   }
   Dice dice(argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1);

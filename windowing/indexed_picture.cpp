@@ -53,7 +53,7 @@ std::optional<Picture> unpackPicture(std::span<const std::byte> bitmap, Alpha al
   for (std::uint32_t y = 0; y < height; ++y) {
     const auto row = bitmap.subspan(start + y * rowSize, rowSize);
     for (std::uint32_t x = 0; x < width; ++x) {
-      std::uint32_t index = std::to_integer<std::uint32_t>(row[x * bits / 8]);
+      auto index = std::to_integer<std::uint32_t>(row[x * bits / 8]);
       if (bits == 4) index = x % 2 == 0 ? index >> 4 : index & 0xF;
       picture.pixels.push_back(palette[index]);
     }

@@ -13,6 +13,8 @@ constexpr int designDpi = 96;  ///< resolution at which one pixel is 15 twips
 /// A length in twips; fractions occur where a device's pixel is no whole number of them.
 struct Twips {
   double value = 0;
+  // The check mistakes the compiler's own 0 for a pointer.
+  // NOLINTNEXTLINE(modernize-use-nullptr)
   friend constexpr auto operator<=>(const Twips&, const Twips&) = default;
   friend constexpr Twips operator+(Twips a, Twips b) { return {a.value + b.value}; }
   friend constexpr Twips operator-(Twips a, Twips b) { return {a.value - b.value}; }

@@ -38,7 +38,7 @@ std::string sample(const std::string& name) {
   EXPECT_NE(file, nullptr) << path;
   if (file == nullptr) return text;
   for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) text += static_cast<char>(c);
-  std::fclose(file);
+  EXPECT_EQ(std::fclose(file), 0);
   return text;
 }
 
@@ -54,8 +54,8 @@ TEST(Writer, BytesOfTheFormat) {
   list.store(0, Slot::Comments, "a\r\nb\nc,");  // not escaped
   list.store(0, Slot::Company, "last");
   list.store(1, Slot::Surname, "the spare element is no contact");
-  EXPECT_EQ(written(list),
-            "\"Smi\"th\"\r\n" + empty.substr(0, 25 * 4) + "\"a\r\nb\nc,\"\r\n\"last\"\r\n");
+  EXPECT_EQ(written(list), "\"Smi\"th\"\r\n" + empty.substr(0, std::size_t{25} * 4) +
+                               "\"a\r\nb\nc,\"\r\n\"last\"\r\n");
 
   ContactList again;
   ASSERT_EQ(read(written(list), again).result, ReadResult::whole);
