@@ -1,4 +1,6 @@
 // The main job: walking through contacts, editing, adding, removing, saving.
+#include <algorithm>
+
 #include "tests/app/support/fixture_win.h"
 
 namespace {
@@ -15,9 +17,10 @@ class Contacts : public drive::AppTest {
   /// Expects contact `index` (from 0) of `contacts` on screen, and all parts in step.
   void expectOn(const std::vector<Contact>& contacts, std::size_t index) {
     SCOPED_TRACE("contact " + std::to_string(index + 1));
-    std::vector<std::string> names;
-    for (const Contact& contact : contacts)
-      names.push_back(contact[drive::firstNames] + " " + contact[drive::surname]);
+    std::vector<std::string> names(contacts.size());
+    std::transform(contacts.begin(), contacts.end(), names.begin(), [](const Contact& contact) {
+      return contact[drive::firstNames] + " " + contact[drive::surname];
+    });
     EXPECT_EQ(program().names(), names);
     EXPECT_EQ(program().chosenName(), static_cast<int>(index));
     EXPECT_EQ(program().status(),

@@ -33,31 +33,31 @@ TEST(Associate, WritesEveryKeyAndRepairsForeignChanges) {
   for (int start = 0; start < 2; ++start) {
     Associate("tly", "Tellary Document", "2");
     for (const auto& row : rows) {
-      EXPECT_EQ(registry.text(row.root, row.key, row.name), row.text) << row.key;
-      registry.putText(row.root, row.key, row.name, "changed by another program");
+      EXPECT_EQ(ScratchRegistry::text(row.root, row.key, row.name), row.text) << row.key;
+      ScratchRegistry::putText(row.root, row.key, row.name, "changed by another program");
     }
-    const auto flags = registry.get(registry.classes(), document, "EDITFLAGS");
+    const auto flags = ScratchRegistry::get(registry.classes(), document, "EDITFLAGS");
     ASSERT_TRUE(flags);
     EXPECT_EQ(flags->type, DWORD{REG_DWORD});
     EXPECT_EQ(flags->bytes, std::string(4, '\0'));
-    registry.put(registry.classes(), document, "EDITFLAGS", REG_SZ, "x");
+    ScratchRegistry::put(registry.classes(), document, "EDITFLAGS", REG_SZ, "x");
   }
 }
 
 TEST(Associate, GoesOnWithoutAccess) {
   const ScratchRegistry registry;
   const std::string document = windowing::programName() + ".Document";
-  registry.putText(registry.classes(), ".tly", "", "someone else's");
-  registry.putText(registry.classes(), document, "", "someone else's");
+  ScratchRegistry::putText(registry.classes(), ".tly", "", "someone else's");
+  ScratchRegistry::putText(registry.classes(), document, "", "someone else's");
   {
     const ScratchRegistry::Locked extension(registry.classes(), ".tly");
     const ScratchRegistry::Locked type(registry.classes(), document);
     ASSERT_EQ(extension.result() + type.result(), ERROR_SUCCESS);
     EXPECT_NO_THROW(Associate("tly", "Tellary Document", "2"));
   }
-  EXPECT_EQ(registry.text(registry.classes(), ".tly", ""), "someone else's");
-  EXPECT_EQ(registry.text(registry.classes(), document, ""), "someone else's");
-  EXPECT_EQ(registry.text(registry.user(), fileExtensions, "Application"),
+  EXPECT_EQ(ScratchRegistry::text(registry.classes(), ".tly", ""), "someone else's");
+  EXPECT_EQ(ScratchRegistry::text(registry.classes(), document, ""), "someone else's");
+  EXPECT_EQ(ScratchRegistry::text(registry.user(), fileExtensions, "Application"),
             windowing::programName() + ".exe");
 }
 

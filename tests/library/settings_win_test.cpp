@@ -37,29 +37,30 @@ TEST_F(Settings, WhatIsWrittenComesBack) {
   for (const std::string& text : {std::string("0"), std::string(),
                                   std::string("M\xFCller & \"Co\""), std::string(254, 'y')}) {
     EXPECT_TRUE(LIBRARY().REGSTRWRITE(userRoot, key, "v", text));
-    EXPECT_EQ(registry.get(registry.user(), key, "v")->type, DWORD{REG_SZ});
+    EXPECT_EQ(ScratchRegistry::get(registry.user(), key, "v")->type, DWORD{REG_SZ});
     EXPECT_EQ(read("v"), text);
   }
   EXPECT_TRUE(LIBRARY().REGSTRWRITE("-2147483646", key, "v", "of the machine"));
   EXPECT_TRUE(LIBRARY().REGSTRWRITE("-2147483648", key, "v", "of the classes"));
-  EXPECT_EQ(registry.text(registry.machine(), key, "v"), "of the machine");
-  EXPECT_EQ(registry.text(registry.classes(), key, "v"), "of the classes");
+  EXPECT_EQ(ScratchRegistry::text(registry.machine(), key, "v"), "of the machine");
+  EXPECT_EQ(ScratchRegistry::text(registry.classes(), key, "v"), "of the classes");
   // Two operations that are named for reading write.
   EXPECT_TRUE(LIBRARY().REGBINARYREAD(userRoot, key, "bytes", {0, 255, 7}));
-  EXPECT_EQ(registry.get(registry.user(), key, "bytes")->bytes, std::string("\0\xFF\x07", 3));
+  EXPECT_EQ(ScratchRegistry::get(registry.user(), key, "bytes")->bytes,
+            std::string("\0\xFF\x07", 3));
   EXPECT_EQ(LIBRARY().REGDWORDREAD(-2147483647, key, "number", -2), 0);
-  EXPECT_EQ(registry.get(registry.user(), key, "number")->bytes, "\xFE\xFF\xFF\xFF");
+  EXPECT_EQ(ScratchRegistry::get(registry.user(), key, "number")->bytes, "\xFE\xFF\xFF\xFF");
 }
 
 TEST_F(Settings, WhatCannotBeReadIsTheDefault) {
-  registry.put(registry.user(), key, "v", REG_DWORD, std::string("\1\0\0\0", 4));
+  ScratchRegistry::put(registry.user(), key, "v", REG_DWORD, std::string("\1\0\0\0", 4));
   EXPECT_EQ(read("v"), "default");
-  registry.putText(registry.user(), key, "v", std::string(255, 'x'));
+  ScratchRegistry::putText(registry.user(), key, "v", std::string(255, 'x'));
   EXPECT_EQ(read("v"), "default");
   EXPECT_EQ(read("v", "HKCU"), "") << "no such root";
   EXPECT_FALSE(LIBRARY().REGSTRWRITE("HKCU", key, "v", "y"));
 
-  registry.putText(registry.user(), key, "v", "secret");
+  ScratchRegistry::putText(registry.user(), key, "v", "secret");
   {
     const ScratchRegistry::Locked locked(registry.user(), key);
     ASSERT_EQ(locked.result(), ERROR_SUCCESS);
@@ -92,17 +93,18 @@ TEST_F(Settings, DocumentsFolder) {
   const std::string preferences = maker + "\\" + windowing::productName() + "\\frmPrefs\\Items";
   const std::string own = LIBRARY().FILENAMELENCHK(windowing::programFolder());
   const auto recorded = [&] {
-    return registry.text(registry.user(), maker + "\\GLOBAL\\frmPPrev\\Items", "Files Location");
+    return ScratchRegistry::text(registry.user(), maker + "\\GLOBAL\\frmPPrev\\Items",
+                                 "Files Location");
   };
   EXPECT_EQ(LIBRARY().FILESLOCATION(), own);
-  registry.putText(registry.user(), preferences, "Files Location", folder.path());
+  ScratchRegistry::putText(registry.user(), preferences, "Files Location", folder.path());
   EXPECT_EQ(LIBRARY().FILESLOCATION(), folder.path() + "\\");
   EXPECT_EQ(recorded(), "(none)");
 
-  registry.putText(registry.user(), preferences, "Files Location", folder / "gone");
+  ScratchRegistry::putText(registry.user(), preferences, "Files Location", folder / "gone");
   EXPECT_EQ(LIBRARY().FILESLOCATION(), own);
   EXPECT_EQ(recorded(), own);
-  EXPECT_EQ(registry.text(registry.user(), preferences, "Files Location"), folder / "gone");
+  EXPECT_EQ(ScratchRegistry::text(registry.user(), preferences, "Files Location"), folder / "gone");
 }
 
 }  // namespace

@@ -215,7 +215,7 @@ TEST_F(Saving, AFullDiskKeepsTheOldDocumentUntilThereIsRoom) {
   const std::string path = disk / "Friends.tly";
   const std::string filler = disk / "filler";
   const std::string before = contacts(8000, "full");
-  const LONGLONG size = static_cast<LONGLONG>(before.size());
+  const auto size = static_cast<LONGLONG>(before.size());
   ULARGE_INTEGER space{};
   for (const LONGLONG left : {LONGLONG{0}, LONGLONG{4096}, size / 2, size - 4096}) {
     SCOPED_TRACE(left);

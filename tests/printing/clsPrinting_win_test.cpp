@@ -20,6 +20,7 @@ namespace {
 
 using test_support::JobPage;
 using test_support::pagesOf;
+using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 using windowing::printer;
 using windowing::Replaced;
@@ -58,15 +59,15 @@ class Printing : public testing::Test {
   }
 
   void setMargin(const std::string& edge, const std::string& inches) {
-    settings_.putText(settings_.user(),
-                      library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
-                      "Page Margin " + edge, inches);
+    ScratchRegistry::putText(
+        settings_.user(), library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
+        "Page Margin " + edge, inches);
   }
   void setOption(const std::string& part, const std::string& name, const std::string& value) {
-    settings_.putText(settings_.user(),
-                      library::productKey(windowing::companyName(), windowing::productName(),
-                                          "\\frmPPrev\\Items\\" + part),
-                      name, value);
+    ScratchRegistry::putText(settings_.user(),
+                             library::productKey(windowing::companyName(), windowing::productName(),
+                                                 "\\frmPPrev\\Items\\" + part),
+                             name, value);
   }
   // Prints as the toolbar does, without dialog.
   std::vector<JobPage> print() {

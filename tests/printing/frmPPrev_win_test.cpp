@@ -210,7 +210,7 @@ TEST_F(Preview, ZoomsByMenuListAndSteps) {
       EXPECT_EQ(available({id::ZOOMIN, id::ZOOMOUT}), row.stepping) << row.text;
       for (const Row& other : rows)
         EXPECT_EQ(form.commandChecked(other.command), other.command == row.command) << row.text;
-      const double percent = std::atof(row.text);
+      const double percent = std::strtod(row.text, nullptr);
       const double width = form.PICWINDOW().pagePlace().across.length;
       if (percent != 0) {
         EXPECT_NEAR(width, 12240 * percent / 100, 0.01);

@@ -44,7 +44,9 @@ DialogDriver::DialogDriver(Action action) : action_(std::move(action)) {
 }
 
 DialogDriver::DialogDriver(int button)
-    : DialogDriver([button](HWND dialog) { PostMessageA(dialog, WM_COMMAND, button, 0); }) {}
+    : DialogDriver([button](HWND dialog) {
+        PostMessageA(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+      }) {}
 
 DialogDriver::~DialogDriver() {
   UnhookWindowsHookEx(hook_);

@@ -19,7 +19,7 @@ MainWindowTest::MainWindowTest() {
   seams.fileDialog = [this](HWND, const windowing::FileDialog& dialog) {
     dialogs.push_back(dialog);
     if (files.empty()) return std::optional<std::string>();
-    const std::optional<std::string> answer = files.front();
+    std::optional<std::string> answer = files.front();
     files.pop_front();
     return answer;
   };
@@ -58,7 +58,7 @@ bool MainWindowTest::enabled(int command) const {
 
 void MainWindowTest::open(const std::string& path) {
   form.SETSAVE("False");
-  files.push_back(path);
+  files.emplace_back(path);
   run(id::OPEN);
 }
 

@@ -61,9 +61,9 @@ std::string description(const Device& device) {
     const std::string size = numbers(paper.width, paper.height);
     const std::string area = numbers(device.left, device.bottom) + ' ' +
                              numbers(paper.width - device.right, paper.height - device.top);
-    papers += "*PageSize " + name + ": \"<</PageSize[" + size + "]>>setpagedevice\"\n" +
-              "*ImageableArea " + name + ": \"" + area + "\"\n" + "*PaperDimension " + name +
-              ": \"" + size + "\"\n";
+    papers.append("*PageSize ").append(name).append(": \"<</PageSize[").append(size);
+    papers.append("]>>setpagedevice\"\n*ImageableArea ").append(name).append(": \"").append(area);
+    papers.append("\"\n*PaperDimension ").append(name).append(": \"").append(size).append("\"\n");
   }
   return "*PPD-Adobe: \"4.3\"\n*NickName: \"" + std::string(device.driver) +
          "\"\n*LanguageLevel: \"3\"\n*ColorDevice: True\n*TTRasterizer: Type42\n"

@@ -111,8 +111,8 @@ class KilledSave : public testing::Test {
 TEST_F(KilledSave, LeavesAWholeDocumentWhereAWriterThatTruncatesLosesIt) {
   ASSERT_FALSE(writer);
   const std::string wanted = variable("TELLARY_KILLS");
-  const int kills = wanted.empty() ? 50 : std::atoi(wanted.c_str());
-  for (int i = 0; i < kills; ++i) ASSERT_TRUE(survives("safely")) << "kill " << i + 1;
+  const long kills = wanted.empty() ? 50 : std::strtol(wanted.c_str(), nullptr, 10);
+  for (long i = 0; i < kills; ++i) ASSERT_TRUE(survives("safely")) << "kill " << i + 1;
   EXPECT_GT(renewed_, 0) << "no kill came after a whole save: they prove nothing";
   document::ContactList list;
   document::read(new_, list);

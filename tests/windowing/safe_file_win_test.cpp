@@ -128,7 +128,7 @@ TEST_F(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
 
 TEST_F(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
   constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_SYSTEM;
-  for (const DWORD attributes : {FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_ARCHIVE}) {
+  for (const DWORD attributes : {DWORD{FILE_ATTRIBUTE_HIDDEN}, DWORD{FILE_ATTRIBUTE_ARCHIVE}}) {
     putFile(path, oldBytes);
     SetFileAttributesA(path.c_str(), attributes);
     const DWORD before = GetFileAttributesA(path.c_str()) & kept;
@@ -142,7 +142,7 @@ TEST_F(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
 }
 
 TEST_F(SafeFile, WhatACrashLeftBehindIsClearedByTheNextSave) {
-  for (const DWORD attributes : {FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_READONLY}) {
+  for (const DWORD attributes : {DWORD{FILE_ATTRIBUTE_HIDDEN}, DWORD{FILE_ATTRIBUTE_READONLY}}) {
     putFile(path, oldBytes);
     putFile(temporaryName(path), "half a docum");
     SetFileAttributesA(temporaryName(path).c_str(), attributes);
