@@ -231,7 +231,7 @@ void frmMain::focusFirstField() {
 
 void frmMain::refreshFieldState() {
   const bool any = list_.count() > 0;
-  if (loading_ || TXTITEMS(0).enabled() == any) return;
+  if (!ready_ || TXTITEMS(0).enabled() == any) return;
   const HWND focus = GetFocus();
   for (const document::Field& field : document::fields) {
     const windowing::Control box = control(design::boxId(field));

@@ -83,7 +83,7 @@ windowing::TextBox frmMain::TXTITEMS(int index) const {
 }
 
 void frmMain::onLoad() {
-  arrangeable_ = false;
+  ready_ = false;
   windowing::setMainWindow(handle());
   library::modLibrary().showAbout = [] { dialogs::frmAbout().showModal(); };
   SetWindowTextA(handle(), windowing::productName().c_str());
@@ -115,11 +115,9 @@ void frmMain::onLoad() {
   }
   applyView();
   // The boxes are not greyed first only to be freed by the new document.
-  loading_ = true;
   SETSAVE("False");
-  loading_ = false;
   startNewDocument();
-  arrangeable_ = true;
+  ready_ = true;
   layOut();
   setFirstFocus(TXTITEMS(1));
 }
@@ -181,7 +179,7 @@ void frmMain::layOut() {
 // The room inside changes with the height of captions and menus, too. While the menus are built
 // anew there is nothing to go by.
 void frmMain::onSize() {
-  if (arrangeable_ && ICOMNU->numberOf(id::STANDARDBAR) != 0) arrange();
+  if (ready_ && ICOMNU->numberOf(id::STANDARDBAR) != 0) arrange();
 }
 
 // Strips from the top, the status bar at the foot, the body in what is left.

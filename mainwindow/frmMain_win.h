@@ -162,10 +162,9 @@ class frmMain : public library::CommandForm {
   library::CommandHints hints_{*this, "tellary"};
   windowing::FileCalls realFileCalls_;
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
-  bool arrangeable_ = false;  ///< all that the layout depends on is in place
-  bool loading_ = false;      ///< the window is on its way to its first document
-  bool filling_ = false;      ///< the program itself changes the boxes
-  bool readWhole_ = true;     ///< the document's file holds nothing that the list does not
+  bool ready_ = false;     ///< controls, menus and settings are in place
+  bool filling_ = false;   ///< the program itself changes the boxes
+  bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
 };
 
 }  // namespace mainwindow

@@ -40,18 +40,9 @@ if [[ $build == yes ]]; then
   done
 fi
 
-mkdir -p "$TELLARY_PREFIXES"
-prefix=$(mktemp -d "$TELLARY_PREFIXES/run-$$-XXXXXX")
-work=$(mktemp -d)
-cleanup() {
-  drop_prefix "$prefix"
-  stop_screen
-  rm -rf "$work"
-}
-trap cleanup EXIT
-trap 'exit 130' INT
-trap 'exit 143' TERM HUP
-"$root/tools/make_prefix.sh" copy "$prefix" --graphics x11 || fail "Wine could not be prepared"
+use_scratch_prefix --graphics x11 || fail "Wine could not be prepared"
+work=$prefix/work # goes with the prefix
+mkdir "$work"
 start_screen 1280x1024 || fail "no screen in memory could be started (Xvfb, openbox)"
 export WINEPREFIX=$prefix TELLARY_DISPLAY=$DISPLAY
 

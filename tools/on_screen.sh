@@ -17,17 +17,8 @@ source "$root/tools/wine_env.sh"
 # shellcheck source=tools/screen.sh
 source "$root/tools/screen.sh"
 
-mkdir -p "$TELLARY_PREFIXES"
-prefix=$(mktemp -d "$TELLARY_PREFIXES/run-$$-XXXXXX")
-cleanup() {
-  drop_prefix "$prefix"
-  stop_screen
-}
-trap cleanup EXIT
-trap 'exit 130' INT
-trap 'exit 143' TERM HUP
 dpi=${DPI:-96}
-"$root/tools/make_prefix.sh" copy "$prefix" --dpi "$dpi" --graphics x11
+use_scratch_prefix --dpi "$dpi" --graphics x11
 start_screen "$((1280 * dpi / 96))x$((1024 * dpi / 96))" || {
   echo "on_screen: no screen in memory could be started (Xvfb, openbox)" >&2
   exit 1

@@ -1,8 +1,20 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # A screen of our own for machines without a display, and what is done with windows on it;
-# sourced by bash scripts. The caller has sourced wine_env.sh and set `prefix`.
+# sourced by bash scripts. The caller has set `root` and sourced wine_env.sh; `prefix` is a prefix
+# that exists, or the one that use_scratch_prefix makes.
 
 screen_pids=()
+
+# Makes a Wine prefix and sets `prefix` to it; it goes, with the screen, when the script ends.
+# The arguments are those of make_prefix.sh for a copy.
+use_scratch_prefix() {
+  mkdir -p "$TELLARY_PREFIXES"
+  prefix=$(mktemp -d "$TELLARY_PREFIXES/run-$$-XXXXXX")
+  trap 'drop_prefix "$prefix"; stop_screen' EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM HUP
+  "$root/tools/make_prefix.sh" copy "$prefix" "$@"
+}
 
 # Starts a screen of WIDTHxHEIGHT with a window manager (without one every dialog and every
 # close takes two seconds) and points DISPLAY at it.

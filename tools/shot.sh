@@ -52,16 +52,7 @@ unset TELLARY_DISPLAY
 source "$root/tools/wine_env.sh"
 source "$root/tools/screen.sh"
 
-mkdir -p "$TELLARY_PREFIXES"
-prefix=$(mktemp -d "$TELLARY_PREFIXES/run-$$-XXXXXX")
-cleanup() {
-  drop_prefix "$prefix"
-  stop_screen
-}
-trap cleanup EXIT
-trap 'exit 130' INT
-trap 'exit 143' TERM HUP
-"$root/tools/make_prefix.sh" copy "$prefix" --dpi "$dpi" --graphics x11
+use_scratch_prefix --dpi "$dpi" --graphics x11
 export WINEPREFIX=$prefix XDG_DATA_HOME=$prefix/data
 log=$root/build/shot.log
 
