@@ -115,6 +115,8 @@ void NumberInBox::setValue(int tenths) {
 }
 
 void NumberInBox::setLimits(const SpinLimits& limits) {
+  // Limits that stay as they are put no end to what is being typed.
+  if (limits == limits_) return;
   limits_ = limits;
   value_ = withinLimits(value_, limits_);
   show();

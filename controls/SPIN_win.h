@@ -33,7 +33,8 @@ class SPIN : public windowing::Control {
   [[nodiscard]] std::string text() const;
   /// Sets the number, rounded to one decimal and put within the limits, and shows it.
   void setValue(double number) const;
-  /// Limits, rounded to tenths; the number moves within them.
+  /// Limits, rounded to tenths; the number moves within them. The same limits as before leave a
+  /// text alone that is being typed.
   void setLimits(double lowest, double highest) const;
   /// Shows the value in place of a text that is being typed.
   void commit() const;

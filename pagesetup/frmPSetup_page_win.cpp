@@ -218,7 +218,6 @@ void frmPSetup::applyChoices() const {
 
 // Where the printer gives no figures, those from before stay.
 void frmPSetup::readPaper() {
-  const PaperFacts before = paper_.value_or(PaperFacts{});
   ignoringErrors([this] {
     const SIZE size = printer().physicalSize();
     const POINT offset = printer().physicalOffset();
@@ -229,9 +228,7 @@ void frmPSetup::readPaper() {
         inches(size.cy, true),
         {strip(offset.x, false), strip(right, false), strip(offset.y, true), strip(bottom, true)}};
   });
-  // Limits are set for another paper only: they would put an end to what is being typed.
   const PaperFacts& limiting = paper_ ? *paper_ : usualPaper;
-  if (limiting.width == before.width && limiting.height == before.height) return;
   for (const int box : {id::UDNLEFT, id::UDNRIGHT})
     margin(box).setLimits(0, largestMargin(limiting.width));
   for (const int box : {id::UDNTOP, id::UDNBOTTOM})

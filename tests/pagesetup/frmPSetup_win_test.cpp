@@ -430,6 +430,19 @@ TEST_F(PageSetup, KeysReachEverything) {
   EXPECT_TRUE(stored().starts_with("2.0|")) << stored();
 }
 
+TEST_F(PageSetup, TypingGoesOnWhereThePrinterHasNoFigures) {
+  printers_.reset();
+  form_.show();
+  ASSERT_FALSE(form_.sample());
+  const windowing::TextBox left(form_.control(id::UDNLEFT).handle());
+  left.focus();
+  left.selectAll();
+  for (const char typed : {'2', '.', '5'}) left.send(WM_CHAR, static_cast<WPARAM>(typed));
+  EXPECT_EQ(left.text(), "2.5");
+  click(id::BTNOK);
+  EXPECT_TRUE(stored().starts_with("2.5|")) << stored();
+}
+
 TEST_F(PageSetup, APrinterThatFailsIsSkippedButByItsChoice) {
   form_.load();
   const SamplePage before = form_.sample().value();
