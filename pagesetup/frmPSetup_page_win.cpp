@@ -115,11 +115,10 @@ void frmPSetup::fillPrinters() {
 
 void frmPSetup::showPrinter() const {
   const windowing::ComboBox list = CBOPRINTERS();
+  const std::string current = printer().name();
   list.select(-1);
-  ignoringErrors([&] {
-    for (int i = 0; i < list.count(); ++i)
-      if (list.entry(i) == printer().name()) list.select(i);
-  });
+  for (int i = 0; i < list.count(); ++i)
+    if (list.entry(i) == current) list.select(i);
 }
 
 void frmPSetup::showOrientation() const {
@@ -205,10 +204,9 @@ void frmPSetup::copyRemembered() {
 
 void frmPSetup::remember() const {
   library::ProgramVariables& remembered = modLibrary();
-  remembered.orientation = std::to_string(number(orientation_));
-  // Where there is no printer, there is no name; the options are kept all the same.
-  remembered.printerName = windowing::printerNames().empty() ? std::string() : printer().name();
   remembered.paperCode = std::to_string(number(paperCode_));
+  remembered.orientation = std::to_string(number(orientation_));
+  remembered.printerName = printer().name();
 }
 
 void frmPSetup::applyChoices() const {

@@ -199,9 +199,9 @@ void frmPSetup::onEnter() {
 void frmPSetup::acceptAll() {
   committed_ = true;
   try {
+    remember();  // what can fail comes first: nothing is stored then
     saveMargins();
     saveHeaderFooter();
-    remember();
   } catch (...) {
     // The form stays open with the error told, and can still be cancelled.
     committed_ = false;

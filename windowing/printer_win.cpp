@@ -32,6 +32,18 @@ PrinterHandle open(const std::string& name) {
   return PrinterHandle(handle);
 }
 
+std::vector<BYTE> settingsOf(const std::string& name) {
+  const PrinterHandle device = open(name);
+  char* const deviceName = const_cast<char*>(name.c_str());
+  const LONG size = DocumentPropertiesA(nullptr, device.get(), deviceName, nullptr, nullptr, 0);
+  if (size < static_cast<LONG>(sizeof(DEVMODEA))) raisePrinter();
+  std::vector<BYTE> settings(static_cast<std::size_t>(size));
+  if (DocumentPropertiesA(nullptr, device.get(), deviceName,
+                          reinterpret_cast<DEVMODEA*>(settings.data()), nullptr, DM_OUT_BUFFER) < 0)
+    raisePrinter();
+  return settings;
+}
+
 std::string defaultPrinterName() {
   DWORD size = 0;
   GetDefaultPrinterA(nullptr, &size);
@@ -77,9 +89,8 @@ std::vector<std::string> printerNames() {
   return names;
 }
 
-const std::string& Printer::name() {
-  if (name_.empty()) load(defaultPrinterName());
-  return name_;
+std::string Printer::name() const {
+  return name_.empty() ? defaultPrinterName() : name_;
 }
 
 void Printer::select(const std::string& wanted) {
@@ -95,14 +106,7 @@ void Printer::selectAt(int index) {
 
 // Nothing changes when the printer cannot be asked for its settings.
 void Printer::load(const std::string& wanted) {
-  const PrinterHandle device = open(wanted);
-  char* const deviceName = const_cast<char*>(wanted.c_str());
-  const LONG size = DocumentPropertiesA(nullptr, device.get(), deviceName, nullptr, nullptr, 0);
-  if (size < static_cast<LONG>(sizeof(DEVMODEA))) raisePrinter();
-  std::vector<BYTE> settings(static_cast<std::size_t>(size));
-  if (DocumentPropertiesA(nullptr, device.get(), deviceName,
-                          reinterpret_cast<DEVMODEA*>(settings.data()), nullptr, DM_OUT_BUFFER) < 0)
-    raisePrinter();
+  std::vector<BYTE> settings = settingsOf(wanted);
   abandonDocument();
   dc_.reset();
   settings_ = std::move(settings);
@@ -118,12 +122,12 @@ void Printer::adopt(const std::string& device, const DEVMODEA& settings) {
 }
 
 const std::vector<BYTE>& Printer::settings() {
-  (void)name();
+  if (settings_.empty()) load(name());
   return settings_;
 }
 
 DEVMODEA& Printer::mode() {
-  (void)name();
+  static_cast<void>(settings());
   return *reinterpret_cast<DEVMODEA*>(settings_.data());
 }
 
@@ -189,7 +193,7 @@ int Printer::paperSize() {
 
 void Printer::setPaperSize(int code) {
   if (code <= 0 || code > std::numeric_limits<short>::max()) raiseInvalidCall();
-  (void)name();
+  static_cast<void>(settings());
   UnlessTaken change(settings_);
   // A form's name and a size of its own would win over the code.
   const auto codeAlone = [this] {
@@ -213,7 +217,7 @@ Orientation Printer::orientation() {
 
 void Printer::setOrientation(Orientation wanted) {
   if (wanted != Orientation::portrait && wanted != Orientation::landscape) raiseInvalidCall();
-  (void)name();
+  static_cast<void>(settings());
   UnlessTaken change(settings_);
   mode().dmOrientation = static_cast<short>(wanted);
   mode().dmFields |= DM_ORIENTATION;

@@ -31,7 +31,8 @@ class Printer {
   /// A document still open is left to the printing system.
   ~Printer() { abandonDocument(); }
 
-  [[nodiscard]] const std::string& name();
+  /// Asks no device: a printer that does not answer has a name, too. Empty where there is none.
+  [[nodiscard]] std::string name() const;
   /// Changes to another printer, by its full name or its index in `printerNames`.
   void select(const std::string& name);
   void selectAt(int index);
@@ -91,7 +92,7 @@ class Printer {
   void applyMode();
   [[nodiscard]] int capability(int index) { return GetDeviceCaps(dc(), index); }
 
-  std::string name_;
+  std::string name_;  ///< empty, with the settings, until the device was asked for them
   std::vector<BYTE> settings_;
   MemoryDc dc_;
   bool stale_ = false;  ///< dc_ does not have the settings yet

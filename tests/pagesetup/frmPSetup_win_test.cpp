@@ -430,6 +430,21 @@ TEST_F(PageSetup, KeysReachEverything) {
   EXPECT_TRUE(stored().starts_with("2.0|")) << stored();
 }
 
+TEST_F(PageSetup, OKStoresNothingWhereItFails) {
+  form_.load();
+  const std::string before = stored();
+  form_.unload();
+  library::modLibrary().paperCode = "1e99";
+  form_.load();
+  type(id::UDNLEFT, "2.0");
+  click(id::BTNOK);
+  EXPECT_EQ(boxes_.size(), 1U);
+  EXPECT_TRUE(form_.loaded());
+  EXPECT_EQ(stored(), before);
+  click(id::BTNCANCEL);
+  EXPECT_FALSE(form_.loaded());
+}
+
 TEST_F(PageSetup, TypingGoesOnWhereThePrinterHasNoFigures) {
   printers_.reset();
   form_.show();

@@ -19,6 +19,8 @@ struct Paper {
   int height;
 };
 
+constexpr char workingDriver[] = "wineps.drv";
+
 struct Device {
   const char* name;
   const char* driver;
@@ -39,6 +41,8 @@ constexpr Device devices[] = {
      a4Paper},
     {TestPrinters::a4, "Tellary A4 driver", "a4", 300, 10, 14, 12, 20, a4Paper, letterPaper},
 };
+constexpr Device brokenDevice{
+    TestPrinters::broken, "Tellary broken driver", "broken", 300, 0, 0, 0, 0, a4Paper, letterPaper};
 
 std::string folder() {
   char path[MAX_PATH] = "";
@@ -82,16 +86,16 @@ char* mutableText(const char* text) {
   return const_cast<char*>(text);
 }
 
-void install(const Device& device) {
+void install(const Device& device, const char* module = workingDriver) {
   const std::string ppd = folder() + "tellary_" + device.file + ".ppd";
   writeFile(ppd, description(device));
   DRIVER_INFO_3A driver{};
   driver.cVersion = 3;
   driver.pName = mutableText(device.driver);
   driver.pEnvironment = mutableText("Windows NT x86");
-  driver.pDriverPath = mutableText("wineps.drv");
+  driver.pDriverPath = mutableText(module);
   driver.pDataFile = mutableText(ppd.c_str());
-  driver.pConfigFile = mutableText("wineps.drv");
+  driver.pConfigFile = mutableText(module);
   driver.pDefaultDataType = mutableText("RAW");
   check(AddPrinterDriverExA(nullptr, 3, reinterpret_cast<BYTE*>(&driver),
                             APD_COPY_NEW_FILES | APD_COPY_FROM_DIRECTORY),
@@ -147,7 +151,18 @@ TestPrinters::TestPrinters() {
 
 TestPrinters::~TestPrinters() {
   for (const Device& device : devices) remove(device);
+  remove(brokenDevice);
   clearJobs();
+}
+
+void TestPrinters::addBroken() {
+  const std::string module = folder() + "tellary_broken.drv";
+  writeFile(module, "no program");
+  install(brokenDevice, module.c_str());
+  check(SetDefaultPrinterA(broken), "SetDefaultPrinter");
+}
+void TestPrinters::removeLetter() {
+  remove(devices[0]);
 }
 
 std::string TestPrinters::letterJob() {

@@ -20,6 +20,14 @@ class TestPrinters {
   /// A4 paper at 300 dots per inch; strips of 10, 14, 12 and 20 points.
   static constexpr const char* a4 = "Tellary A4";
 
+  /// Has a driver that cannot be loaded, once it is added.
+  static constexpr const char* broken = "Tellary broken";
+
+  /// Adds the printer that cannot be asked for anything, as the Windows default.
+  static void addBroken();
+  /// Takes the Letter printer away; the other one stays.
+  static void removeLetter();
+
   /// What was printed last, as PostScript; empty when nothing was.
   [[nodiscard]] static std::string letterJob();
   [[nodiscard]] static std::string a4Job();

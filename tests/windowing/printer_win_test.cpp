@@ -40,6 +40,7 @@ constexpr int invalidCall = static_cast<int>(ErrorNumber::invalidCall);
 TEST(NoPrinter, EveryOperationRaisesAPrinterError) {
   ASSERT_TRUE(printerNames().empty());
   Printer none;
+  EXPECT_EQ(none.name(), "");
   EXPECT_EQ(errorOf([&] { (void)none.dc(); }), printerError);
   EXPECT_EQ(errorOf([&] { none.setPaperSize(1); }), printerError);
   EXPECT_EQ(errorOf([&] { none.newPage(); }), printerError);
@@ -47,6 +48,7 @@ TEST(NoPrinter, EveryOperationRaisesAPrinterError) {
   {
     const TestPrinters printers;
     EXPECT_EQ(none.name(), TestPrinters::letter) << "as soon as there is one it is found";
+    EXPECT_EQ(none.paperSize(), DMPAPER_LETTER);
   }
   // Taken away while it is in use, it refuses all, and what it was set to stays.
   EXPECT_EQ(errorOf([&] { none.setPaperSize(DMPAPER_A4); }), printerError);
@@ -72,6 +74,14 @@ TEST_F(Printers, AreChosenByNameOrIndexWithoutChangingTheWindowsDefault) {
   EXPECT_EQ(errorOf([&] { printer_.select("no such printer"); }), printerError);
   EXPECT_EQ(errorOf([&] { printer_.selectAt(2); }), printerError);
   EXPECT_EQ(printer_.name(), TestPrinters::a4) << "a failed choice changes nothing";
+}
+
+TEST_F(Printers, AreKnownByNameAlsoWhenTheyCannotBeAskedForAnything) {
+  TestPrinters::addBroken();
+  EXPECT_EQ(printer_.name(), TestPrinters::broken);
+  EXPECT_EQ(errorOf([&] { (void)printer_.paperSize(); }), printerError);
+  printer_.select(TestPrinters::a4);
+  EXPECT_EQ(printer_.paperSize(), DMPAPER_A4) << "another one can be chosen";
 }
 
 TEST_F(Printers, TurnAndChangeTheirPaperAtOnce) {
