@@ -1,20 +1,16 @@
 // Printing the contact on screen.
-#include "library/clsLibrary_win.h"
 #include "library/identifiers.h"
 #include "mainwindow/frmMain_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/compose_report_win.h"
 #include "printing/frmPPrev_win.h"
-#include "windowing/printer_win.h"
+#include "printing/printer_ready_win.h"
 
 namespace mainwindow {
 
-using library::LIBRARY;
 namespace id = library::id;
 
 namespace {
-
-constexpr int noPrinter = 13;  // message: there is no printer
 
 // An hourglass for the length of a scope, errors included.
 class Hourglass {
@@ -27,13 +23,6 @@ class Hourglass {
  private:
   HCURSOR old_;
 };
-
-// Whether there is a printer; the user is told when there is none.
-bool printerInstalled() {
-  if (!windowing::printerNames().empty()) return true;
-  LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
-  return false;
-}
 
 }  // namespace
 
@@ -51,15 +40,16 @@ void frmMain::ComposeContactReport() {
 }
 
 // The toolbar's button prints the contact on screen at once. The menu's command prints the report
-// composed last, after the dialog; that is deliberate.
+// composed last, after the dialog; that is deliberate. The button stays silent about a printer that
+// does not answer, also deliberately.
 void frmMain::printAtOnce() {
-  if (!printerInstalled()) return;
+  if (!printing::printerInstalled()) return;
   ComposeContactReport();
   printing::PRINTING().PRINTDOCUMENT(printing::thePreview(), RTF1(), true);
 }
 
 void frmMain::printLastReport() {
-  if (!printerInstalled()) return;
+  if (!printing::printerReady()) return;
   printing::PRINTING().PRINTDOCUMENT(printing::thePreview(), RTF1(), false);
 }
 

@@ -7,6 +7,7 @@
 #include "library/own_keys_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/preview_settings.h"
+#include "printing/printer_ready_win.h"
 #include "printing/zoom.h"
 #include "windowing/checked.h"
 #include "windowing/number_text.h"
@@ -59,11 +60,7 @@ bool same(const RECT& a, const RECT& b) {
 
 void clsPrinting::PRINTPREVIEW() {
   if (report_ == nullptr) return;
-  if (windowing::printerNames().empty()) {
-    constexpr int noPrinter = 13;
-    LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
-    return;
-  }
+  if (!printerInstalled()) return;
   try {
     preparePreview();
   } catch (...) {

@@ -12,6 +12,7 @@
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_win.h"
 #include "printing/preview_commands.h"
+#include "printing/printer_ready_win.h"
 #include "printing/zoom.h"
 #include "windowing/number_text.h"
 
@@ -134,6 +135,8 @@ void frmPPrev::onToolButton(int command) {
 }
 
 void frmPPrev::print(bool atOnce) {
+  // As in the main window: the menu's command says what the button leaves unsaid.
+  if (!atOnce && !printerReady()) return;
   const POINT seen = PICWINDOW_.scrollPosition();
   PRINTING().PRINTDOCUMENT(*this, RTF3(), atOnce);
   PRINTING().refreshPreview();

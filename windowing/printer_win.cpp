@@ -93,6 +93,10 @@ std::string Printer::name() const {
   return name_.empty() ? defaultPrinterName() : name_;
 }
 
+void Printer::check() const {
+  static_cast<void>(settingsOf(name()));
+}
+
 void Printer::select(const std::string& wanted) {
   if (wanted == name_) return;
   load(wanted);

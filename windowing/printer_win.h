@@ -37,6 +37,9 @@ class Printer {
   void select(const std::string& name);
   void selectAt(int index);
 
+  /// Raises a printer error when the device is gone or cannot be asked for its settings.
+  void check() const;
+
   /// Settings of the device, driver's own data included. Never empty.
   [[nodiscard]] const std::vector<BYTE>& settings();
   /// Takes printer and settings as a dialog gave them.

@@ -68,4 +68,16 @@ TEST_F(PrintingContacts, TheButtonComposesAndTheMenuDoesNot) {
   EXPECT_TRUE(boxes.empty());
 }
 
+// Other printers are there: the menu's command says so, the button stays silent.
+TEST_F(PrintingContacts, APrinterThatIsGoneIsNamedByTheMenuAlone) {
+  choose(id::PRINT);
+  TestPrinters::removeLetter();
+  press(id::PRINT);
+  EXPECT_TRUE(boxes.empty());
+  choose(id::PRINT);
+  EXPECT_EQ(asked_, 1);
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_NE(boxes[0].text.find(TestPrinters::letter), std::string::npos) << boxes[0].text;
+}
+
 }  // namespace

@@ -468,6 +468,19 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
     EXPECT_EQ(dialogs, 1);
     EXPECT_EQ(page() + paging(), "21111") << "the page on show stays";
     EXPECT_EQ(form.PICWINDOW().scrollPosition().y, 500) << "and what is seen of it";
+
+    std::string told;
+    const windowing::Replaced box(windowing::seams().messageBox,
+                                  [&](HWND, const std::string& text, const std::string&, UINT) {
+                                    told += text;
+                                    return IDOK;
+                                  });
+    TestPrinters::removeLetter();
+    SendMessageA(GetParent(bar), WM_COMMAND, id::PRINT, reinterpret_cast<LPARAM>(bar));
+    EXPECT_EQ(told, "") << "the button is silent";
+    form.runCommand(id::PRINT);
+    EXPECT_NE(told.find(TestPrinters::letter), std::string::npos) << told;
+    EXPECT_EQ(dialogs, 1);
   });
 }
 

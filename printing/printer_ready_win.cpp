@@ -1,0 +1,37 @@
+#include "printing/printer_ready_win.h"
+
+#include <windows.h>
+
+#include <string>
+
+#include "library/clsLibrary_win.h"
+#include "windowing/application_win.h"
+#include "windowing/modal_win.h"
+#include "windowing/printer_win.h"
+#include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+
+namespace printing {
+
+bool printerInstalled() {
+  if (!windowing::printerNames().empty()) return true;
+  constexpr int noPrinter = 13;
+  library::LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
+  return false;
+}
+
+bool printerReady() {
+  if (!printerInstalled()) return false;
+  try {
+    windowing::printer().check();
+    return true;
+  } catch (const windowing::RuntimeError&) {
+    windowing::seams().messageBox(windowing::dialogOwner(),
+                                  "The printer \"" + windowing::printer().name() +
+                                      "\" does not answer. Choose another one in Page Setup.",
+                                  windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
+    return false;
+  }
+}
+
+}  // namespace printing
