@@ -21,7 +21,7 @@ constexpr char marginSection[] = "\\GLOBAL\\frmpprev\\Items";
 double margin(const char* section, const char* value) {
   const std::string text = library::LIBRARY().REGSTRREAD(library::currentUserRoot,
                                                          library::familyKey(section), value, "1");
-  return windowing::toNumber(text, windowing::userDecimalSign());
+  return windowing::storedNumber(text, windowing::userDecimalSign());
 }
 
 }  // namespace

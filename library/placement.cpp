@@ -13,7 +13,7 @@ using windowing::Twips;
 constexpr Twips roundingSlack{0.5};
 
 Twips lengthOf(const std::optional<std::string>& stored, Twips otherwise, char decimalSign) {
-  return stored ? Twips{windowing::toNumber(*stored, decimalSign)} : otherwise;
+  return stored ? Twips{windowing::storedNumber(*stored, decimalSign)} : otherwise;
 }
 
 Twips centre(Twips screen, Twips form) {
@@ -23,7 +23,8 @@ Twips centre(Twips screen, Twips form) {
 WindowState stateOf(const std::optional<std::string>& stored, WindowState otherwise,
                     char decimalSign) {
   if (!stored) return otherwise;
-  const std::int16_t number = windowing::toInteger16(*stored, decimalSign);
+  const auto number =
+      windowing::roundTo<std::int16_t>(windowing::storedNumber(*stored, decimalSign));
   if (number < 0 || number > static_cast<std::int16_t>(WindowState::maximized))
     throw windowing::RuntimeError(windowing::ErrorNumber::invalidCall, "Invalid property value");
   return static_cast<WindowState>(number);

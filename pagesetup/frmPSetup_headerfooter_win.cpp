@@ -91,7 +91,7 @@ int boxOf(Option option) {
 // State of a box for its stored text: "2" is the greyed one. Anything else that is no state
 // counts as not ticked.
 int stateOf(const std::string& text) {
-  const std::optional<double> number = windowing::parseNumber(text, '.');
+  const std::optional<double> number = windowing::parseStoredNumber(text, '.');
   for (const int state : {BST_CHECKED, BST_INDETERMINATE})
     if (number == state) return state;
   return BST_UNCHECKED;

@@ -141,11 +141,14 @@ void frmPSetup::showPaper() const {
 }
 
 void frmPSetup::loadMargins() const {
+  const char sign = windowing::userDecimalSign();
   for (const StoredMargin& stored : storedMargins) {
     const std::string text =
         LIBRARY().REGSTRREAD(library::currentUserRoot, marginKey(), stored.value, storedDefault);
+    const std::optional<double> inches = windowing::parseStoredNumber(text, sign);
     // A text that is no number leaves the field as it was designed.
-    margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(text));
+    if (inches)
+      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(windowing::doubleText(*inches, sign)));
   }
 }
 

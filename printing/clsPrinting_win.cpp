@@ -30,7 +30,7 @@ constexpr DWORD everyPrint = PD_COLLATE | PD_RETURNDC | PD_HIDEPRINTTOFILE;
 
 double readMargin(const char* valueName) {
   const std::string key = library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items");
-  return windowing::toNumber(
+  return windowing::storedNumber(
       library::LIBRARY().REGSTRREAD(library::currentUserRoot, key, valueName, "1"),
       windowing::userDecimalSign());
 }

@@ -147,6 +147,17 @@ double toNumber(std::string_view text, char decimalSign) {
   return *value;
 }
 
+std::optional<double> parseStoredNumber(std::string_view text, char decimalSign) {
+  const std::optional<double> value = parseNumber(text, decimalSign);
+  return value ? value : parseNumber(text, ',');
+}
+
+double storedNumber(std::string_view text, char decimalSign) {
+  const std::optional<double> value = parseStoredNumber(text, decimalSign);
+  if (!value) raiseTypeMismatch();
+  return *value;
+}
+
 std::int16_t toInteger16(std::string_view text, char decimalSign) {
   return roundTo<std::int16_t>(toNumber(text, decimalSign));
 }
@@ -201,11 +212,11 @@ std::string formatDecimals(double value, int minimumIntegerDigits, int decimals,
   return text;
 }
 
-bool booleanOfText(std::string_view text, char decimalSign) {
+bool booleanOfText(std::string_view text) {
   const std::string word = lowerCaseAscii(trimmed(text));
   if (word == "true") return true;
   if (word == "false") return false;
-  return toNumber(text, decimalSign) != 0;
+  return storedNumber(text, '.') != 0;
 }
 
 std::string textOfBoolean(bool value) {

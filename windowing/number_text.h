@@ -20,6 +20,12 @@ constexpr char noGrouping = '\0';
 /// As `parseNumber`; raises type mismatch where the text is no number.
 [[nodiscard]] double toNumber(std::string_view text, char decimalSign);
 
+/// As the two above for a text from the settings store, which keeps the sign that the user had
+/// when it was written: besides "." and `decimalSign`, "," counts as the decimal sign. Grouping is
+/// never stored.
+[[nodiscard]] std::optional<double> parseStoredNumber(std::string_view text, char decimalSign);
+[[nodiscard]] double storedNumber(std::string_view text, char decimalSign);
+
 /// `toNumber` rounded half to even; raises type mismatch, or overflow outside the type.
 [[nodiscard]] std::int16_t toInteger16(std::string_view text, char decimalSign);
 [[nodiscard]] std::int32_t toInteger32(std::string_view text, char decimalSign);
@@ -46,9 +52,9 @@ constexpr char noGrouping = '\0';
 [[nodiscard]] std::string formatDecimals(double value, int minimumIntegerDigits, int decimals,
                                          char decimalSign, char groupSeparator = noGrouping);
 
-/// "True" or "False" in any case, or a number, of which any but zero is true; raises type
-/// mismatch for any other text.
-[[nodiscard]] bool booleanOfText(std::string_view text, char decimalSign = '.');
+/// Truth value of a stored text: "True" or "False" in any case, or a number, of which any but zero
+/// is true; raises type mismatch for any other text.
+[[nodiscard]] bool booleanOfText(std::string_view text);
 
 /// "True" or "False".
 [[nodiscard]] std::string textOfBoolean(bool value);

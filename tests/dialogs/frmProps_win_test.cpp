@@ -209,7 +209,7 @@ TEST_F(Properties, FiguresOfTheDocumentsText) {
   const struct {
     const char *edge, *inches, *figures;
   } margins[] = {
-      {"2", "0.5", "1|55|327|55|"}, {"3", "8", "4|55|327|55|"}, {"3", "11", "55|55|327|55|"}};
+      {"2", "0,5", "1|55|327|55|"}, {"3", "8", "4|55|327|55|"}, {"3", "11", "55|55|327|55|"}};
   for (const auto& margin : margins) {
     storeMargin(marginKey, margin.edge, margin.inches);
     form_.UPDATEINFO();

@@ -16,7 +16,7 @@ namespace {
 constexpr FormPlacement design{WindowState::normal, {10}, {20}, {9000}, {6000}};
 
 FormPlacement loaded(const StoredPlacement& stored, bool sizable = true, double width = 15360) {
-  return loadPlacement(stored, design, {{width}, {11520}}, sizable, ',');
+  return loadPlacement(stored, design, {{width}, {11520}}, sizable, '.');
 }
 
 std::string written(const FormPlacement& form, bool sizable) {

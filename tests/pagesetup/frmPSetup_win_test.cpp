@@ -286,8 +286,8 @@ TEST_F(PageSetup, DefaultsShowAndStoreNothing) {
 TEST_F(PageSetup, StoredMarginsOfEveryKind) {
   ScratchRegistry::putText(settings_.user(), placeKey, "Left", "far");  // nor is a place needed
   const std::pair<const char*, const char*> cases[] = {
-      {"0.75", "0.8"}, {" .5 ", "0.5"}, {"0", "0.0"},  {"3.8", "3.7"},  {"1e300", "3.7"},
-      {"abc", "1.0"},  {"", "1.0"},     {"-2", "1.0"}, {"1,000", "1.0"}};
+      {"0.75", "0.8"},  {"0,75", "0.8"}, {" .5 ", "0.5"}, {"0", "0.0"},  {"3.8", "3.7"},
+      {"1e300", "3.7"}, {"abc", "1.0"},  {"", "1.0"},     {"-2", "1.0"}, {"1,000", "1.0"}};
   for (const auto& [inStore, shown] : cases) {
     storeMargin(edges[0], inStore);
     reload();
@@ -303,8 +303,9 @@ TEST_F(PageSetup, StoredMarginsOfEveryKind) {
 }
 
 TEST_F(PageSetup, StoredStatesOfEveryKind) {
-  const std::pair<const char*, int> cases[] = {{"1", 1},  {"0", 0}, {"2", 2},    {"3", 0},
-                                               {"-1", 0}, {"", 0},  {"True", 0}, {"1.5", 0}};
+  const std::pair<const char*, int> cases[] = {{"1", 1},    {"0", 0},   {"2", 2},
+                                               {"3", 0},    {"-1", 0},  {"", 0},
+                                               {"True", 0}, {"1.5", 0}, {"1,0", 1}};
   for (const auto& [inStore, shown] : cases) {
     SCOPED_TRACE(inStore);
     storeOption(storedOption(Option::date), inStore);

@@ -37,6 +37,21 @@ TEST(NumberText, ReadsWholeTextsWithPointOrTheUsersSign) {
   EXPECT_FALSE(parseNumber(std::string_view("1\0", 2), '.'));
 }
 
+TEST(NumberText, ReadsWhatWasStoredUnderAnotherCountrysSign) {
+  const std::pair<const char*, double> good[] = {{"0,5", 0.5},      {"0.5", 0.5}, {"1,000", 1},
+                                                 {"1.000", 1},      {"2", 2},     {"-45,5", -45.5},
+                                                 {" 2,5E+02", 250}, {",5 ", .5}};
+  for (const char sign : {'.', ',', '\''}) {
+    for (const auto& [text, value] : good)
+      EXPECT_EQ(storedNumber(text, sign), value) << text << " with " << sign;
+    for (const char* bad : {"", ",", "1,000.5", "1.000,5", "1,2,3", "1.2.3", "1 000", "abc"}) {
+      EXPECT_FALSE(parseStoredNumber(bad, sign)) << bad << " with " << sign;
+      EXPECT_EQ(errorOf([&, s = sign] { (void)storedNumber(bad, s); }), 13) << bad;
+    }
+  }
+  EXPECT_EQ(storedNumber("1'5", '\''), 1.5) << "the user's own sign";
+}
+
 TEST(NumberText, IntegersRoundHalfToEvenWithinTheirType) {
   EXPECT_EQ(toInteger16("2.5", '.'), 2);
   EXPECT_EQ(toInteger16("3,5", ','), 4);
@@ -91,9 +106,10 @@ TEST(NumberText, PatternsRoundDecimalDigitsAwayFromZeroAndGroupThousands) {
 }
 
 TEST(NumberText, TruthValues) {
-  for (const char* text : {"True", "TRUE", "1", "-1", "0.5", " True "})
+  for (const char* text : {"True", "TRUE", "1", "-1", "0.5", "0,5", " True "})
     EXPECT_TRUE(booleanOfText(text)) << text;
-  for (const char* text : {"False", "false", "0", "0.0"}) EXPECT_FALSE(booleanOfText(text)) << text;
+  for (const char* text : {"False", "false", "0", "0.0", "0,0"})
+    EXPECT_FALSE(booleanOfText(text)) << text;
   for (const char* text : {"", "yes", "Truer"})
     EXPECT_EQ(errorOf([&] { (void)booleanOfText(text); }), 13) << text;
   EXPECT_TRUE(flagIsTrue("tRuE"));
