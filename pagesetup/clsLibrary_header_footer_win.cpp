@@ -7,6 +7,7 @@
 #include "windowing/page_picture_win.h"
 #include "windowing/printer_win.h"
 #include "windowing/seams_win.h"
+#include "windowing/user_locale_win.h"
 
 namespace library {
 namespace {
@@ -21,7 +22,7 @@ void draw(HDC dc, const windowing::TextFormat& font, pagesetup::Page page) {
   page.date = pagesetup::dateText(now.wYear, now.wMonth, now.wDay);
   page.time = pagesetup::timeText(now.wHour, now.wMinute, now.wSecond);
   for (const pagesetup::DrawCommand& command :
-       pagesetup::headerAndFooter(pagesetup::readOptions(), page)) {
+       pagesetup::headerAndFooter(pagesetup::readOptions(), page, windowing::isLeadByte)) {
     if (command.kind == pagesetup::DrawCommand::Kind::line)
       windowing::drawPageRule(dc, command.x, command.y, command.toX);
     else

@@ -34,16 +34,16 @@ constexpr const Offsets& offsetsOf(Surface surface) {
   return surface == Surface::preview ? inPreview : onPrinter;
 }
 
-// Left edge of a text that is centred by its number of characters.
-double centred(std::int32_t width, const std::string& text) {
-  const std::int32_t estimated = checkedMultiply(
-      checkedCast<std::int32_t>(static_cast<std::int64_t>(text.size())), characterWidth);
-  return checkedSubtract(width, estimated) / 2.0;
+std::int64_t characterCount(const std::string& text, library::LeadByteTest isLead) {
+  std::int64_t count = 0;
+  for (std::size_t i = 0; i < text.size(); ++i, ++count)
+    if (isLead(static_cast<unsigned char>(text[i]))) ++i;
+  return count;
 }
 
 class Drawing {
  public:
-  explicit Drawing(const Page& page) : page_(page) {}
+  Drawing(const Page& page, library::LeadByteTest isLead) : page_(page), isLead_(isLead) {}
 
   void rule(std::int16_t y) {
     const double left = checkedSubtract(page_.margins.left, ruleOutdent);
@@ -54,10 +54,18 @@ class Drawing {
     commands.push_back({DrawCommand::Kind::text, x, static_cast<double>(y), 0, text});
   }
 
+  /// The text in the middle of the page, `shift` to the right of it.
+  void centred(double shift, std::int16_t y, const std::string& text) {
+    const std::int32_t estimated =
+        checkedMultiply(checkedCast<std::int32_t>(characterCount(text, isLead_)), characterWidth);
+    this->text(checkedSubtract(page_.width, estimated) / 2.0 + shift, y, text);
+  }
+
   std::vector<DrawCommand> commands;
 
  private:
   const Page& page_;
+  library::LeadByteTest isLead_;
 };
 
 void drawHeader(Drawing& drawing, const HeaderFooterOptions& options, const Page& page) {
@@ -68,10 +76,8 @@ void drawHeader(Drawing& drawing, const HeaderFooterOptions& options, const Page
     drawing.text(checkedAdd(margins.left, dateIndent), line(), page.date);
   if (options.on(Option::time))
     drawing.text(checkedSubtract(page.width, timeFromRight), line(), page.time);
-  if (options.on(Option::title)) {
-    const std::string& title = options[Option::titleText];
-    drawing.text(centred(page.width, title) + offsetsOf(page.surface).title, line(), title);
-  }
+  if (options.on(Option::title))
+    drawing.centred(offsetsOf(page.surface).title, line(), options[Option::titleText]);
 }
 
 void drawFooter(Drawing& drawing, const HeaderFooterOptions& options, const Page& page) {
@@ -85,8 +91,7 @@ void drawFooter(Drawing& drawing, const HeaderFooterOptions& options, const Page
   if (options.on(Option::field2))
     drawing.text(checkedSubtract(page.width, offsetsOf(page.surface).field2FromRight), line(),
                  options[Option::field2Text]);
-  if (options.on(Option::pageNumber))
-    drawing.text(centred(page.width, page.number), line(), page.number);
+  if (options.on(Option::pageNumber)) drawing.centred(0, line(), page.number);
 }
 
 std::string digits(int value, std::size_t count) {
@@ -111,8 +116,9 @@ std::string defaultText(Default kind, const DefaultTexts& texts) {
   return "1";
 }
 
-std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options, const Page& page) {
-  Drawing drawing(page);
+std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options, const Page& page,
+                                         library::LeadByteTest isLead) {
+  Drawing drawing(page, isLead);
   if (options.on(Option::header)) drawHeader(drawing, options, page);
   if (options.on(Option::footer)) drawFooter(drawing, options, page);
   return drawing.commands;

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "library/path_utilities.h"
+
 namespace pagesetup {
 
 /// The thirteen stored settings: what is drawn, and its texts.
@@ -134,10 +136,12 @@ struct DrawCommand {
   std::string text;
 };
 
-/// What to draw on a page, in order. Raises overflow where an offset from a margin leaves 16
-/// bits or a distance leaves 32.
+/// What to draw on a page, in order. Centred texts are placed by their number of characters, for
+/// which `isLead` tells bytes that begin a character of two. Raises overflow where an offset from a
+/// margin leaves 16 bits or a distance leaves 32.
 [[nodiscard]] std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options,
-                                                       const Page& page);
+                                                       const Page& page,
+                                                       library::LeadByteTest isLead);
 
 /// "DD/MM/YYYY" and "h:mm:ss" (24 hours, no leading zero on the hour), whatever the locale.
 [[nodiscard]] std::string dateText(int year, int month, int day);

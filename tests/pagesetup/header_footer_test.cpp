@@ -27,10 +27,15 @@ Page letterPage() {
   return page;
 }
 
+// As in a Japanese code page.
+bool isLeadByte(unsigned char byte) {
+  return byte == 0x83 || byte == 0x95;
+}
+
 // Commands as text: "x,y-x text" with "-" before the end of a line.
 std::string drawn(const HeaderFooterOptions& options, const Page& page) {
   std::ostringstream all;
-  for (const DrawCommand& command : headerAndFooter(options, page)) {
+  for (const DrawCommand& command : headerAndFooter(options, page, isLeadByte)) {
     all << command.x << ',' << command.y;
     if (command.kind == DrawCommand::Kind::line) all << '-' << command.toX;
     all << (command.kind == DrawCommand::Kind::text ? " " : "") << command.text << '|';
@@ -57,10 +62,17 @@ TEST(HeaderAndFooter, CentreByTheNumberOfCharacters) {
   Page page = letterPage();
   page.number = "10";
   EXPECT_EQ(drawn(options, page), "-15070,740 " + options[Option::titleText] + "|5950,14760 10|");
+  // Bytes of two that are one character count once, and so does a first one that stands alone.
+  const std::pair<std::string, const char*> titles[] = {{"\x83\x5C\x95\x5C", "6350,740 "},
+                                                        {"a\x83\x5Cz\x83", "6180,740 "}};
+  for (const auto& [title, place] : titles) {
+    options[Option::titleText] = title;
+    EXPECT_EQ(drawn(options, page), place + title + "|5950,14760 10|");
+  }
   page.surface = Surface::preview;
   page.width = 12241;
   page.number.clear();
-  EXPECT_EQ(headerAndFooter(options, page).at(1).x, 6120.5) << "fractions are kept";
+  EXPECT_EQ(headerAndFooter(options, page, isLeadByte).at(1).x, 6120.5) << "fractions are kept";
 }
 
 TEST(HeaderAndFooter, TakeTheMarginsCrossedAndUnclamped) {
@@ -75,7 +87,7 @@ TEST(HeaderAndFooter, SwitchesAreOnOnlyWhenExactlyOne) {
   for (const char* off : {"0", "2", "", "True", "01", " 1", "1.0"}) {
     HeaderFooterOptions options = defaults();
     options[Option::header] = off;
-    EXPECT_EQ(headerAndFooter(options, letterPage()).size(), 4U) << off;
+    EXPECT_EQ(headerAndFooter(options, letterPage(), isLeadByte).size(), 4U) << off;
     options[Option::footer] = off;
     EXPECT_EQ(drawn(options, letterPage()), "") << off;
   }
@@ -111,7 +123,7 @@ TEST(HeaderAndFooter, OverflowInSixteenBits) {
     page.margins.top = c.top;
     bool overflowed = false;
     try {
-      (void)headerAndFooter(defaults(), page);
+      (void)headerAndFooter(defaults(), page, isLeadByte);
     } catch (const windowing::RuntimeError& error) {
       overflowed = error.number() == windowing::ErrorNumber::overflow;
     }
@@ -121,11 +133,12 @@ TEST(HeaderAndFooter, OverflowInSixteenBits) {
   options[Option::header] = "0";
   Page page = letterPage();
   page.margins.top = -32768;
-  EXPECT_NO_THROW((void)headerAndFooter(options, page)) << "what is off is not computed";
+  EXPECT_NO_THROW((void)headerAndFooter(options, page, isLeadByte))
+      << "what is off is not computed";
   options = {};
   options[Option::footer] = "1";
   page.height = 32767 + 1441;
-  EXPECT_THROW((void)headerAndFooter(options, page), windowing::RuntimeError)
+  EXPECT_THROW((void)headerAndFooter(options, page, isLeadByte), windowing::RuntimeError)
       << "the base itself has 16 bits";
 }
 
