@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "windowing/checked.h"
+
 namespace printing {
 namespace {
 
@@ -10,7 +12,7 @@ namespace {
 // the view's as its near edge was.
 std::int32_t rangeOf(double start, double length, double visible) {
   const double beyond = start + length + pageEdge - std::max(0.0, visible);
-  return static_cast<std::int32_t>(std::ceil(std::max(0.0, beyond)));
+  return windowing::roundTo<std::int32_t>(std::ceil(std::max(0.0, beyond)));
 }
 
 PageSpan fromEdge(double length, double visible) {
@@ -57,8 +59,8 @@ std::int32_t scrollKeeping(double at, const PageSpan& before, std::int32_t posit
   if (before.length <= 0) return 0;
   const double part = std::clamp((at - (before.start - position)) / before.length, 0.0, 1.0);
   const double wanted = after.start + part * after.length - at;
-  return std::clamp(static_cast<std::int32_t>(std::lround(wanted)), std::int32_t{0},
-                    after.scrollMax);
+  return windowing::roundTo<std::int32_t>(
+      std::clamp(wanted, 0.0, static_cast<double>(after.scrollMax)));
 }
 
 }  // namespace printing

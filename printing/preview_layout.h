@@ -1,5 +1,5 @@
 // Where the page lies in the preview's view, and how far it can be scrolled. All lengths are
-// twips on the screen.
+// twips on the screen; a scroll range that leaves 32 bits raises overflow.
 #pragma once
 
 #include <cstdint>

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "windowing/runtime_error.h"
+
 namespace printing {
 namespace {
 
@@ -43,6 +45,9 @@ TEST(PreviewLayout, PagesAtAPercentage) {
     expectNear(place.across, c.expected.across, c.percent);
     expectNear(place.down, c.expected.down, c.percent);
   }
+  // Nothing is cut off without a word where lengths leave 32 bits.
+  for (const double length : {1e10, 1e30})
+    EXPECT_THROW((void)placeAtPercent({1, length}, usual, 100), windowing::RuntimeError) << length;
   // Single precision, as pictures have their sizes.
   EXPECT_EQ(placeAtPercent({12241, 1}, usual, 75).across.length, 12241.0F / 100 * 75);
 }
@@ -84,6 +89,7 @@ TEST(PreviewLayout, ZoomingKeepsThePointThatWasClicked) {
   EXPECT_EQ(scrollKeeping(500, large, 5000, large), 5000);
   EXPECT_EQ(scrollKeeping(4830, large, 7000, small), 0);
   EXPECT_EQ(scrollKeeping(100, {}, 0, large), 0) << "before anything was shown";
+  EXPECT_EQ(scrollKeeping(4830, small, 0, {45, 1e10, 14910}), 14910);
 }
 
 }  // namespace
