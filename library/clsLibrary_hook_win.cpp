@@ -33,16 +33,22 @@ int centredOn(windowing::Twips screenSide, int dialogSide) {
   return centred(screenPixels(screenSide, twipsPerPixel), windowing::Pixels{dialogSide}).value;
 }
 
+void centre(HWND dialog) {
+  GetWindowRect(dialog, &hook.dialog);
+  const int x = centredOn(windowing::screenWidth(), hook.dialog.right - hook.dialog.left);
+  const int y = centredOn(windowing::screenHeight(), hook.dialog.bottom - hook.dialog.top);
+  SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+}
+
 LRESULT CALLBACK centringProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   const WNDPROC old = hook.oldProcedure;
-  if (message == WM_INITDIALOG) {
-    GetWindowRect(window, &hook.dialog);
-    const int x = centredOn(windowing::screenWidth(), hook.dialog.right - hook.dialog.left);
-    const int y = centredOn(windowing::screenHeight(), hook.dialog.bottom - hook.dialog.top);
-    SetWindowPos(window, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    replaceProcedure(window, old);
-  }
-  return callProcedure(old, window, message, wParam, lParam);
+  if (message != WM_INITDIALOG) return callProcedure(old, window, message, wParam, lParam);
+  replaceProcedure(window, old);
+  // A dialog that is moved before it has set itself up answers with what is not there yet: some
+  // file dialogs fault then when they are cancelled, and the fault uses up something each time.
+  const LRESULT answer = callProcedure(old, window, message, wParam, lParam);
+  centre(window);
+  return answer;
 }
 
 LRESULT CALLBACK hookProcedure(int code, WPARAM wParam, LPARAM lParam) {
