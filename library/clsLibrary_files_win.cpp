@@ -50,6 +50,20 @@ void shellOperation(UINT function, const std::string& from, const std::string* t
   (void)SHFileOperationA(&operation);
 }
 
+// The shell puts an address between double quotes of its own on a command line: one inside would
+// end it there and make arguments of the rest.
+std::string withoutQuotes(const std::string& address) {
+  std::string safe;
+  for (const char letter : address) {
+    if (letter == '"') {
+      safe += "%22";
+    } else {
+      safe += letter;
+    }
+  }
+  return safe;
+}
+
 }  // namespace
 
 std::string clsLibrary::FILECHK(const std::string& FILENAME) {
@@ -99,8 +113,8 @@ void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& C
 void clsLibrary::INTERNETACCESS(const std::string& HWNDTEXT, const std::string& LINKTYPESTR,
                                 const std::string& ADDRESS) {
   if (ADDRESS.empty()) return;
-  windowing::seams().shellOpen(windowing::handleOfText(HWNDTEXT), "Open", LINKTYPESTR + ADDRESS,
-                               windowing::programFolder());
+  windowing::seams().shellOpen(windowing::handleOfText(HWNDTEXT), "Open",
+                               withoutQuotes(LINKTYPESTR + ADDRESS), windowing::programFolder());
 }
 
 std::string clsLibrary::HTMLFORMATCHECK(const std::string& ADDRESS) {

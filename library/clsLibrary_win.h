@@ -137,7 +137,8 @@ class clsLibrary {
   void FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& CURRENTFLDRLOCATION,
                     windowing::Form& MODALFORM);
   /// Opens an address, after the prefix `LINKTYPESTR`, with the program registered for it; nothing
-  /// for an empty address. `HWNDTEXT` is the owner's handle as decimal text.
+  /// for an empty address. A double quote goes to the shell as "%22". `HWNDTEXT` is the owner's
+  /// handle as decimal text.
   void INTERNETACCESS(const std::string& HWNDTEXT, const std::string& LINKTYPESTR,
                       const std::string& ADDRESS);
   /// The address with "http://" before it, unless it is empty or begins with "http://" or "ftp://".

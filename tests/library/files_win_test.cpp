@@ -107,7 +107,7 @@ TEST(Files, BrowsingHandsTheFolderOnAndOutlivesABrokenForm) {
   EXPECT_NO_THROW(LIBRARY().FOLDERBROWSE(form, "C:\\Data", browser));
 }
 
-TEST(Files, AddressesAreHandedToTheShellAsTheyStandOrFailInSilence) {
+TEST(Files, AddressesAreHandedToTheShellWithoutQuotesOrFailInSilence) {
   {
     DialogDriver driver(IDOK);
     LIBRARY().INTERNETACCESS("0", "", "nosuchscheme:x");
@@ -125,9 +125,14 @@ TEST(Files, AddressesAreHandedToTheShellAsTheyStandOrFailInSilence) {
                                      const std::string&) { handed = verb + " " + file; });
   LIBRARY().INTERNETACCESS("66", "mailto:", "");
   EXPECT_EQ(handed, "");
-  for (const std::string& address : {std::string(" two \"words\" 100%20%"), overlong}) {
-    LIBRARY().INTERNETACCESS("66", "mailto:", address);
-    EXPECT_EQ(handed, "Open mailto:" + address);
+  const struct {
+    std::string address, handed;
+  } rows[] = {{" two words 100%20%", " two words 100%20%"},
+              {"x\" -evil \"y", "x%22 -evil %22y"},
+              {overlong, overlong}};
+  for (const auto& row : rows) {
+    LIBRARY().INTERNETACCESS("66", "mailto:", row.address);
+    EXPECT_EQ(handed, "Open mailto:" + row.handed);
   }
   EXPECT_THROW(LIBRARY().INTERNETACCESS("none", "mailto:", "a"), windowing::RuntimeError);
 }
