@@ -4,6 +4,7 @@
 
 #include "library/path_utilities.h"
 #include "windowing/runtime_error.h"
+#include "windowing/shell_win.h"
 #include "windowing/system_error_win.h"
 
 namespace dialogs {
@@ -44,6 +45,7 @@ FileFacts fileFacts(const std::string& path) {
   constexpr int halfBits = 32;
   facts.size = static_cast<std::uint64_t>(found.nFileSizeHigh) << halfBits | found.nFileSizeLow;
   facts.lastWrite = found.ftLastWriteTime;
+  windowing::prepareShell();
   SHFILEINFOA shell{};
   if (SHGetFileInfoA(path.c_str(), 0, &shell, sizeof shell,
                      SHGFI_TYPENAME | SHGFI_ICON | SHGFI_LARGEICON) != 0) {

@@ -12,6 +12,7 @@
 #include "windowing/modal_win.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
+#include "windowing/shell_win.h"
 
 namespace library {
 namespace {
@@ -47,6 +48,7 @@ void shellOperation(UINT function, const std::string& from, const std::string* t
   operation.pTo = to == nullptr ? nullptr : toList.data();
   operation.fFlags = FOF_ALLOWUNDO;
   const windowing::DisabledOthers others(operation.hwnd);
+  windowing::prepareShell();
   (void)SHFileOperationA(&operation);
 }
 

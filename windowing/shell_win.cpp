@@ -7,7 +7,7 @@
 namespace windowing {
 
 void prepareShell() {
-  static const HRESULT ready =
+  thread_local const HRESULT ready =
       CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
   (void)ready;
 }

@@ -3,9 +3,8 @@
 
 namespace windowing {
 
-/// Readies the thread of the windows for functions of the shell, whose extensions are COM objects;
-/// once, when the first of them is called. Without COM they still answer, but not all of them
-/// fully.
+/// Readies the calling thread for functions of the shell, whose extensions are COM objects; once,
+/// when the first of them is called. Without COM they still answer, but not all of them fully.
 void prepareShell();
 
 }  // namespace windowing
