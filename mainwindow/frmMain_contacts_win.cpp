@@ -8,6 +8,7 @@
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
 #include "mainwindow/status_text.h"
+#include "mainwindow/while.h"
 #include "windowing/number_text.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
@@ -18,19 +19,6 @@ using windowing::PaintingSuspended;
 namespace id = library::id;
 
 namespace {
-
-// Sets a flag for the length of a scope.
-class While {
- public:
-  explicit While(bool& flag) : flag_(flag), old_(flag) { flag_ = true; }
-  While(const While&) = delete;
-  While& operator=(const While&) = delete;
-  ~While() { flag_ = old_; }
-
- private:
-  bool& flag_;
-  bool old_;
-};
 
 // Whether a box gives a text back as it was put in: control characters may be dropped or end
 // the text, and a double-byte code page has bytes that stand for nothing.

@@ -15,6 +15,7 @@
 #include "mainwindow/frmMain_win.h"
 #include "mainwindow/name_box_win.h"
 #include "mainwindow/status_text.h"
+#include "mainwindow/while.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/runtime_error.h"
@@ -135,6 +136,9 @@ void frmMain::openNamedAtStart(const std::string& path) {
 // Whether the document on screen may be given up: it is unmodified, or the user says so.
 bool frmMain::mayDiscard(int question) {
   if (!modified()) return true;
+  // A shutdown, or another request to close, waits for the question that is on screen.
+  if (asking_) return false;
+  const While asking(asking_);
   const std::string name = LIBRARY().FILECHK(CMD1.fileName);
   const int answer = LIBRARY().MESSAGEBOXFCN(question, name, "", "", "");
   // No answer at all is none that lets the work go.

@@ -53,7 +53,7 @@ void frmMain::prepareLinks() {
 void frmMain::onNotice(int box, int notice) {
   // Where a command moves the focus on, the box may hold another contact's address by now.
   if (notice == TXTBTN::left && isWeb(box) && !filling_) checkWebAddress(box);
-  if (notice == TXTBTN::clicked) openLink(box);
+  if (notice == TXTBTN::clicked && IsWindowEnabled(handle())) openLink(box);
 }
 
 // An address that is typed without its scheme gets one. Only a text that differs is written

@@ -164,6 +164,7 @@ class frmMain : public library::CommandForm {
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
   bool ready_ = false;     ///< controls, menus and settings are in place
   bool filling_ = false;   ///< the program itself changes the boxes
+  bool asking_ = false;    ///< the user is asked whether the document may be given up
   bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
 };
 

@@ -322,27 +322,33 @@ void Form::focusOn(HWND window) {
 LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
   const int id = LOWORD(wParam);
   const int notice = HIWORD(wParam);
-  if (lParam == 0) {
-    if (id == IDOK) {
-      onEnter();
-    } else if (id == IDCANCEL) {
-      onEscape();
+  const auto sender = reinterpret_cast<HWND>(lParam);
+  const bool tool = isClass(sender, TOOLBARCLASSNAMEA);
+  const bool button = isClass(sender, "Button");
+  const bool list = isClass(sender, "ComboBox");
+  if (sender != nullptr && !tool && !button && !list) {
+    if (notice == EN_CHANGE) {
+      onChange(id);
     } else {
-      onCommand(id);
+      onNotice(id, notice);
     }
     return 0;
   }
-  const auto sender = reinterpret_cast<HWND>(lParam);
-  if (isClass(sender, TOOLBARCLASSNAMEA)) {
+  // All else is a user's doing, of whom a form below a box or a dialog takes nothing: another
+  // program sent it, or it was under way when the box came up.
+  if (!IsWindowEnabled(handle())) return 0;
+  if (tool) {
     onToolButton(id);
-  } else if (isClass(sender, "Button")) {
+  } else if (button) {
     if (notice == BN_CLICKED) onClick(id);
-  } else if (isClass(sender, "ComboBox")) {
+  } else if (list) {
     if (notice == CBN_SELCHANGE) onSelect(id);
-  } else if (notice == EN_CHANGE) {
-    onChange(id);
+  } else if (id == IDOK) {
+    onEnter();
+  } else if (id == IDCANCEL) {
+    onEscape();
   } else {
-    onNotice(id, notice);
+    onCommand(id);
   }
   return 0;
 }
@@ -432,6 +438,8 @@ Form* formOf(HWND window) {
 
 void dispatchMessage(MSG& message) {
   Form* form = formOf(message.hwnd);
+  // Keys that another program posts to a form below a dialog run no commands of it.
+  if (form != nullptr && !IsWindowEnabled(form->handle())) form = nullptr;
   if (form != nullptr && (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)) {
     try {
       if (form->handleKey(message)) return;

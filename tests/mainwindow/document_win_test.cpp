@@ -50,6 +50,29 @@ TEST_F(Document, NewAndOpenAskAboutUnsavedWorkAndObeyTheAnswer) {
   }
 }
 
+TEST_F(Document, WhoeverWantsToEndTheProgramWaitsForTheQuestionOnScreen) {
+  open(contactsFile({"Ash"}));
+  form.SETSAVE("TRUE");
+  int asked = 0;
+  const windowing::Replaced box(windowing::seams().messageBox, [&](auto&&...) {
+    if (++asked == 1) {
+      EXPECT_FALSE(SendMessageA(form.handle(), WM_QUERYENDSESSION, 0, 0));
+      SendMessageA(form.handle(), WM_CLOSE, 0, 0);
+    }
+    return asked == 1 ? IDCANCEL : IDNO;
+  });
+  const struct {
+    UINT message;
+    WPARAM wParam;
+  } rows[] = {{WM_COMMAND, id::NEW}, {WM_CLOSE, 0}, {WM_QUERYENDSESSION, 0}};
+  for (const auto& row : rows) {
+    asked = 0;
+    EXPECT_FALSE(SendMessageA(form.handle(), row.message, row.wParam, 0));
+    EXPECT_EQ(asked, 1);
+  }
+  EXPECT_TRUE(SendMessageA(form.handle(), WM_QUERYENDSESSION, 0, 0)) << "it is asked again later";
+}
+
 TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
   open(contactsFile({"Ash", "Birch"}));
   const Names bad{scratch.folder("folder"), scratch / "missing.tly",

@@ -46,6 +46,43 @@ TEST_F(Forms, CannotBeClosedBelowABox) {
   }
 }
 
+// Takes note of what it is told to do.
+class ToldForm : public test_support::PlainForm {
+ public:
+  std::string told;
+  bool handleKey(const MSG& message) override {
+    if (message.wParam == VK_F9) told += "key ";
+    return message.wParam == VK_F9;
+  }
+
+ protected:
+  void onCommand(int) override { told += "command "; }
+  void onEnter() override { told += "enter "; }
+  void onEscape() override { told += "escape "; }
+  void onClick(int) override { told += "click "; }
+  void onSelect(int) override { told += "select "; }
+  void onChange(int) override { told += "change "; }
+};
+
+// Another program may send them, or they were under way when the box came up.
+TEST_F(Forms, AreGivenNoCommandsBelowABox) {
+  ToldForm told;
+  told.show();
+  for (const bool takesInput : {true, false}) {
+    EnableWindow(told.handle(), takesInput);
+    told.told.clear();
+    for (const int command : {40001, IDOK, IDCANCEL})
+      SendMessageA(told.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    SendMessageA(told.control("BTNOK").handle(), BM_CLICK, 0, 0);
+    MSG key{told.control("TXTAMOUNT").handle(), WM_KEYDOWN, VK_F9, 1, 0, {}};
+    windowing::dispatchMessage(key);
+    SendMessageA(told.handle(), WM_COMMAND, MAKEWPARAM(105, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(told.control("CBONAMES").handle()));
+    told.control("TXTAMOUNT").setText("1");
+    EXPECT_EQ(told.told, takesInput ? "command enter escape click key select change " : "change ");
+  }
+}
+
 TEST_F(Forms, PassNewSystemColoursOnToTheirControls) {
   const HWND strip = form.control(stripId).handle();
   UpdateWindow(strip);
