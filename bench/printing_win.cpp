@@ -35,7 +35,7 @@ class OpenPreview : public printing::frmPPrev {
   void settle() const {
     RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     MSG message{};
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
   }
 };
 

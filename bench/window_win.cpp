@@ -47,7 +47,7 @@ class BareForm : public windowing::Form {
 void settle(const windowing::Form& form) {
   RedrawWindow(form.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   MSG message{};
-  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
 }
 
 /// Average of some runs of `work`, each with the painting that it causes.

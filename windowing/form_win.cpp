@@ -221,7 +221,7 @@ void Form::showModal() {
 void Form::runModalLoop() {
   MSG message{};
   while (loaded() && modal_) {
-    const BOOL got = GetMessageA(&message, nullptr, 0, 0);
+    const BOOL got = GetMessageW(&message, nullptr, 0, 0);
     if (got == 0) {
       // The program is ending: let the outer loop see it too.
       PostQuitMessage(static_cast<int>(message.wParam));
@@ -451,15 +451,15 @@ void dispatchMessage(MSG& message) {
     // In a box of several lines Enter belongs to the text.
     if (message.wParam == VK_RETURN && isMultilineBox(message.hwnd)) form = nullptr;
   }
-  if (form != nullptr && form->loaded() && IsDialogMessageA(form->handle(), &message)) return;
+  if (form != nullptr && form->loaded() && IsDialogMessageW(form->handle(), &message)) return;
   TranslateMessage(&message);
-  DispatchMessageA(&message);
+  DispatchMessageW(&message);
 }
 
 int runMessageLoop(const Form& main) {
   MSG message{};
   while (main.loaded()) {
-    if (GetMessageA(&message, nullptr, 0, 0) <= 0) return static_cast<int>(message.wParam);
+    if (GetMessageW(&message, nullptr, 0, 0) <= 0) return static_cast<int>(message.wParam);
     dispatchMessage(message);
   }
   return 0;

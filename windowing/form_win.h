@@ -178,7 +178,8 @@ class Form : public Window {
 [[nodiscard]] Form* formOf(HWND window);
 
 /// Handles one message of the thread: keys of the active form first, then the dialog keys
-/// (Tab, access keys, Enter, Esc), then the window itself.
+/// (Tab, access keys, Enter, Esc), then the window itself. The message has been taken by
+/// `GetMessageW`: taken as ANSI, a character of two bytes falls apart on its way to a box.
 void dispatchMessage(MSG& message);
 
 /// Runs the program as long as its main form is loaded; returns the exit code.

@@ -91,6 +91,36 @@ TEST_F(Forms, PassNewSystemColoursOnToTheirControls) {
   EXPECT_TRUE(GetUpdateRect(strip, nullptr, FALSE));
 }
 
+// Looks at its box when it is closed.
+class TypedForm : public test_support::PlainForm {
+ public:
+  std::wstring typed;
+
+ protected:
+  void onUnload() override {
+    wchar_t text[16] = {};
+    SendMessageW(control("TXTAMOUNT").handle(), WM_GETTEXT, 16, reinterpret_cast<LPARAM>(text));
+    typed = text;
+  }
+};
+
+// Taken as single bytes, a character of two would fall apart on its way to the box.
+TEST(FormLoops, HandCharactersOnAsTheyWereTyped) {
+  for (const bool modal : {false, true}) {
+    TypedForm form;
+    form.load();
+    for (const wchar_t character : {L'\x30BD', L'\x8868', L'a'})
+      PostMessageW(form.control("TXTAMOUNT").handle(), WM_CHAR, character, 1);
+    PostMessageW(form.handle(), WM_CLOSE, 0, 0);
+    if (modal) {
+      form.showModal();
+    } else {
+      windowing::runMessageLoop(form);
+    }
+    EXPECT_EQ(form.typed, L"\x30BD\x8868\x0061") << "modal: " << modal;
+  }
+}
+
 // A form that has trouble with the last of its controls.
 class TroubledForm : public windowing::Form {
  public:
