@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "app/modMain_win.h"
+#include "windowing/system_library_win.h"
 
 // The library's own would name the exception on a console, which this program has none of, and
 // bring 50 KB of name decoding along.
@@ -13,5 +14,6 @@ void __gnu_cxx::__verbose_terminate_handler() {
 }
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+  windowing::loadLibrariesFromSystemOnly();
   return app::Main();
 }

@@ -9,6 +9,7 @@
 #include "windowing/page_formatter_win.h"
 #include "windowing/rtf_text.h"
 #include "windowing/system_error_win.h"
+#include "windowing/system_library_win.h"
 
 namespace windowing {
 namespace {
@@ -16,7 +17,7 @@ namespace {
 constexpr UINT wideText = 1200;  // code page number of UTF-16
 
 void loadLibrary() {
-  static const HMODULE library = LoadLibraryA("riched20.dll");
+  static const HMODULE library = loadSystemLibrary("riched20.dll");
   if (library == nullptr) raiseLastError();
 }
 

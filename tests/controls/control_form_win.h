@@ -37,7 +37,7 @@ class ControlForm : public windowing::Form {
     MSG pressed{tested(), message, virtualKey, flags, 0, {}};
     windowing::dispatchMessage(pressed);
     MSG typed{};
-    while (PeekMessageA(&typed, tested(), WM_CHAR, WM_CHAR, PM_REMOVE)) DispatchMessageA(&typed);
+    while (PeekMessageW(&typed, tested(), WM_CHAR, WM_CHAR, PM_REMOVE)) DispatchMessageW(&typed);
   }
   void type(const char* text) const {
     for (; *text != '\0'; ++text) SendMessageA(tested(), WM_CHAR, static_cast<BYTE>(*text), 1);
