@@ -29,22 +29,25 @@ bool comIsReady() {
 TEST(Shell, EveryCallFindsComReady) {
   const test_support::ScratchFolder folder;
   const std::string file = folder.file("a.tly");
-  const std::pair<const char*, std::function<void()>> calls[] = {
+  const struct {
+    const char* name;
+    std::function<void()> run;
+  } calls[] = {
       {"name at start", [&] { (void)app::documentPathOf(file); }},
       {"facts of a file", [&] { (void)dialogs::fileFacts(file); }},
       {"opening", [] { windowing::seams().shellOpen(nullptr, "Open", "nosuchscheme:x", ""); }},
       {"renaming", [&] { library::LIBRARY().FILERENAME(file, folder / "b.tly"); }},
   };
-  for (const auto& [name, call] : calls) {
+  for (const auto& call : calls) {
     bool before = true;
     bool after = false;
     std::thread([&] {
       before = comIsReady();
-      call();
+      call.run();
       after = comIsReady();
     }).join();
-    EXPECT_FALSE(before) << name;
-    EXPECT_TRUE(after) << name;
+    EXPECT_FALSE(before) << call.name;
+    EXPECT_TRUE(after) << call.name;
   }
 }
 
