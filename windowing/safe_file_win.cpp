@@ -4,116 +4,13 @@
 #include <cstdio>
 #include <vector>
 
-#include "windowing/runtime_error.h"
+#include "windowing/file_writing_win.h"
+#include "windowing/in_place_win.h"
+#include "windowing/save_target_win.h"
 #include "windowing/system_error_win.h"
 
 namespace windowing {
 namespace {
-
-// A file being written; closed at the end of its scope where nothing closed it before.
-class Output {
- public:
-  Output(HANDLE file, FileCalls& calls) : file_(file), calls_(calls) {}
-  Output(const Output&) = delete;
-  Output& operator=(const Output&) = delete;
-  ~Output() {
-    if (file_ != INVALID_HANDLE_VALUE) calls_.close(file_);
-  }
-
-  void write(std::string_view data) {
-    const auto size = static_cast<DWORD>(data.size());
-    DWORD done = 0;
-    if (size != 0 && !calls_.write(file_, data.data(), size, done)) raiseLastError();
-    // A full disk may report success and a short count.
-    if (done != size) throw systemError(ERROR_DISK_FULL);
-  }
-
-  void flush() {
-    if (!calls_.flush(file_)) raiseLastError();
-  }
-
-  void close() {
-    const HANDLE file = file_;
-    file_ = INVALID_HANDLE_VALUE;
-    if (!calls_.close(file)) raiseLastError();
-  }
-
-  [[nodiscard]] HANDLE handle() const { return file_; }
-
- private:
-  HANDLE file_;
-  FileCalls& calls_;
-};
-
-// Undoes the writing of a temporary file unless it was kept.
-class Temporary {
- public:
-  Temporary(std::string path, FileCalls& calls) : path_(std::move(path)), calls_(calls) {}
-  Temporary(const Temporary&) = delete;
-  Temporary& operator=(const Temporary&) = delete;
-  ~Temporary() {
-    if (kept_) return;
-    calls_.setAttributes(path_, FILE_ATTRIBUTE_NORMAL);
-    calls_.remove(path_);
-  }
-  void keep() { kept_ = true; }
-
- private:
-  std::string path_;
-  FileCalls& calls_;
-  bool kept_ = false;
-};
-
-std::string readAll(HANDLE file, FileCalls& calls) {
-  LONGLONG size = 0;
-  if (!calls.size(file, size)) raiseLastError();
-  std::string content(static_cast<std::size_t>(size), '\0');
-  std::size_t at = 0;
-  while (at < content.size()) {
-    DWORD done = 0;
-    if (!calls.read(file, content.data() + at, static_cast<DWORD>(content.size() - at), done))
-      raiseLastError();
-    if (done == 0) throw systemError(ERROR_HANDLE_EOF);
-    at += done;
-  }
-  return content;
-}
-
-void overwrite(Output& output, FileCalls& calls, const std::string& content, std::size_t length) {
-  if (!calls.rewind(output.handle())) raiseLastError();
-  output.write(content);
-  if (content.size() < length && !calls.truncate(output.handle())) raiseLastError();
-  output.flush();
-}
-
-// The new content is complete before the file is touched, and goes out in one call; the old one
-// waits in memory and goes back where that fails.
-void writeInPlace(const std::string& path, const std::function<void(const FileSink&)>& produce,
-                  FileCalls& calls) {
-  std::string content;
-  produce([&](std::string_view piece) { content += piece; });
-  const HANDLE file = calls.open(path, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING);
-  if (file == INVALID_HANDLE_VALUE) raiseLastError();
-  Output output(file, calls);
-  const std::string old = readAll(file, calls);
-  try {
-    overwrite(output, calls, content, old.size());
-  } catch (...) {
-    overwrite(output, calls, old, std::string::npos);
-    throw;
-  }
-}
-
-// A temporary file that a crash left behind may be hidden, as its document is; Windows refuses
-// to write such a file anew.
-HANDLE openTemporary(const std::string& temporary, FileCalls& calls) {
-  const HANDLE file = calls.open(temporary, GENERIC_WRITE, CREATE_ALWAYS);
-  if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_ACCESS_DENIED) return file;
-  if (calls.setAttributes(temporary, FILE_ATTRIBUTE_NORMAL))
-    return calls.open(temporary, GENERIC_WRITE, CREATE_ALWAYS);
-  SetLastError(ERROR_ACCESS_DENIED);
-  return INVALID_HANDLE_VALUE;
-}
 
 // What one may set of `attributes`; the others say how a file is stored.
 DWORD settable(DWORD attributes) {
@@ -123,8 +20,125 @@ DWORD settable(DWORD attributes) {
   return wanted == 0 ? FILE_ATTRIBUTE_NORMAL : wanted;
 }
 
-bool isDirectory(DWORD attributes) {
-  return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+// The old file's second name while its first is the new one's.
+std::string secondName(const std::string& temporary) {
+  return temporary.substr(0, temporary.size() - 3) + "old";
+}
+
+// Removes what a crash may have left behind. It may be read-only or hidden, as its document is.
+void clearLeftover(const std::string& temporary, FileCalls& calls) {
+  if (calls.remove(temporary) || GetLastError() != ERROR_ACCESS_DENIED) return;
+  if (calls.setAttributes(temporary, FILE_ATTRIBUTE_NORMAL)) calls.remove(temporary);
+}
+
+// How a new file that takes an old one's place comes by what the old one is besides its bytes.
+enum class Manner {
+  swap,      // it has all of it
+  giveBack,  // not at all: the old file is kept under a second name, to come back
+  inPlace    // the same, where a file can have one name only
+};
+
+struct Plan {
+  Manner manner = Manner::swap;
+  bool mustComeBack = false;  // the old file; else what is saved may stay in the new one
+  std::string oldBytes;       // if so
+};
+
+// Access control is copied only where it differs from what a new file has of itself.
+bool takesSecurity(const std::string& from, const std::string& to, FileCalls& calls) {
+  const std::string wanted = calls.security(from);
+  if (calls.security(to) == wanted) return true;
+  calls.copySecurity(from, to);
+  return calls.security(to) == wanted;
+}
+
+Plan prepare(const SaveTarget& target, const std::string& temporary, FileCalls& calls) {
+  constexpr DWORD stored =
+      FILE_ATTRIBUTE_ENCRYPTED | FILE_ATTRIBUTE_COMPRESSED | FILE_ATTRIBUTE_SPARSE_FILE;
+  const bool whole = calls.securityIsWhole();
+  Plan plan;
+  plan.mustComeBack = target.links > 1 || (target.attributes & stored) != 0 ||
+                      calls.hasStreams(target.path) ||
+                      (whole && !takesSecurity(target.path, temporary, calls));
+  if (!plan.mustComeBack && whole) return plan;
+  {
+    // A file that others have open could neither come back nor lose a second name.
+    OpenFile old(openToRewrite(target.path, calls), calls);
+    if (plan.mustComeBack) plan.oldBytes = old.readAll();
+  }
+  if (calls.link(target.path, secondName(temporary))) {
+    plan.manner = Manner::giveBack;
+    // It is the document for a moment, and what a crash there leaves.
+    calls.copySecurity(target.path, temporary);
+  } else if (plan.mustComeBack || calls.security(temporary) != calls.security(target.path)) {
+    plan.manner = Manner::inPlace;
+  }
+  return plan;
+}
+
+void rewrite(const std::string& path, const FileProducer& produce, FileCalls& calls) {
+  OpenFile file(openToRewrite(path, calls), calls);
+  file.overwrite(produce);
+  file.close();
+}
+
+// Whether the old file is back, with its old bytes.
+bool restore(const SaveTarget& target, const std::string& second, const Plan& plan,
+             FileCalls& calls) {
+  if (!plan.mustComeBack) return false;
+  try {
+    rewrite(
+        second, [&](const FileSink& sink) { sink(plan.oldBytes); }, calls);
+    moveOver(second, target.path, calls);
+    return true;
+  } catch (...) {
+    return false;
+  }
+}
+
+// The new content stands under the name. The file that was there before gets it as well, under
+// its second name, and comes back with all that it is.
+void giveBack(const SaveTarget& target, const std::string& second, const FileProducer& produce,
+              const Plan& plan, FileCalls& calls) {
+  try {
+    rewrite(second, produce, calls);
+    moveOver(second, target.path, calls);
+  } catch (...) {
+    if (restore(target, second, plan, calls)) throw;
+    // It stays away then; what was to be saved is.
+    calls.remove(second);
+  }
+}
+
+// False where the file has to be written in place; nothing has happened then.
+bool swapIn(const SaveTarget& target, const FileProducer& produce, FileCalls& calls) {
+  const std::string temporary = temporaryName(target.path);
+  const std::string second = secondName(temporary);
+  clearLeftover(temporary, calls);
+  if (target.exists) calls.remove(second);
+
+  const HANDLE file = calls.create(temporary, target.attributes & FILE_ATTRIBUTE_ENCRYPTED);
+  if (file == INVALID_HANDLE_VALUE) {
+    if (target.exists && GetLastError() == ERROR_ACCESS_DENIED) return false;
+    raiseLastError();
+  }
+  Temporary undo(temporary, calls);
+  OpenFile output(file, calls);
+  const Plan plan = target.exists ? prepare(target, temporary, calls) : Plan();
+  if (plan.manner == Manner::inPlace) return false;
+  const bool comesBack = plan.manner == Manner::giveBack;
+  Temporary undoLink(comesBack ? second : std::string(), calls);
+
+  produce([&](std::string_view piece) { output.write(piece); });
+  output.flush();
+  output.close();
+  if (target.exists && !calls.setAttributes(temporary, settable(target.attributes)))
+    raiseLastError();
+  moveOver(temporary, target.path, calls);
+  undo.keep();
+  undoLink.keep();
+  if (comesBack) giveBack(target, second, produce, plan, calls);
+  return true;
 }
 
 }  // namespace
@@ -150,36 +164,17 @@ std::string temporaryName(const std::string& path) {
   return std::string(full.data(), name) + text;
 }
 
-void replaceFile(const std::string& path, const std::function<void(const FileSink&)>& produce,
-                 FileCalls& calls) {
-  const DWORD old = calls.attributes(path);
-  const bool exists = old != INVALID_FILE_ATTRIBUTES;
-  if (!exists) {
-    const DWORD reason = GetLastError();
-    if (reason != ERROR_FILE_NOT_FOUND) throw systemError(reason);
-  }
+void replaceFile(const std::string& path, const FileProducer& produce, FileCalls& calls) {
+  const SaveTarget target = findSaveTarget(path, calls);
+  Temporary undo(target.made ? target.path : std::string(), calls);
   // A move would step over the attribute that keeps the file from being changed.
-  if (exists && (isDirectory(old) || (old & FILE_ATTRIBUTE_READONLY) != 0))
-    throw systemError(ERROR_ACCESS_DENIED);
-
-  const std::string temporary = temporaryName(path);
-  const HANDLE file = openTemporary(temporary, calls);
-  if (file == INVALID_HANDLE_VALUE) {
-    if (!exists || GetLastError() != ERROR_ACCESS_DENIED) raiseLastError();
-    writeInPlace(path, produce, calls);
-    return;
+  if ((target.attributes & FILE_ATTRIBUTE_READONLY) != 0) throw systemError(ERROR_ACCESS_DENIED);
+  if (!target.reachable || !swapIn(target, produce, calls)) {
+    // It is complete before the file is touched.
+    std::string content;
+    produce([&](std::string_view piece) { content += piece; });
+    writeInPlace(target, content, calls);
   }
-  Temporary undo(temporary, calls);
-  Output output(file, calls);
-  produce([&](std::string_view piece) { output.write(piece); });
-  output.flush();
-  output.close();
-  if (exists) {
-    // Where a file system knows no owners there is nothing to take over.
-    calls.copySecurity(path, temporary);
-    if (!calls.setAttributes(temporary, settable(old))) raiseLastError();
-  }
-  if (!calls.replace(temporary, path)) raiseLastError();
   undo.keep();
 }
 

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "tests/support/scratch_folder_win.h"
@@ -26,12 +27,21 @@ class FailingFiles : public windowing::FileCalls {
     failAt_ = call;
     failure_ = failure;
     calls_ = 0;
+    bytesAtRisk_ = false;
   }
   /// Number of calls since `failAt`.
   [[nodiscard]] int calls() const { return calls_; }
+  /// Whether what failed, or was not done, was needed for the new bytes to be safe on the disk.
+  [[nodiscard]] bool bytesAtRisk() const { return bytesAtRisk_; }
 
-  bool noNewFiles = false;      ///< the folder lets nobody make a file
-  LONGLONG pretendedBytes = 0;  ///< added to every file's size
+  bool noNewFiles = false;       ///< the folder lets nobody make a file
+  bool noLinks = false;          ///< a file can have one name only
+  bool wholeSecurity = false;    ///< the descriptor tells all, as on Windows
+  bool streams = false;          ///< every file has a second stream
+  std::wstring leadsTo;          ///< where every file really is, as the system says it
+  std::string keepFolder;        ///< in place of the user's temporary files
+  std::function<void()> onWait;  ///< instead of waiting
+  LONGLONG pretendedBytes = 0;   ///< added to every file's size
 
   DWORD attributes(const std::string& path) override {
     return fails() ? INVALID_FILE_ATTRIBUTES : FileCalls::attributes(path);
@@ -40,21 +50,31 @@ class FailingFiles : public windowing::FileCalls {
     return !fails() && FileCalls::setAttributes(path, attributes);
   }
   HANDLE open(const std::string& path, DWORD access, DWORD disposition) override {
-    if (fails()) return INVALID_HANDLE_VALUE;
-    const DWORD there = GetFileAttributesA(path.c_str());
-    const bool isNew = there == INVALID_FILE_ATTRIBUTES;
-    // Windows makes no hidden file anew; not every system that runs its programs knows that.
-    const bool refused =
-        isNew ? noNewFiles : (there & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
-    if (disposition != CREATE_ALWAYS || !refused) return FileCalls::open(path, access, disposition);
-    SetLastError(ERROR_ACCESS_DENIED);
-    return INVALID_HANDLE_VALUE;
+    return fails() ? INVALID_HANDLE_VALUE : FileCalls::open(path, access, disposition);
+  }
+  HANDLE create(const std::string& path, DWORD attributes) override {
+    if (fails() || !takes(path)) return INVALID_HANDLE_VALUE;
+    return FileCalls::create(path, attributes);
+  }
+  HANDLE probe(const std::string& path) override {
+    return fails() || !takes(path) ? INVALID_HANDLE_VALUE : FileCalls::probe(path);
+  }
+  bool information(HANDLE file, BY_HANDLE_FILE_INFORMATION& facts) override {
+    return !fails() && FileCalls::information(file, facts);
+  }
+  bool finalName(HANDLE file, std::wstring& name) override {
+    if (fails() || !FileCalls::finalName(file, name)) return false;
+    if (!leadsTo.empty()) name = leadsTo;
+    return true;
   }
   bool read(HANDLE file, char* data, DWORD size, DWORD& done) override {
     return !fails() && FileCalls::read(file, data, size, done);
   }
   bool write(HANDLE file, const char* data, DWORD size, DWORD& done) override {
+    written_ = file;
+    unflushed_ = true;
     if (!fails()) return FileCalls::write(file, data, size, done);
+    bytesAtRisk_ = true;
     FileCalls::write(file, data, size / 2, done);
     SetLastError(failure_.error);
     return failure_.shortCount;
@@ -66,23 +86,58 @@ class FailingFiles : public windowing::FileCalls {
   }
   bool rewind(HANDLE file) override { return !fails() && FileCalls::rewind(file); }
   bool truncate(HANDLE file) override { return !fails() && FileCalls::truncate(file); }
-  bool flush(HANDLE file) override { return !fails() && FileCalls::flush(file); }
+  bool flush(HANDLE file) override {
+    unflushed_ = false;
+    if (!fails()) return FileCalls::flush(file);
+    bytesAtRisk_ = true;
+    return false;
+  }
   bool close(HANDLE file) override {
     const bool failed = fails();
     // A handle is gone even where closing it reports that the last bytes got lost.
     const bool closed = FileCalls::close(file);
-    if (failed) SetLastError(failure_.error);
+    if (failed) {
+      bytesAtRisk_ = bytesAtRisk_ || file == written_;
+      SetLastError(failure_.error);
+    }
+    written_ = file == written_ ? INVALID_HANDLE_VALUE : written_;
     return closed && !failed;
   }
+  std::string security(const std::string& path) override {
+    return fails() ? std::string() : FileCalls::security(path);
+  }
+  bool securityIsWhole() override { return wholeSecurity || FileCalls::securityIsWhole(); }
+  bool hasStreams(const std::string& path) override {
+    return !fails() && (streams || FileCalls::hasStreams(path));
+  }
+  bool link(const std::string& path, const std::string& name) override {
+    return !fails() && !noLinks && FileCalls::link(path, name);
+  }
   bool copySecurity(const std::string& from, const std::string& to) override {
+    ++securityCopies;
     return !fails() && FileCalls::copySecurity(from, to);
   }
   bool replace(const std::string& temporary, const std::string& target) override {
+    bytesAtRisk_ = bytesAtRisk_ || unflushed_;
     return !fails() && FileCalls::replace(temporary, target);
   }
   bool remove(const std::string& path) override { return !fails() && FileCalls::remove(path); }
+  std::string temporaryFolder() override {
+    return keepFolder.empty() ? FileCalls::temporaryFolder() : keepFolder + "\\";
+  }
+  void wait(DWORD milliseconds) override {
+    waited += milliseconds;
+    if (onWait) onWait();
+  }
+  DWORD waited = 0;        ///< milliseconds in all
+  int securityCopies = 0;  ///< in all
 
  private:
+  [[nodiscard]] bool takes(const std::string& path) const {
+    if (!noNewFiles || (!keepFolder.empty() && path.starts_with(keepFolder))) return true;
+    SetLastError(ERROR_ACCESS_DENIED);
+    return false;
+  }
   bool fails() {
     ++calls_;
     if (failAt_ == 0 || calls_ < failAt_ || (calls_ > failAt_ && !failure_.onwards)) return false;
@@ -93,6 +148,9 @@ class FailingFiles : public windowing::FileCalls {
   Failure failure_;
   int failAt_ = 0;
   int calls_ = 0;
+  HANDLE written_ = INVALID_HANDLE_VALUE;
+  bool unflushed_ = false;
+  bool bytesAtRisk_ = false;
 };
 
 /// The file's bytes; "(none)" where there is no such file.
