@@ -1,6 +1,8 @@
 // A form with icon menus: it owns an ICOMNU and an image list besides its controls.
 #pragma once
 
+#include <string_view>
+
 #include "windowing/form_win.h"
 #include "windowing/image_list_win.h"
 #include "windowing/runtime_error.h"
@@ -24,5 +26,20 @@ class CommandForm : public windowing::Form {
                                   std::string(name()) + " has no " + what);
   }
 };
+
+/// Raises that the command with this caption could not be carried out for want of memory.
+[[noreturn]] void raiseOutOfMemory(std::string_view caption);
+
+/// Runs what a command does. Out of memory is raised with the command's name; other errors as they
+/// are.
+template <typename Step>
+void attempt(std::string_view caption, Step step) {
+  try {
+    step();
+  } catch (const std::exception& error) {
+    if (!windowing::isOutOfMemory(error)) throw;
+    raiseOutOfMemory(caption);
+  }
+}
 
 }  // namespace library

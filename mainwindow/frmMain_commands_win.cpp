@@ -75,7 +75,12 @@ bool frmMain::handleKey(const MSG& message) {
 }
 
 void frmMain::runCommand(int command) {
-  if (findCommand(command) == nullptr || !commandEnabled(command)) return;
+  const Command* known = findCommand(command);
+  if (known == nullptr || !commandEnabled(command)) return;
+  library::attempt(known->caption, [&] { carryOut(command); });
+}
+
+void frmMain::carryOut(int command) {
   switch (command) {
     case id::NEW:
       return newDocument();
@@ -127,7 +132,8 @@ void frmMain::runCommand(int command) {
 // Every button runs its menu item's command but one: Print composes the contact on screen and
 // prints it without a dialog.
 void frmMain::onToolButton(int command) {
-  if (command == id::PRINT && commandEnabled(command)) return printAtOnce();
+  if (command == id::PRINT && commandEnabled(command))
+    return library::attempt(findCommand(command)->caption, [this] { printAtOnce(); });
   runCommand(command);
 }
 

@@ -4,11 +4,13 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "document/ContactList.h"
 #include "library/command_form_win.h"
 #include "library/command_hints_win.h"
+#include "mainwindow/document_file_win.h"
 #include "windowing/file_calls_win.h"
 #include "windowing/form_win.h"
 #include "windowing/richtextbox_win.h"
@@ -43,7 +45,8 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] const document::ContactList& contacts() const { return list_; }
   [[nodiscard]] const std::string& documentPath() const { return CMD1.fileName; }
   [[nodiscard]] bool modified() const;
-  /// Runs the command with this identifier, if it is offered; any other does nothing.
+  /// Runs the command with this identifier, if it is offered; any other does nothing. Raises what
+  /// the command does not tell the user itself; out of memory names the command.
   void runCommand(int id);
 
   /// The calls through which documents are written; a test lets them fail.
@@ -122,7 +125,7 @@ class frmMain : public library::CommandForm {
   bool saveTo(const std::string& path);
   void openPath(const std::string& path);
   void setDocumentPath(const std::string& path);
-  void tellUnread(const std::string& path, const std::string& reason);
+  void tellUnread(const std::string& path, const windowing::RuntimeError& error);
   [[nodiscard]] std::string rememberedFolder(const char* value) const;
   void rememberFolder(const char* value, const std::string& file);
 
@@ -137,6 +140,7 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] bool commandEnabled(int id) const;
   void setCommandChecked(int id, bool checked);
   [[nodiscard]] bool commandChecked(int id) const;
+  void carryOut(int id);
   void addByUser();
   void buildToolbar();
   void toggleBar(int id);
@@ -162,9 +166,11 @@ class frmMain : public library::CommandForm {
   library::CommandHints hints_{*this, "tellary"};
   windowing::FileCalls realFileCalls_;
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
-  bool ready_ = false;     ///< controls, menus and settings are in place
-  bool filling_ = false;   ///< the program itself changes the boxes
-  bool asking_ = false;    ///< the user is asked whether the document may be given up
+  bool ready_ = false;    ///< controls, menus and settings are in place
+  bool filling_ = false;  ///< the program itself changes the boxes
+  bool asking_ = false;   ///< the user is asked whether the document may be given up
+  /// The document's file as this program read or wrote it last; nothing where it was not there.
+  std::optional<FileStamp> onDisk_;
   bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
 };
 

@@ -94,7 +94,12 @@ bool frmPPrev::handleKey(const MSG& message) {
 }
 
 void frmPPrev::runCommand(int command) {
-  if (!commandEnabled(command)) return;
+  const PreviewCommand* known = findPreviewCommand(command);
+  if (known == nullptr || !commandEnabled(command)) return;
+  library::attempt(known->caption, [&] { carryOut(command); });
+}
+
+void frmPPrev::carryOut(int command) {
   for (const ZoomLevel& level : zoomLevels) {
     if (level.command != command) continue;
     CBOPGZOOM().select(zoomIndex(level.text).value_or(0));
@@ -130,7 +135,8 @@ void frmPPrev::runCommand(int command) {
 
 // Every button runs its menu item's command but one: Print prints everything without a dialog.
 void frmPPrev::onToolButton(int command) {
-  if (command == id::PRINT && commandEnabled(command)) return print(true);
+  if (command == id::PRINT && commandEnabled(command))
+    return library::attempt(findPreviewCommand(command)->caption, [this] { print(true); });
   runCommand(command);
 }
 

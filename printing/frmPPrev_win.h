@@ -65,6 +65,7 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   void applyView();
   void toggleBar(int command);
   void store();
+  void carryOut(int command);
   void print(bool atOnce);
   [[nodiscard]] windowing::StatusBar SBMAIN() const;
   [[nodiscard]] windowing::ToolBar TBARMAIN() const;

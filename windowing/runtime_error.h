@@ -2,6 +2,7 @@
 // caught in event handlers, nowhere else but where errors are ignored on purpose.
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -43,6 +44,12 @@ class RuntimeError : public std::runtime_error {
 }
 [[noreturn]] inline void raiseTypeMismatch() {
   throw RuntimeError(ErrorNumber::typeMismatch, "Type mismatch");
+}
+
+/// Whether an error says that there is too little memory, for a step or for anyone.
+[[nodiscard]] inline bool isOutOfMemory(const std::exception& error) {
+  return dynamic_cast<const std::bad_alloc*>(&error) != nullptr ||
+         dynamic_cast<const std::length_error*>(&error) != nullptr;
 }
 
 }  // namespace windowing

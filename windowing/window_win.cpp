@@ -68,11 +68,14 @@ void reportError(const std::exception& error) {
   static bool reporting = false;
   if (reporting) return;
   reporting = true;
-  std::string text = error.what();
-  if (const auto* known = dynamic_cast<const RuntimeError*>(&error))
-    text =
-        "Run-time error " + std::to_string(static_cast<int>(known->number())) + ":\r\n\r\n" + text;
   try {
+    const RuntimeError memory(ErrorNumber::outOfMemory, "Out of memory");
+    const auto* known = dynamic_cast<const RuntimeError*>(&error);
+    if (isOutOfMemory(error)) known = &memory;
+    std::string text = known == nullptr ? error.what() : known->what();
+    if (known != nullptr)
+      text = "Run-time error " + std::to_string(static_cast<int>(known->number())) + ":\r\n\r\n" +
+             text;
     seams().messageBox(dialogOwner(), text, productName(), MB_ICONSTOP | MB_OK);
   } catch (const std::exception&) {
     // Nobody is left to be told.
