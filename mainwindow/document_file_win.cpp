@@ -21,6 +21,16 @@ bool identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& facts) {
   return file && GetFileInformationByHandle(file.get(), &facts) != FALSE;
 }
 
+std::uint64_t joined(DWORD high, DWORD low) {
+  constexpr int halfBits = 32;
+  return static_cast<std::uint64_t>(high) << halfBits | low;
+}
+
+FileStamp stampOf(const BY_HANDLE_FILE_INFORMATION& facts) {
+  return {joined(facts.nFileSizeHigh, facts.nFileSizeLow),
+          joined(facts.ftLastWriteTime.dwHighDateTime, facts.ftLastWriteTime.dwLowDateTime)};
+}
+
 }  // namespace
 
 FileContent readFile(const std::string& path, windowing::FileCalls& calls) {
@@ -28,6 +38,8 @@ FileContent readFile(const std::string& path, windowing::FileCalls& calls) {
   if (!file) windowing::raiseLastError();
   // A device would be read for ever.
   if (GetFileType(file.get()) != FILE_TYPE_DISK) throw windowing::systemError(ERROR_ACCESS_DENIED);
+  BY_HANDLE_FILE_INFORMATION facts{};
+  if (!calls.information(file.get(), facts)) windowing::raiseLastError();
   LONGLONG size = 0;
   if (!calls.size(file.get(), size)) windowing::raiseLastError();
   if (size > std::numeric_limits<LONG>::max()) throw windowing::systemError(ERROR_OUTOFMEMORY);
@@ -43,7 +55,13 @@ FileContent readFile(const std::string& path, windowing::FileCalls& calls) {
   }
   const bool whole = at == bytes.size();
   bytes.shrink(at);
-  return {std::move(bytes), whole};
+  return {std::move(bytes), whole, stampOf(facts)};
+}
+
+std::optional<FileStamp> stampOf(const std::string& path) {
+  BY_HANDLE_FILE_INFORMATION facts{};
+  if (!identify(path, facts)) return std::nullopt;
+  return stampOf(facts);
 }
 
 bool sameFile(const std::string& one, const std::string& other) {

@@ -57,8 +57,10 @@ void frmMain::FILELOAD(const std::string& path) {
   list_.clear();
   std::exception_ptr failure;
   readWhole_ = false;
+  onDisk_.reset();
   try {
     FileContent content = readFile(path, *fileCalls_);
+    onDisk_ = content.stamp;
     const document::ReadOutcome outcome = document::read(std::move(content.bytes), list_);
     readWhole_ = content.whole && outcome.result == document::ReadResult::whole;
     if (outcome.result == document::ReadResult::overflow) windowing::raiseOverflow();
@@ -84,6 +86,7 @@ void frmMain::FILESAVEAS(const std::string& path) {
   StoreCurrent();
   windowing::replaceFile(
       path, [this](const windowing::FileSink& sink) { document::write(list_, sink); }, *fileCalls_);
+  onDisk_ = stampOf(path);
   SETSAVE("FALSE");
 }
 
@@ -97,10 +100,11 @@ void frmMain::setDocumentPath(const std::string& path) {
 }
 
 std::string frmMain::rememberedFolder(const char* value) const {
-  const std::string folder =
-      LIBRARY().REGSTRREAD(library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value,
-                           LIBRARY().FILESLOCATION());
-  return library::bareDriveToRoot(folder);
+  const std::string otherwise = LIBRARY().FILESLOCATION();
+  const std::string folder = library::bareDriveToRoot(LIBRARY().REGSTRREAD(
+      library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value, otherwise));
+  // A device, a file or a drive that is away ends the program inside the system's dialog.
+  return LIBRARY().FOLDEREXIST(folder) ? folder : otherwise;
 }
 
 void frmMain::rememberFolder(const char* value, const std::string& file) {
@@ -116,7 +120,7 @@ void frmMain::openPath(const std::string& path) {
   std::exception_ptr failure;
   try {
     FILELOAD(path);
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     failure = std::current_exception();
   }
   SETTITLE(path);
@@ -128,7 +132,7 @@ void frmMain::openNamedAtStart(const std::string& path) {
   load();
   try {
     openPath(path);
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     // Start-up tells nothing: the title names the file, and what was read is on screen.
   }
 }
@@ -155,6 +159,7 @@ void frmMain::startNewDocument() {
   list_.clear();
   setDocumentPath("");
   readWhole_ = true;
+  onDisk_.reset();
   SETTITLE("");
   emptyFields();
   CBOTBARBOX().clear();
@@ -181,17 +186,24 @@ void frmMain::openDocument() {
   try {
     openPath(*chosen);
   } catch (const RuntimeError& error) {
-    tellUnread(*chosen, error.what());
+    tellUnread(*chosen, error);
   }
   focusFirstField();
 }
 
-void frmMain::tellUnread(const std::string& path, const std::string& reason) {
-  const std::string read = std::to_string(list_.count());
-  std::string text = "The document '" + path + "' could not be read completely.\r\n" + read +
-                     (list_.count() == 1 ? " contact was read." : " contacts were read.") +
-                     "\r\n\r\n" + reason;
-  if (!text.ends_with('.')) text += '.';
+void frmMain::tellUnread(const std::string& path, const RuntimeError& error) {
+  std::string text;
+  if (error.number() == ErrorNumber::fileNotFound) {
+    text = "The document '" + path + "' does not exist.";
+  } else if (error.number() == ErrorNumber::pathNotFound) {
+    text = "The folder of the document '" + path + "' does not exist.";
+  } else {
+    text = "The document '" + path + "' could not be read completely.\r\n" +
+           std::to_string(list_.count()) +
+           (list_.count() == 1 ? " contact was read." : " contacts were read.") + "\r\n\r\n" +
+           error.what();
+    if (!text.ends_with('.')) text += '.';
+  }
   windowing::seams().messageBox(windowing::dialogOwner(), text, "Open", MB_OK | MB_ICONEXCLAMATION);
 }
 
@@ -209,6 +221,9 @@ bool frmMain::saveTo(const std::string& path) {
 bool frmMain::SaveDocument() {
   // What a broken file still holds beyond the contacts read must not be written over.
   if (CMD1.fileName.empty() || !readWhole_) return saveAs();
+  // Somebody else has written to the file, or made one of this name.
+  const std::optional<FileStamp> now = stampOf(CMD1.fileName);
+  if (now && now != onDisk_ && !LIBRARY().OVERWRITECHK(CMD1.fileName)) return false;
   return saveTo(CMD1.fileName);
 }
 

@@ -4,7 +4,9 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include "library/clsLibrary_win.h"
 #include "library/identifiers.h"
+#include "library/own_keys_win.h"
 #include "tests/support/main_window_win.h"
 
 namespace {
@@ -75,15 +77,21 @@ TEST_F(Document, WhoeverWantsToEndTheProgramWaitsForTheQuestionOnScreen) {
 
 TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
   open(contactsFile({"Ash", "Birch"}));
-  const Names bad{scratch.folder("folder"), scratch / "missing.tly",
-                  scratch.file("short.tly", "\"a\"\r\n"), "NUL"};
-  for (const std::string& path : bad) {
+  const struct {
+    std::string path, told;
+  } bad[] = {{scratch.folder("folder"), "0 contacts were read"},
+             {scratch / "missing.tly", "missing.tly' does not exist."},
+             {scratch / "gone\\a.tly", "The folder of the document '"},
+             {scratch.file("short.tly", "\"a\"\r\n"), "could not be read completely"},
+             {"NUL", "0 contacts were read"}};
+  for (const auto& [path, told] : bad) {
     SCOPED_TRACE(path);
     boxes.clear();
     open(path);
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].title, "Open");
     EXPECT_NE(boxes[0].text.find("'" + path + "'"), std::string::npos) << boxes[0].text;
+    EXPECT_NE(boxes[0].text.find(told), std::string::npos) << boxes[0].text;
     EXPECT_EQ(form.contacts().count(), 0);
     EXPECT_TRUE(names().empty());
     EXPECT_EQ(text(id::textItem(0)), "");
@@ -91,6 +99,42 @@ TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
     EXPECT_FALSE(enabled(id::REMOVE));
     EXPECT_EQ(text(id::LBLDESC), "Tellary - (" + path + ")");
   }
+}
+
+TEST_F(Document, HandsOnlyFoldersThatAreThereToTheDialogs) {
+  const std::string section = library::ownKey("\\frmMain\\Items");
+  const std::string otherwise = library::LIBRARY().FILESLOCATION();
+  const std::string file = contactsFile({"Ash"});
+  for (const auto& [command, value] :
+       {std::pair{id::OPEN, "CMD Open Folder"}, std::pair{id::SAVEAS, "CMD Save Folder"}}) {
+    for (const std::string& stored : {std::string("con"), std::string("NUL:"), file,
+                                      scratch / "gone", std::string("\\\\.\\C:")}) {
+      SCOPED_TRACE(stored);
+      library::LIBRARY().REGSTRWRITE(library::currentUserRoot, section, value, stored);
+      run(command);
+      EXPECT_EQ(dialogs.back().folder, otherwise);
+    }
+    library::LIBRARY().REGSTRWRITE(library::currentUserRoot, section, value, scratch.path());
+    run(command);
+    EXPECT_EQ(dialogs.back().folder, scratch.path());
+  }
+}
+
+TEST_F(Document, RunningOutOfMemoryNamesTheCommandAndGoesOn) {
+  {
+    const windowing::Replaced none(
+        windowing::seams().fileDialog,
+        [](auto&&...) -> std::optional<std::string> { throw std::bad_alloc(); });
+    run(id::OPEN);
+  }
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0].text,
+            "Run-time error 7:\r\n\r\nOut of memory. \"Open...\" could not be carried out.");
+  boxes.clear();
+  windowing::reportError(std::length_error("string too long"));
+  EXPECT_EQ(boxes[0].text, "Run-time error 7:\r\n\r\nOut of memory");
+  open(contactsFile({"Ash"}));
+  EXPECT_EQ(text(id::textItem(0)), "Ash");
 }
 
 // The strips cover one another while they move, and what the system keeps of them is not enough.

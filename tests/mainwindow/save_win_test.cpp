@@ -206,6 +206,44 @@ TEST_F(Saving, AFileThatCouldNotBeOpenedIsNotWrittenOverEither) {
   EXPECT_TRUE(boxes.empty());
 }
 
+TEST_F(Saving, AsksBeforeItWritesOverWhatSomebodyElseWrote) {
+  const std::string mine = contacts(1, "f");
+  const std::string theirs = contacts(2, "g");
+  const std::string alike = contacts(1, "h");  // as long as mine
+  const struct {
+    std::string before;  // what the document is opened on; nothing where it is not there
+    std::string then;
+  } rows[] = {{"", theirs}, {mine, theirs}, {mine, alike}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.before + " -> " + row.then);
+    DeleteFileA(path_.c_str());
+    if (!row.before.empty()) putFile(path_, row.before);
+    form.openNamedAtStart(path_);
+    if (row.before.empty()) run(id::ADD);
+    edit("typed");
+    Sleep(20);  // files on some disks know no shorter time
+    putFile(path_, row.then);
+    for (const int answer : {IDNO, IDYES}) {
+      answers = {answer};
+      save();
+      ASSERT_EQ(boxes.size(), 1U);
+      EXPECT_EQ(boxes[0].text, "The document '" + path_ +
+                                   "' already exists.\r\nDo you really want to overwrite this ?");
+      EXPECT_EQ(form.modified(), answer == IDNO);
+      EXPECT_EQ(bytesOf(path_) == row.then, answer == IDNO);
+    }
+    // What this window has written, or what has vanished, needs no question.
+    edit("more");
+    save();
+    DeleteFileA(path_.c_str());
+    save();
+    edit("again");
+    save();
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_FALSE(form.modified());
+  }
+}
+
 // A disk that is really full. It takes a small file system, which tools/full_disk.sh makes.
 TEST_F(Saving, AFullDiskKeepsTheOldDocumentUntilThereIsRoom) {
   char small[MAX_PATH] = {};
