@@ -13,6 +13,7 @@
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 #include "windowing/shell_win.h"
+#include "windowing/system_error_win.h"
 
 namespace library {
 namespace {
@@ -24,28 +25,31 @@ DWORD attributesOf(const std::string& path) {
   return plain ? GetFileAttributesA(path.c_str()) : INVALID_FILE_ATTRIBUTES;
 }
 
-bool isPlainTarget(const std::string& path) {
-  return isFullPath(path) && !hasWildcards(path) && path.find('\0') == std::string::npos;
+// Path lengths are the shell's concern. But one that stands in for Windows, known by an export of
+// its own, copies paths into buffers of this size, and a longer one would end the program.
+bool shellSurvives(const std::string& path) {
+  static const bool standIn =
+      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+  const int bytes = static_cast<int>(path.size());
+  return !standIn || MultiByteToWideChar(CP_ACP, 0, path.data(), bytes, nullptr, 0) < MAX_PATH;
 }
 
-// The shell copies paths into buffers of this size and does not survive longer ones.
-bool fitsShell(const std::string& path) {
-  return path.size() < MAX_PATH;
-}
-
-// Without a full path the shell deletes for good instead of moving to the recycle bin. The
-// only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
+// The only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
 // its result is not looked at.
-void shellOperation(UINT function, const std::string& from, const std::string* to) {
-  if (!isSafeToDelete(from) || !fitsShell(from)) return;
-  if (to != nullptr && !(isPlainTarget(*to) && fitsShell(*to))) return;
+void shellOperation(UINT function, const std::string& from, const std::string& to) {
+  const HWND owner = windowing::dialogOwner();
+  if (!shellSurvives(from) || !shellSurvives(to)) {
+    windowing::seams().messageBox(owner, windowing::systemError(ERROR_FILENAME_EXCED_RANGE).what(),
+                                  windowing::productName(), MB_OK | MB_ICONSTOP);
+    return;
+  }
   const std::string fromList = doubleNulList(from);
-  const std::string toList = to == nullptr ? std::string() : doubleNulList(*to);
+  const std::string toList = doubleNulList(to);
   SHFILEOPSTRUCTA operation{};
-  operation.hwnd = windowing::dialogOwner();
+  operation.hwnd = owner;
   operation.wFunc = function;
   operation.pFrom = fromList.data();
-  operation.pTo = to == nullptr ? nullptr : toList.data();
+  operation.pTo = function == FO_DELETE ? nullptr : toList.data();
   operation.fFlags = FOF_ALLOWUNDO;
   const windowing::DisabledOthers others(operation.hwnd);
   windowing::prepareShell();
@@ -82,16 +86,19 @@ bool clsLibrary::FOLDEREXIST(const std::string& FILELOCATION) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+// Without a full path the shell deletes for good instead of moving to the recycle bin.
 void clsLibrary::FILEDELETE(const std::string& FILEPATH) {
-  shellOperation(FO_DELETE, FILEPATH, nullptr);
+  if (isSafeToDelete(FILEPATH)) shellOperation(FO_DELETE, FILEPATH, "");
 }
 
+// Moved and renamed is whatever the shell makes of both paths: patterns and names in the current
+// folder too.
 void clsLibrary::FILEMOVE(const std::string& FILELOCATION, const std::string& FILEDESTINATION) {
-  shellOperation(FO_MOVE, FILELOCATION, &FILEDESTINATION);
+  shellOperation(FO_MOVE, FILELOCATION, FILEDESTINATION);
 }
 
 void clsLibrary::FILERENAME(const std::string& CURRENTFILENAME, const std::string& NEWFILENAME) {
-  shellOperation(FO_RENAME, CURRENTFILENAME, &NEWFILENAME);
+  shellOperation(FO_RENAME, CURRENTFILENAME, NEWFILENAME);
 }
 
 bool clsLibrary::OVERWRITECHK(const std::string& CURRENTFILENAME) {

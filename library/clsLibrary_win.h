@@ -123,12 +123,11 @@ class clsLibrary {
   bool FILEEXISTS(const std::string& FILEPATH);
   /// Whether there is a folder of this path, with or without a final backslash.
   bool FOLDEREXIST(const std::string& FILELOCATION);
-  /// Has the shell put a file into the recycle bin; it asks and reports itself. This and the two
-  /// that follow take full paths of one file or folder and do nothing for any other.
+  /// Has the shell put a file into the recycle bin; it asks and reports itself. Nothing for
+  /// all but the full path of one file or folder.
   void FILEDELETE(const std::string& FILEPATH);
-  /// Has the shell move a file.
+  /// Has the shell move or rename what it finds by the path or pattern given.
   void FILEMOVE(const std::string& FILELOCATION, const std::string& FILEDESTINATION);
-  /// Has the shell rename a file.
   void FILERENAME(const std::string& CURRENTFILENAME, const std::string& NEWFILENAME);
   /// Whether the caller may write a file of this name: there is none, or the user agrees.
   bool OVERWRITECHK(const std::string& CURRENTFILENAME);

@@ -75,22 +75,40 @@ TEST(Files, FilesAndFoldersAreToldApart) {
   }
 }
 
-// Nothing but one file with its full path ever reaches the shell, which takes patterns.
-TEST(Files, OnlyAWholePathIsMovedRenamedOrDeleted) {
+// The shell takes patterns and names in the current folder: what is deleted is named in full.
+TEST(Files, OnlyAWholePathIsDeleted) {
   const ScratchFolder folder;
   const std::string file = folder.file("a.tly");
   DialogDriver driver(IDYES);
   for (const std::string& path :
-       {folder / "*.tly", std::string("C:a.tly"), overlong, file + std::string("\0x", 2)}) {
+       {folder / "*.tly", std::string("C:a.tly"), file + std::string("\0x", 2)})
     LIBRARY().FILEDELETE(path);
-    LIBRARY().FILEMOVE(path, folder / "moved.tly");
-    LIBRARY().FILERENAME(file, path);
-  }
   EXPECT_TRUE(ScratchFolder::exists(file));
   EXPECT_TRUE(driver.seen().empty());
-  LIBRARY().FILERENAME(file, folder / "b.tly");
-  LIBRARY().FILEMOVE(folder / "b.tly", folder.folder("inner"));
-  EXPECT_TRUE(ScratchFolder::exists(folder / "inner\\b.tly"));
+}
+
+TEST(Files, WhateverTheShellTakesIsMovedAndRenamed) {
+  const ScratchFolder folder;
+  const std::string inner = folder.folder("inner");
+  for (const char* name : {"a.tly", "c.one"}) folder.file(name);
+  SetCurrentDirectoryA(folder.path().c_str());
+  LIBRARY().FILERENAME("a.tly", "b.tly");
+  LIBRARY().FILEMOVE("b.tly", "inner");
+  LIBRARY().FILEMOVE(folder / "*.one", inner);
+  SetCurrentDirectoryA("C:\\");
+  for (const char* name : {"\\b.tly", "\\c.one"})
+    EXPECT_TRUE(ScratchFolder::exists(inner + name)) << name;
+}
+
+TEST(Files, APathTooLongForTheShellIsReported) {
+  const ScratchFolder folder;
+  const std::string file = folder.file("a.tly");
+  DialogDriver driver(IDOK);
+  LIBRARY().FILEMOVE(overlong, folder.path());
+  LIBRARY().FILERENAME(file, overlong);
+  LIBRARY().FILEDELETE(overlong);
+  EXPECT_EQ(driver.seen().size(), 3U);
+  EXPECT_TRUE(ScratchFolder::exists(file));
 }
 
 TEST(Files, BrowsingHandsTheFolderOnAndOutlivesABrokenForm) {
