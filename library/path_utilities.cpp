@@ -16,6 +16,12 @@ bool isLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
+// Begins at a drive's root or at a network share.
+bool isFullPath(std::string_view path) {
+  if (path.starts_with("\\\\")) return path.size() > 2;
+  return path.size() > 2 && isLetter(path[0]) && path[1] == ':' && path[2] == '\\';
+}
+
 }  // namespace
 
 std::size_t lastBackslash(std::string_view path, LeadByteTest isLead) {
@@ -77,11 +83,6 @@ std::string withDefaultExtension(std::string_view path, std::string_view extensi
   std::string result(path);
   if (!name.empty() && name.find('.') == std::string_view::npos) result += extension;
   return result;
-}
-
-bool isFullPath(std::string_view path) {
-  if (path.starts_with("\\\\")) return path.size() > 2;
-  return path.size() > 2 && isLetter(path[0]) && path[1] == ':' && path[2] == '\\';
 }
 
 bool isSafeToDelete(std::string_view path) {

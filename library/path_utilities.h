@@ -47,9 +47,6 @@ using LeadByteTest = bool (*)(unsigned char);
 [[nodiscard]] std::string withDefaultExtension(std::string_view path, std::string_view extension,
                                                LeadByteTest isLead = noLeadBytes);
 
-/// Whether `path` begins at a drive's root ("C:\...") or at a network share ("\\...").
-[[nodiscard]] bool isFullPath(std::string_view path);
-
 /// Whether the shell may be asked to delete `path`: a full path of one file. Anything else is
 /// refused, since the shell would delete it for good or delete other files.
 [[nodiscard]] bool isSafeToDelete(std::string_view path);

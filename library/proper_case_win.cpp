@@ -11,22 +11,28 @@
 namespace library {
 namespace {
 
-std::size_t nextBackslash(const std::string& path, std::size_t from) {
+// Windows takes "/" in a path like the backslash.
+bool isSeparator(char c) {
+  return c == '\\' || c == '/';
+}
+
+std::size_t nextSeparator(const std::string& path, std::size_t from) {
   for (std::size_t i = from; i < path.size(); ++i) {
     if (windowing::isLeadByte(static_cast<unsigned char>(path[i])))
       ++i;
-    else if (path[i] == '\\')
+    else if (isSeparator(path[i]))
       return i;
   }
   return path.size();
 }
 
-// Length of what is no name on a disk: "C:\", or "\\server\share\".
+// Length of what is no name on a disk: "C:\", or "\\server\share\". Of "C:windows" it is the drive
+// alone: the name is looked for in the drive's current folder.
 std::size_t prefixLength(const std::string& path) {
-  if (!path.starts_with("\\\\"))
-    return path.size() >= 3 && path[1] == ':' && path[2] == '\\' ? 3 : 0;
+  if (path.size() >= 2 && path[1] == ':') return path.size() >= 3 && isSeparator(path[2]) ? 3 : 2;
+  if (path.size() < 2 || !isSeparator(path[0]) || !isSeparator(path[1])) return 0;
   std::size_t end = 2;
-  for (int part = 0; part < 2; ++part) end = std::min(nextBackslash(path, end) + 1, path.size());
+  for (int part = 0; part < 2; ++part) end = std::min(nextSeparator(path, end) + 1, path.size());
   return end;
 }
 
@@ -48,9 +54,9 @@ std::string PROPERCASEPATH(const std::string& path) {
   std::size_t at = prefixLength(path);
   std::string result = path.substr(0, at);
   while (at < path.size()) {
-    const std::size_t end = nextBackslash(path, at);
+    const std::size_t end = nextSeparator(path, at);
     if (end > at) result += foundName(result, path.substr(at, end - at));
-    if (end < path.size()) result += '\\';
+    if (end < path.size()) result += path[end];
     at = end + 1;
   }
   return result;
