@@ -2,24 +2,38 @@
 
 #include <windows.h>
 
+#include "windowing/number_sign.h"
+
 namespace windowing {
 namespace {
 
-char firstCharacter(LCTYPE information, char otherwise) {
-  char text[8] = {};
-  const int size = GetLocaleInfoA(LOCALE_USER_DEFAULT, information, text, sizeof text);
-  return size > 0 ? text[0] : otherwise;
+// The character as one byte of the ANSI code page; NUL where it has none. What merely looks alike
+// counts for nothing.
+char inCodePage(wchar_t character) {
+  if (character < 0x80) return static_cast<char>(character);
+  char bytes[8] = {};
+  BOOL replaced = FALSE;
+  const int length = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, &character, 1, bytes,
+                                         sizeof bytes, nullptr, &replaced);
+  return length == 1 && !replaced ? bytes[0] : '\0';
+}
+
+// The user's sign, or the first character of one that is longer, read as wide text: the ANSI
+// function answers "?" for what the code page lacks.
+char userSign(LCTYPE information, char otherwise) {
+  wchar_t text[8] = {};
+  if (GetLocaleInfoW(LOCALE_USER_DEFAULT, information, text, 8) == 0) return otherwise;
+  return numberSign(static_cast<char16_t>(text[0]), inCodePage(text[0]), otherwise);
 }
 
 }  // namespace
 
 char userDecimalSign() {
-  const char sign = firstCharacter(LOCALE_SDECIMAL, '.');
-  return sign == '\0' ? '.' : sign;
+  return userSign(LOCALE_SDECIMAL, '.');
 }
 
 char userGroupSeparator() {
-  return firstCharacter(LOCALE_STHOUSAND, '\0');
+  return userSign(LOCALE_STHOUSAND, '\0');
 }
 
 bool isLeadByte(unsigned char byte) {

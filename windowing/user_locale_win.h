@@ -4,8 +4,9 @@
 
 namespace windowing {
 
-/// Sign between whole and decimal digits, and between groups of thousands. The group sign is
-/// NUL where the user has none.
+/// Sign between whole and decimal digits, and between groups of thousands. A space of any width
+/// is a blank. Where the code page lacks the sign, the decimal one is "." and the group one NUL,
+/// as where the user has none.
 [[nodiscard]] char userDecimalSign();
 [[nodiscard]] char userGroupSeparator();
 
