@@ -7,6 +7,7 @@
 
 #include "library/identifiers.h"
 #include "tests/support/scratch_registry_win.h"
+#include "windowing/application_win.h"
 #include "windowing/fonts_win.h"
 #include "windowing/handles_win.h"
 #include "windowing/seams_win.h"
@@ -37,7 +38,10 @@ TEST_F(AboutBox, NamesTheOwnersOfTheirOwnPlacesWithoutAccessKeys) {
   ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOwner", "Mill & Sons");
   ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOrganization", "A && B");
   form_.load();
+  EXPECT_EQ(text(id::LBLPROGRAMNAME), "TELLARY");
   EXPECT_EQ(text(id::LBLVERSNO), "5.3");
+  EXPECT_EQ(text(id::LBLWRITTEN), "Written and Developed by " + windowing::companyName());
+  EXPECT_EQ(text(id::LBLCOPYRIGHT), windowing::legalCopyright());
   EXPECT_EQ(text(id::LBLREGNAME), "Mill & Sons");
   EXPECT_EQ(text(id::LBLREGCO), "A && B");
   for (const int control : {id::LBLREGNAME, id::LBLREGCO})

@@ -50,4 +50,17 @@ TEST_F(Focus, MovedByACommandDoesNotLeaveAWebBox) {
   EXPECT_EQ(text(id::CBOPWEBSITE), "http://www.x.example") << "the user leaves it";
 }
 
+// Shift+Ins pastes: it is no Ins.
+TEST_F(Focus, KeysWithShiftStayWithTheirBox) {
+  const MSG insert{form.control(id::textItem(1)).handle(), WM_KEYDOWN, VK_INSERT, 1, 0, {}};
+  const int before = form.contacts().count();
+  for (const BYTE shift : {BYTE{0x80}, BYTE{0}}) {
+    BYTE keys[256] = {};
+    keys[VK_SHIFT] = shift;
+    SetKeyboardState(keys);
+    EXPECT_EQ(form.handleKey(insert), shift == 0);
+    EXPECT_EQ(form.contacts().count(), before + (shift == 0));
+  }
+}
+
 }  // namespace
