@@ -115,6 +115,7 @@ if [[ $quick == no ]]; then
     tools/make_prefix.sh sweep
     tools/make_prefix.sh template || trouble "Wine could not be prepared"
     run_tests product
+    if build product-checked; then run_tests product-checked -R '^win$'; fi
   fi
   # The native tests have run in the host lane; here only the fuzz targets are of interest.
   targets=()

@@ -193,10 +193,10 @@ TEST_F(Printing, EndsSilentlyWhereMarginsAreWrong) {
 TEST_F(Printing, PrintsTheRangeThatWasChosen) {
   RTF1_.setPlain(lines(200));
   const std::vector<JobPage> all = printAfter([](PRINTDLGA& dialog) -> BOOL {
-    EXPECT_EQ(dialog.Flags, 1048852U);
-    EXPECT_EQ(dialog.nFromPage, 1);
-    EXPECT_EQ(dialog.nToPage, 4);
-    EXPECT_EQ(dialog.nMaxPage, 4);
+    EXPECT_EQ(+dialog.Flags, 1048852U);
+    EXPECT_EQ(+dialog.nFromPage, 1);
+    EXPECT_EQ(+dialog.nToPage, 4);
+    EXPECT_EQ(+dialog.nMaxPage, 4);
     return TRUE;
   });
   ASSERT_EQ(all.size(), 4U);
@@ -210,7 +210,7 @@ TEST_F(Printing, PrintsTheRangeThatWasChosen) {
   // The preview prints its own text, which a range must not have cut; nor does its flag stick.
   const std::vector<JobPage> again = printAfter(
       [](PRINTDLGA& dialog) -> BOOL {
-        EXPECT_EQ(dialog.Flags, 1048852U);
+        EXPECT_EQ(+dialog.Flags, 1048852U);
         return TRUE;
       },
       &thePreview().RTF3());
@@ -223,7 +223,7 @@ TEST_F(Printing, MakesCopiesOfTheSelectionOnce) {
   RTF1_.setPlain("First\r\nSecond\r\nThird");
   RTF1_.select({6, 6});
   const std::vector<JobPage> pages = printAfter([](PRINTDLGA& dialog) -> BOOL {
-    EXPECT_EQ(dialog.Flags, 1048849U);
+    EXPECT_EQ(+dialog.Flags, 1048849U);
     dialog.nCopies = 3;
     return TRUE;
   });

@@ -448,7 +448,7 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
     int dialogs = 0;
     const windowing::Replaced dialog(windowing::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
       ++dialogs;
-      EXPECT_EQ(asked.hwndOwner, form.handle());
+      EXPECT_EQ(+asked.hwndOwner, form.handle());
       asked.Flags |= PD_PAGENUMS;
       asked.nFromPage = asked.nToPage = 2;
       return TRUE;

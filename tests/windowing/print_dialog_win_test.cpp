@@ -39,9 +39,10 @@ TEST_F(PrintDialogs, StartFromTheCurrentPrinterAndChangeNothingWhenCancelled) {
     const auto* names = static_cast<const DEVNAMES*>(GlobalLock(shown.hDevNames));
     EXPECT_STREQ(reinterpret_cast<const char*>(names) + names->wDeviceOffset, TestPrinters::letter);
     EXPECT_EQ(settings->dmOrientation, DMORIENT_LANDSCAPE);
-    EXPECT_EQ(shown.Flags, dialog_.flags);
-    EXPECT_EQ(shown.nMinPage, 1) << "there is no page 0";
-    EXPECT_EQ(shown.nMaxPage, 65535) << "as many as the dialog can say";
+    // By value: the structure is packed, and no reference to its members would be aligned.
+    EXPECT_EQ(+shown.Flags, dialog_.flags);
+    EXPECT_EQ(+shown.nMinPage, 1) << "there is no page 0";
+    EXPECT_EQ(+shown.nMaxPage, 65535) << "as many as the dialog can say";
     EXPECT_FALSE(IsWindowEnabled(bystander.handle())) << "all else takes no input meanwhile";
     shown.nFromPage = 7;
     return FALSE;
