@@ -10,9 +10,6 @@ using Condition = bool (*)(const CommandState&);
 bool anyContact(const CommandState& state) {
   return state.count > 0;
 }
-bool isModified(const CommandState& state) {
-  return state.modified;
-}
 bool canGoBack(const CommandState& state) {
   return state.count > 1 && state.current > 0;
 }
@@ -25,13 +22,9 @@ constexpr struct {
   int id;
   Condition condition;
 } rules[] = {
-    {library::id::SAVE, isModified},
-    {library::id::PRINT, anyContact},
-    {library::id::PRINTPREVIEW, anyContact},
-    {library::id::REMOVE, anyContact},
-    {library::id::FIRST, canGoBack},
-    {library::id::PREVIOUS, canGoBack},
-    {library::id::NEXT, canGoOn},
+    {library::id::PRINT, anyContact},   {library::id::PRINTPREVIEW, anyContact},
+    {library::id::REMOVE, anyContact},  {library::id::FIRST, canGoBack},
+    {library::id::PREVIOUS, canGoBack}, {library::id::NEXT, canGoOn},
     {library::id::LAST, canGoOn},
 };
 

@@ -149,7 +149,7 @@ void frmMain::addByUser() {
 }
 
 void frmMain::RefreshCommands() {
-  const CommandState state{list_.count(), list_.current(), modified()};
+  const CommandState state{list_.count(), list_.current()};
   for (const Command& command : commands) {
     // Save follows the modified state, which is nothing but its own.
     if (command.id == id::SAVE) continue;

@@ -10,17 +10,15 @@ namespace id = library::id;
 TEST(Availability, FollowsCountAndPosition) {
   const struct {
     CommandState state;
-    const char* available;  // name box, remove, print, preview, first, previous, next, last, save
+    const char* available;  // name box, remove, print, preview, first, previous, next, last
   } rows[] = {
-      {{0, 0, false}, "---------"},         {{0, 0, true}, "--------S"},
-      {{1, 0, false}, "BRPV-----"},         {{1, 1, false}, "BRPV-----"},
-      {{2, 0, false}, "BRPV--NL-"},         {{2, 1, true}, "BRPVfp--S"},
-      {{3, 1, false}, "BRPVfpNL-"},         {{3, 2, false}, "BRPVfp---"},
-      {{32767, 32766, false}, "BRPVfp---"},
+      {{0, 0}, "--------"},         {{1, 0}, "BRPV----"}, {{1, 1}, "BRPV----"},
+      {{2, 0}, "BRPV--NL"},         {{2, 1}, "BRPVfp--"}, {{3, 1}, "BRPVfpNL"},
+      {{32767, 32766}, "BRPVfp--"},
   };
   const std::pair<int, char> marks[] = {
       {id::REMOVE, 'R'},   {id::PRINT, 'P'}, {id::PRINTPREVIEW, 'V'}, {id::FIRST, 'f'},
-      {id::PREVIOUS, 'p'}, {id::NEXT, 'N'},  {id::LAST, 'L'},         {id::SAVE, 'S'}};
+      {id::PREVIOUS, 'p'}, {id::NEXT, 'N'},  {id::LAST, 'L'}};
   for (const auto& row : rows) {
     std::string seen = nameBoxAvailable(row.state) ? "B" : "-";
     for (const auto& [command, letter] : marks)
