@@ -144,6 +144,8 @@ void frmMain::addByUser() {
         windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
     return;
   }
+  // Edits that cannot be stored call it off while all is still as it was.
+  StoreCurrent();
   AddContact();
   focusFirstField();
 }
@@ -223,6 +225,9 @@ LRESULT frmMain::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT answer = 0;
   if (ICOMNU->handleMessage(handle(), message, wParam, lParam, answer)) return answer;
   switch (message) {
+    case unshownMessage:
+      tellUnshown();
+      return 0;
     case WM_QUERYENDSESSION:
       // The one question of a shutdown; what is answered "No" stays until the session ends.
       return mayEndSession() ? TRUE : FALSE;

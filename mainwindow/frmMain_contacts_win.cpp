@@ -3,12 +3,15 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
+#include <utility>
 
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
+#include "mainwindow/shown_text.h"
 #include "mainwindow/status_text.h"
 #include "mainwindow/while.h"
+#include "windowing/application_win.h"
+#include "windowing/modal_win.h"
 #include "windowing/number_text.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
@@ -20,73 +23,112 @@ namespace id = library::id;
 
 namespace {
 
-// Whether a box gives a text back as it was put in: control characters may be dropped or end
-// the text, and a double-byte code page has bytes that stand for nothing.
-bool survivesABox(std::string_view text) {
-  static const bool singleBytes = [] {
+bool multipleBytes() {
+  static const bool multiple = [] {
     CPINFO info{};
-    return GetCPInfo(CP_ACP, &info) != FALSE && info.MaxCharSize == 1;
+    return GetCPInfo(CP_ACP, &info) != FALSE && info.MaxCharSize > 1;
   }();
-  return std::all_of(text.begin(), text.end(), [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte >= ' ' && (singleBytes || byte < 0x80);
-  });
+  return multiple;
 }
 
 // An empty box that stays empty needs no painting; it only has to forget what could be undone.
-void fillBox(const document::Field& field, const windowing::Control& box, const std::string& text) {
-  if (text.empty() && field.box == document::Box::TXTITEMS && box.send(WM_GETTEXTLENGTH) == 0) {
-    box.send(EM_EMPTYUNDOBUFFER);
-  } else {
-    box.setText(text);
+bool staysEmpty(const document::Field& field, const windowing::Control& box) {
+  if (field.box != document::Box::TXTITEMS || box.send(WM_GETTEXTLENGTH) != 0) return false;
+  box.send(EM_EMPTYUNDOBUFFER);
+  return true;
+}
+
+// Fills a box and keeps in `shown` what it gives back. False where it has not taken the text. It
+// may say that it has, and still show the one before.
+bool fillBox(const windowing::Control& box, std::string_view text, std::string& shown) {
+  try {
+    const std::string wanted(text);
+    const bool taken = box.setText(wanted);
+    shown = box.text();
+    return taken && shownWhole(wanted, shown, multipleBytes());
+  } catch (const std::exception&) {
+    return false;  // too little memory
   }
 }
 
 }  // namespace
 
-void frmMain::showField(const document::Field& field, std::string text) {
-  std::string& shown = shown_[static_cast<std::size_t>(field.slot)];
-  shown = std::move(text);
+// A box that cannot take the text shows none, rather than another contact's.
+bool frmMain::showField(const document::Field& field, std::string_view text) {
   const windowing::Control box = control(design::boxId(field));
-  if (box.handle() == nullptr) return;
-  fillBox(field, box, shown);
-  if (!survivesABox(shown)) shown = box.text();
+  if (box.handle() == nullptr) return true;
+  std::string& shown = shown_[static_cast<std::size_t>(field.slot)];
+  if (text.empty() && staysEmpty(field, box)) {
+    shown.clear();
+    return true;
+  }
+  if (fillBox(box, text, shown)) return true;
+  box.setText("");
+  shown.clear();
+  return false;
 }
 
-std::string frmMain::textOf(const document::Field& field) const {
-  const windowing::Control box = control(design::boxId(field));
-  return box.handle() == nullptr ? shown_[static_cast<std::size_t>(field.slot)] : box.text();
+// Filling the boxes raises their change notices; that is no editing.
+void frmMain::showTexts(const document::ContactList::Texts& texts) {
+  const While filling(filling_);
+  bool whole = true;
+  for (const document::Field& field : document::fields)
+    if (!showField(field, texts[static_cast<std::size_t>(field.slot)])) whole = false;
+  if (whole != shownWhole_) setShownWhole(whole);
+}
+
+// The boxes of a contact that they could not take are locked, for nothing of them is stored. The
+// user is told once a document, when the step that came upon it is done.
+void frmMain::setShownWhole(bool whole) {
+  shownWhole_ = whole;
+  for (const document::Field& field : document::fields) {
+    const windowing::TextBox box(control(design::boxId(field)).handle());
+    if (box.handle() != nullptr) box.setReadOnly(!whole);
+  }
+  if (!whole && !std::exchange(unshownTold_, true)) PostMessageA(handle(), unshownMessage, 0, 0);
+}
+
+void frmMain::tellUnshown() {
+  windowing::seams().messageBox(
+      windowing::dialogOwner(),
+      "This contact cannot be shown whole: it is too large. It is kept as it is, and cannot be "
+      "changed here.",
+      windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
 }
 
 void frmMain::onLateControls() {
   prepareLinks();
   const While filling(filling_);
+  const document::ContactList::Texts texts = list_.texts(list_.current());
+  bool whole = shownWhole_;
   for (const document::Field& field : document::fields) {
     const windowing::Control box = control(design::boxId(field));
     if (IsChild(control(id::FRAMGENERAL).handle(), box.handle())) continue;
     box.setEnabled(list_.count() > 0);
-    showField(field, shown_[static_cast<std::size_t>(field.slot)]);
+    if (!showField(field, texts[static_cast<std::size_t>(field.slot)])) whole = false;
   }
+  if (whole) return;
+  // What was typed into the others so far is stored before they are locked.
+  StoreCurrent();
+  setShownWhole(false);
 }
 
-// Filling the boxes raises their change notices; that is no editing.
 void frmMain::ShowCurrent() {
   if (list_.current() < 0) return;
-  const While filling(filling_);
-  const document::ContactList::Texts texts = list_.texts(list_.current());
-  for (const document::Field& field : document::fields)
-    showField(field, std::string(texts[static_cast<std::size_t>(field.slot)]));
+  showTexts(list_.texts(list_.current()));
   CBOTBARBOX().select(list_.current() < list_.count() ? list_.current() : -1);
 }
 
 void frmMain::StoreCurrent() {
-  if (list_.current() < 0) return;
+  if (list_.current() < 0 || !shownWhole_) return;
   for (const document::Field& field : document::fields) {
-    const auto slot = static_cast<std::size_t>(field.slot);
-    std::string text = textOf(field);
-    if (text == shown_[slot]) continue;
+    const windowing::Control box = control(design::boxId(field));
+    if (box.handle() == nullptr) continue;
+    std::string& shown = shown_[static_cast<std::size_t>(field.slot)];
+    std::string text = box.text();
+    if (text == shown) continue;
     list_.store(list_.current(), field.slot, text);
-    shown_[slot] = std::move(text);
+    shown = std::move(text);
   }
 }
 
@@ -169,8 +211,7 @@ void frmMain::goTo(int index) {
 }
 
 void frmMain::emptyFields() {
-  const While filling(filling_);
-  for (const document::Field& field : document::fields) showField(field, "");
+  showTexts({});
 }
 
 // The name box follows what is typed; the entry of no contact is never touched.
@@ -182,7 +223,7 @@ void frmMain::rewriteNameEntry() {
 }
 
 void frmMain::onChange(int changed) {
-  if (filling_) return;
+  if (filling_ || !shownWhole_) return;
   SETSAVE("TRUE");
   if (changed == id::TXTITEMS || changed == id::TXTITEMS + 1) rewriteNameEntry();
 }

@@ -1,14 +1,19 @@
 // The contact on screen handed to the dialogs.
 #include "dialogs/frmProps_win.h"
 #include "library/modLibrary_win.h"
+#include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
 #include "printing/report.h"
 
 namespace mainwindow {
 
 document::ContactRecord frmMain::valuesOnScreen() const {
-  document::ContactRecord values;
-  for (const document::Field& field : document::fields) values[field.slot] = textOf(field);
+  document::ContactRecord values = list_.record(list_.current());
+  if (!shownWhole_) return values;
+  for (const document::Field& field : document::fields) {
+    const windowing::Control box = control(design::boxId(field));
+    if (box.handle() != nullptr) values[field.slot] = box.text();
+  }
   return values;
 }
 

@@ -58,6 +58,7 @@ void frmMain::FILELOAD(const std::string& path) {
   std::exception_ptr failure;
   readWhole_ = false;
   onDisk_.reset();
+  unshownTold_ = false;
   try {
     FileContent content = readFile(path, *fileCalls_);
     onDisk_ = content.stamp;
@@ -160,6 +161,7 @@ void frmMain::startNewDocument() {
   setDocumentPath("");
   readWhole_ = true;
   onDisk_.reset();
+  unshownTold_ = false;
   SETTITLE("");
   emptyFields();
   CBOTBARBOX().clear();

@@ -59,6 +59,7 @@ void frmMain::onNotice(int box, int notice) {
 // An address that is typed without its scheme gets one. Only a text that differs is written
 // back: the same text would count as an edit.
 void frmMain::checkWebAddress(int box) {
+  if (!shownWhole_) return;
   const windowing::Control address = control(box);
   const std::optional<std::string> checked = library::webAddressOnLeave(address.text());
   if (checked) address.setText(*checked);

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "document/ContactList.h"
 #include "library/command_form_win.h"
@@ -93,8 +94,10 @@ class frmMain : public library::CommandForm {
   void GoLast();
   void goTo(int index);
   void emptyFields();
-  void showField(const document::Field& field, std::string text);
-  [[nodiscard]] std::string textOf(const document::Field& field) const;
+  void showTexts(const document::ContactList::Texts& texts);
+  bool showField(const document::Field& field, std::string_view text);
+  void setShownWhole(bool whole);
+  void tellUnshown();
   void rewriteNameEntry();
   void refreshFieldState();
   void refreshStatusText();
@@ -130,7 +133,8 @@ class frmMain : public library::CommandForm {
   void rememberFolder(const char* value, const std::string& file);
 
   // Dialogs (frmMain_dialogs_win.cpp).
-  /// The 28 texts as they stand in the boxes, edits included.
+  /// The 28 texts as they stand in the boxes, edits included; a box that is not made yet, or
+  /// could not take its text, stands for what is in the list.
   [[nodiscard]] document::ContactRecord valuesOnScreen() const;
   void showProperties();
 
@@ -154,10 +158,12 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] windowing::TabStrip TABMAIN() const;
   [[nodiscard]] windowing::TextBox TXTITEMS(int index) const;
 
+  /// Posted to itself where a contact could not be shown whole.
+  static constexpr UINT unshownMessage = WM_APP + 1;
+
   document::ContactList list_;
   /// Text of each box, by slot, as the box gave it back after it was filled: only what differs
-  /// from it was edited, and bytes that a box cannot carry survive a visit. A box that is not
-  /// made yet is filled from it.
+  /// from it was edited, and bytes that a box cannot carry survive a visit.
   std::array<std::string, document::fieldCount> shown_;
   FileDialogState CMD1;
   windowing::RichTextBox RTF1_{"RTF1"};
@@ -166,12 +172,14 @@ class frmMain : public library::CommandForm {
   library::CommandHints hints_{*this, "tellary"};
   windowing::FileCalls realFileCalls_;
   windowing::FileCalls* fileCalls_ = &realFileCalls_;
-  bool ready_ = false;    ///< controls, menus and settings are in place
-  bool filling_ = false;  ///< the program itself changes the boxes
-  bool asking_ = false;   ///< the user is asked whether the document may be given up
+  bool ready_ = false;      ///< controls, menus and settings are in place
+  bool filling_ = false;    ///< the program itself changes the boxes
+  bool asking_ = false;     ///< the user is asked whether the document may be given up
+  bool shownWhole_ = true;  ///< the boxes have taken the contact on screen; if not, they are locked
+  bool unshownTold_ = false;  ///< the user knows that this document has such a contact
+  bool readWhole_ = true;     ///< the document's file holds nothing that the list does not
   /// The document's file as this program read or wrote it last; nothing where it was not there.
   std::optional<FileStamp> onDisk_;
-  bool readWhole_ = true;  ///< the document's file holds nothing that the list does not
 };
 
 }  // namespace mainwindow

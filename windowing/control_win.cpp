@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
 
 namespace windowing {
@@ -12,12 +13,14 @@ std::string Control::text() const {
   std::string text(length + 1, '\0');
   const auto copied = static_cast<std::size_t>(
       send(WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data())));
+  // It has a text and hands none out: that is no empty one.
+  if (copied == 0 && length > 0) throw RuntimeError(ErrorNumber::outOfMemory, "Out of memory");
   text.resize(copied <= length ? copied : length);
   return text;
 }
 
-void Control::setText(const std::string& text) const {
-  send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+bool Control::setText(const std::string& text) const {
+  return send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) == TRUE;
 }
 
 void Control::setEnabled(bool on) const {
@@ -75,14 +78,16 @@ void ComboBox::add(const std::string& text) const {
   send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-void ComboBox::insert(int index, const std::string& text) const {
-  send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.c_str()));
+bool ComboBox::insert(int index, const std::string& text) const {
+  return send(CB_INSERTSTRING, static_cast<WPARAM>(index),
+              reinterpret_cast<LPARAM>(text.c_str())) >= 0;
 }
 
 void ComboBox::replace(int index, const std::string& text) const {
   const int chosen = selected();
   remove(index);
-  insert(index, text);
+  // An entry keeps its place though its text finds no room.
+  if (!insert(index, text)) insert(index, "");
   if (chosen >= 0) select(chosen);
 }
 

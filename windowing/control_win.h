@@ -18,8 +18,10 @@ class Control {
   [[nodiscard]] HWND handle() const { return handle_; }
   [[nodiscard]] int id() const { return GetDlgCtrlID(handle_); }
 
+  /// Raises out of memory where the control has a text and cannot hand it out.
   [[nodiscard]] std::string text() const;
-  void setText(const std::string& text) const;
+  /// False where the control says that it could not take the text; not every system's says so.
+  bool setText(const std::string& text) const;
 
   [[nodiscard]] bool enabled() const { return IsWindowEnabled(handle_) != FALSE; }
   void setEnabled(bool enabled) const;
@@ -67,7 +69,8 @@ class ComboBox : public Control {
   using Control::Control;
   void clear() const { send(CB_RESETCONTENT); }
   void add(const std::string& entry) const;
-  void insert(int index, const std::string& entry) const;
+  /// False where there is no room for the text.
+  bool insert(int index, const std::string& entry) const;
   void remove(int index) const { send(CB_DELETESTRING, static_cast<WPARAM>(index)); }
   /// Replaces the text of an entry; the selection stays.
   void replace(int index, const std::string& entry) const;

@@ -5,6 +5,7 @@
 #include "tests/support/main_window_win.h"
 #include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
+#include "tests/support/short_memory_win.h"
 #include "windowing/print_dialog_win.h"
 #include "windowing/printer_win.h"
 
@@ -78,6 +79,18 @@ TEST_F(PrintingContacts, APrinterThatIsGoneIsNamedByTheMenuAlone) {
   EXPECT_EQ(asked_, 1);
   ASSERT_EQ(boxes.size(), 1U);
   EXPECT_NE(boxes[0].text.find(TestPrinters::letter), std::string::npos) << boxes[0].text;
+}
+
+// What a box could not take is printed as it stands in the document.
+TEST_F(PrintingContacts, AContactThatIsNotShownWholeIsPrintedWhole) {
+  open(contactsFile({"Ash", "Birch"}));
+  {
+    const test_support::RefusingBox refusing(form.control(id::textItem(0)).handle(), WM_SETTEXT, 1);
+    run(id::LAST);
+  }
+  ASSERT_EQ(text(id::textItem(0)), "");
+  press(id::PRINT);
+  EXPECT_EQ(printed(), " Birch|");
 }
 
 }  // namespace

@@ -1,0 +1,156 @@
+// Contacts that a box cannot take: nothing of them is lost, and nothing of another gets into them.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "controls/TXTBTN_win.h"
+#include "library/identifiers.h"
+#include "tests/support/failing_files_win.h"
+#include "tests/support/main_window_win.h"
+#include "tests/support/short_memory_win.h"
+
+namespace {
+
+namespace id = library::id;
+using test_support::RefusingBox;
+using test_support::ShortMemory;
+
+constexpr int comments = id::textItem(22);
+constexpr int company = id::textItem(23);
+constexpr std::size_t little = 1 << 18;
+
+class Unshown : public test_support::MainWindowTest {
+ protected:
+  [[nodiscard]] bool locked(int box) const {
+    return (GetWindowLongA(form.control(box).handle(), GWL_STYLE) & ES_READONLY) != 0;
+  }
+  /// Boxes that came up since, with what was posted to the window done.
+  std::size_t told() {
+    MSG message{};
+    while (PeekMessageA(&message, form.handle(), 0, 0, PM_REMOVE)) DispatchMessageA(&message);
+    return boxes.size();
+  }
+  const std::string bytes_ = fileOf({{28, "one"}, {28, "two"}});
+  const std::string path_ = scratch.file("unshown.tly", bytes_);
+};
+
+TEST_F(Unshown, AContactThatABoxDoesNotTakeIsLockedAndKeptAndToldOfOnce) {
+  for (const int box : {comments, id::textItem(0), id::CBOPWEBSITE}) {
+    for (const LRESULT answer : {FALSE, TRUE}) {
+      SCOPED_TRACE(std::to_string(box) + " answers " + std::to_string(answer));
+      boxes.clear();
+      open(path_);
+      {
+        const RefusingBox refusing(form.control(box).handle(), WM_SETTEXT, answer);
+        run(id::NEXT);
+        EXPECT_EQ(text(box), "") << "not the text of another contact";
+        EXPECT_EQ(text(id::textItem(3)), "two");
+        for (const int any : {box, id::textItem(3), id::CBOPEMAIL}) EXPECT_TRUE(locked(any));
+        // Whatever changes a locked box is no edit.
+        type(id::textItem(3), "typed");
+        type(id::textItem(1), "typed");
+        notice(id::CBOPWEBSITE, controls::TXTBTN::left);
+        EXPECT_FALSE(form.modified());
+        EXPECT_EQ(names().at(1), "two two");
+        run(id::PREVIOUS);
+        run(id::NEXT);
+      }
+      run(id::PREVIOUS);
+      EXPECT_EQ(text(box), "one");
+      EXPECT_FALSE(locked(box));
+      form.FILESAVEAS(path_);
+      EXPECT_EQ(support::bytesOf(path_), bytes_);
+      ASSERT_EQ(told(), 1U);
+      EXPECT_TRUE(boxes[0].text.starts_with("This contact cannot be shown whole")) << boxes[0].text;
+    }
+  }
+}
+
+TEST_F(Unshown, TooLittleMemoryToFillABoxIsNoOtherReason) {
+  std::vector<std::string> large(28, "two");
+  large[27] = std::string(little + 1, 'x');
+  const std::string bytes = fileOf({{28, "one"}, large});
+  open(scratch.file("large.tly", bytes));
+  {
+    const ShortMemory memory(little);
+    run(id::NEXT);
+    EXPECT_TRUE(locked(company));
+    EXPECT_EQ(text(company), "");
+    run(id::FIRST);
+    form.FILESAVEAS(path_);
+  }
+  EXPECT_TRUE(support::bytesOf(path_) == bytes);
+  EXPECT_FALSE(locked(company));
+  run(id::LAST);
+  EXPECT_TRUE(text(company) == large[27]);
+  EXPECT_FALSE(locked(company));
+}
+
+// Whoever types at once must not lose it when a page out of sight turns out too large.
+TEST_F(Unshown, LateBoxesThatCannotBeFilledLockTheContactWithWhatWasTypedStored) {
+  std::vector<std::string> contact(28, "one");
+  contact[14] = std::string(little + 1, 'x');
+  const std::string path = scratch.file("late.tly", fileOf({contact}));
+  form.unload();
+  form.openNamedAtStart(path);
+  type(id::textItem(3), "typed");
+  {
+    // The first edit needs room for the whole contact.
+    const ShortMemory memory(little);
+    EXPECT_THROW(form.makeLateControls(), std::exception);
+  }
+  EXPECT_EQ(text(id::textItem(3)), "typed");
+  EXPECT_FALSE(locked(id::textItem(3)));
+  form.FILESAVEAS(path);
+  type(id::textItem(3), "more");
+  {
+    const ShortMemory memory(little);
+    form.makeLateControls();
+  }
+  EXPECT_TRUE(locked(id::textItem(3)));
+  EXPECT_TRUE(locked(id::CBOPEMAIL));
+  EXPECT_EQ(text(id::CBOPWEBSITE), "");
+  contact[3] = "more";
+  form.FILESAVEAS(path);
+  EXPECT_TRUE(support::bytesOf(path) == fileOf({contact}));
+}
+
+// A box that cannot hand its text out has not been emptied.
+TEST_F(Unshown, ABoxThatGivesNoTextCallsTheStepOff) {
+  open(path_);
+  type(id::textItem(3), "typed");
+  for (const int step : {id::NEXT, id::ADD}) {
+    boxes.clear();
+    const RefusingBox refusing(form.control(id::textItem(3)).handle(), WM_GETTEXT, 0);
+    run(step);
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_NE(boxes[0].text.find("Out of memory"), std::string::npos) << boxes[0].text;
+    EXPECT_EQ(form.contacts().count(), 2);
+    EXPECT_EQ(names().size(), 2U);
+  }
+  EXPECT_EQ(text(id::textItem(3)), "typed");
+  run(id::NEXT);
+  EXPECT_EQ(form.contacts().field(0, document::Slot::JobTitle), "typed");
+}
+
+// Without its entry, those behind it would stand for other contacts.
+TEST_F(Unshown, ANameThatTheNameBoxDoesNotTakeKeepsItsPlace) {
+  COMBOBOXINFO parts{};
+  parts.cbSize = sizeof parts;
+  const HWND list = form.control(id::CBOTBARBOX).handle();
+  ASSERT_TRUE(GetComboBoxInfo(list, &parts));
+  {
+    const RefusingBox refusing(parts.hwndList, LB_ADDSTRING, LB_ERRSPACE);
+    open(path_);
+  }
+  EXPECT_EQ(names(), (test_support::Names{"", ""}));
+  {
+    const RefusingBox refusing(list, CB_INSERTSTRING, CB_ERRSPACE);
+    type(id::textItem(0), "Ash");
+  }
+  EXPECT_EQ(names(), (test_support::Names{"", ""}));
+  type(id::textItem(0), "Birch");
+  EXPECT_EQ(names(), (test_support::Names{"one Birch", ""}));
+}
+
+}  // namespace

@@ -1,0 +1,46 @@
+// Too little memory, made on purpose.
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+
+namespace test_support {
+
+/// As long as it lives, nothing above `limit` bytes is to be had from the heap.
+class ShortMemory {
+ public:
+  explicit ShortMemory(std::size_t limit);
+  ShortMemory(const ShortMemory&) = delete;
+  ShortMemory& operator=(const ShortMemory&) = delete;
+  ~ShortMemory();
+};
+
+/// As long as it lives, a box does with one message what it does where it finds no memory: it
+/// takes no text but an empty one, or hands none out, and may not even say so. One at a time.
+class RefusingBox {
+ public:
+  RefusingBox(HWND box, UINT message, LRESULT answer) : box_(box) {
+    refused_ = message;
+    answer_ = answer;
+    procedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongA(box, GWL_WNDPROC, reinterpret_cast<LONG>(&RefusingBox::procedure)));
+  }
+  RefusingBox(const RefusingBox&) = delete;
+  RefusingBox& operator=(const RefusingBox&) = delete;
+  ~RefusingBox() { SetWindowLongA(box_, GWL_WNDPROC, reinterpret_cast<LONG>(procedure_)); }
+
+ private:
+  static LRESULT CALLBACK procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == refused_ &&
+        (message == WM_GETTEXT || *reinterpret_cast<const char*>(lParam) != '\0'))
+      return answer_;
+    return CallWindowProcA(procedure_, box, message, wParam, lParam);
+  }
+  static inline UINT refused_ = WM_NULL;
+  static inline LRESULT answer_ = 0;
+  static inline WNDPROC procedure_ = nullptr;
+  HWND box_;
+};
+
+}  // namespace test_support
