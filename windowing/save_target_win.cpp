@@ -19,6 +19,11 @@ std::string inCodePage(const std::wstring& wide) {
   return back == wide ? text : std::string();
 }
 
+bool isLink(const std::string& path, FileCalls& calls) {
+  const DWORD own = calls.attributes(path);
+  return own != INVALID_FILE_ATTRIBUTES && (own & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 void followLinks(HANDLE file, SaveTarget& target, FileCalls& calls) {
   std::wstring name;
   if (calls.finalName(file, name)) {
@@ -27,8 +32,7 @@ void followLinks(HANDLE file, SaveTarget& target, FileCalls& calls) {
     if (target.reachable) target.path = plain;
   } else {
     // Some drives know no such names. There, a file is where it says unless it is a link.
-    const DWORD own = calls.attributes(target.path);
-    target.reachable = own == INVALID_FILE_ATTRIBUTES || (own & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+    target.reachable = !isLink(target.path, calls);
   }
 }
 
@@ -45,6 +49,8 @@ void findMissing(SaveTarget& target, FileCalls& calls) {
   const OpenFile probe(calls.probe(target.path), calls);
   if (probe.valid()) {
     followLinks(probe.handle(), target, calls);
+    // The folder's full name may have letters that the code page lacks; its short name serves.
+    target.reachable = target.reachable || !isLink(target.path, calls);
     return;
   }
   if (GetLastError() != ERROR_FILE_EXISTS) return;
@@ -69,7 +75,7 @@ std::string plainName(const std::wstring& name) {
   std::string plain;
   if (name.starts_with(share))
     plain = inCodePage(L"\\\\" + name.substr(share.size()));
-  else if (name.starts_with(drive))
+  else if (name.starts_with(drive) && name.find(L':') == drive.size() + 1)
     plain = inCodePage(name.substr(drive.size()));
   return plain.size() < MAX_PATH ? plain : std::string();
 }

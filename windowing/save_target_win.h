@@ -13,7 +13,7 @@ struct SaveTarget {
   std::string path;  ///< where links lead
   bool exists = false;
   bool made = false;      ///< by looking for it, empty: to be removed when the save fails
-  bool reachable = true;  ///< false: only through a link, nothing can be put beside the file
+  bool reachable = true;  ///< false: `path` may be a link, and where it leads has no plain name
   DWORD attributes = 0;   ///< if it exists
   DWORD links = 0;        ///< the file's names, if it exists
 };
@@ -23,7 +23,7 @@ struct SaveTarget {
 [[nodiscard]] SaveTarget findSaveTarget(const std::string& path, FileCalls& calls);
 
 /// The full name of an open file, which has the prefix of long names, without that; empty where
-/// it is too long or has letters that the code page lacks.
+/// it is too long, is on no drive and no share, or has letters that the code page lacks.
 [[nodiscard]] std::string plainName(const std::wstring& name);
 
 }  // namespace windowing

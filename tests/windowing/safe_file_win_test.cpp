@@ -193,6 +193,10 @@ TEST_F(SafeFile, ALinkStaysOneAndTheFileBehindItIsRenewed) {
   EXPECT_TRUE(save());
   expectOnly(newBytes);
   EXPECT_TRUE(identityOf(path) == before);
+  // A new file is no link, whatever the full name of its folder is.
+  DeleteFileA(path.c_str());
+  EXPECT_TRUE(save());
+  expectOnly(newBytes);
 
   const struct {
     std::wstring full;
@@ -201,6 +205,8 @@ TEST_F(SafeFile, ALinkStaysOneAndTheFileBehindItIsRenewed) {
                {LR"(\\?\UNC\server\share\x.tly)", R"(\\server\share\x.tly)"},
                {LR"(\\?\C:\)" + std::wstring(300, L'x'), ""},
                {LR"(\Device\x.tly)", ""},
+               {LR"(\\?\unix\home\x.tly)", ""},
+               {LR"(\\?\Volume{1}\x.tly)", ""},
                {unknown, ""}};
   for (const auto& name : names) EXPECT_EQ(plainName(name.full), name.plain);
 }
