@@ -44,8 +44,8 @@ LRESULT CALLBACK centringProcedure(HWND window, UINT message, WPARAM wParam, LPA
   const WNDPROC old = hook.oldProcedure;
   if (message != WM_INITDIALOG) return callProcedure(old, window, message, wParam, lParam);
   replaceProcedure(window, old);
-  // A dialog that is moved before it has set itself up answers with what is not there yet: some
-  // file dialogs fault then when they are cancelled, and the fault uses up something each time.
+  // A dialog that is moved before it has set itself up answers with what is not there yet. Wine's
+  // file dialogs then fault when they are cancelled; Wine hides it until the 60th ends the program.
   const LRESULT answer = callProcedure(old, window, message, wParam, lParam);
   centre(window);
   return answer;

@@ -51,7 +51,7 @@ void setBar(HWND bar, const PageSpan& span, double visible, LONG position) {
   info.nMax = span.scrollMax == 0 ? 0 : span.scrollMax + static_cast<int>(info.nPage) - 1;
   info.nPos = static_cast<int>(position);
   SetScrollInfo(bar, SB_CTL, &info, TRUE);
-  // Some hosts grey a bar only once it can be seen.
+  // Wine greys a bar only once it can be seen.
   EnableWindow(bar, span.scrollMax > 0);
 }
 

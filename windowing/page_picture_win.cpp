@@ -13,8 +13,8 @@ namespace windowing {
 namespace {
 
 // How many times finer than shown a picture is drawn before it is brought to its size: the
-// smaller it is, the more its letters need it. StretchBlt is no help: some hosts leave thin lines
-// out whatever its mode.
+// smaller it is, the more its letters need it. StretchBlt is no help: Wine leaves thin lines out
+// whatever its mode.
 int fineness(const SIZE& shown) {
   constexpr std::int64_t mostPixels = 16'000'000;
   constexpr std::int64_t smallPage = 300'000;  // in pixels; letters are hardly more than dots

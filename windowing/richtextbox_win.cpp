@@ -165,7 +165,7 @@ RichText RichTextBox::selectedRichText() const {
   return {streamOut(SF_RTF | SFF_SELECTION), selection().length};
 }
 
-// Some hosts' control takes minutes to empty itself of thousands of paragraphs; a new one in its
+// Wine's control takes minutes to empty itself of thousands of paragraphs; a new one in its
 // place takes none.
 void RichTextBox::renew() {
   const HWND old = handle();

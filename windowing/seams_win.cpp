@@ -55,14 +55,13 @@ std::optional<std::string> askForFile(HWND owner, const FileDialog& wanted) {
   return std::nullopt;
 }
 
-// How long an address may be is the shell's concern. But one that stands in for Windows, known by
-// an export of its own, copies addresses into a buffer of fixed size, and a longer one would end
-// the program.
+// How long an address may be is the shell's concern. But Wine's copies addresses into a buffer of
+// fixed size, and a longer one would end the program.
 bool shellSurvives(const std::string& file) {
   constexpr std::size_t longest = 960;
-  static const bool standIn =
+  static const bool isWine =
       GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
-  return !standIn || file.size() <= longest;
+  return !isWine || file.size() <= longest;
 }
 
 Seams realSeams() {

@@ -28,7 +28,7 @@ class Libraries : public drive::AppTest {
 TEST_F(Libraries, ComeFromTheSystemEvenWhereOthersLieBesideTheProgram) {
   const test_support::TestPrinters printers;
   // Which of them the program loads itself, and localspl.dll, which the system loads for it. What
-  // a stand-in for Windows brings in before the program's first line is nothing to look at here.
+  // Wine brings in before the program's first line is nothing to look at here.
   const std::string names[] = {"riched20.dll", "comdlg32.dll", "shell32.dll", "winspool.drv",
                                "localspl.dll"};
   const std::string exe = path("Tellary.exe");
