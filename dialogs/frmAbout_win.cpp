@@ -141,13 +141,6 @@ LRESULT frmAbout::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (reinterpret_cast<HWND>(wParam) != control(id::IMGLOGO).handle()) break;
       SetCursor(logoPointer_);
       return TRUE;
-    case WM_COMMAND:
-      // Pictures report clicks as buttons do, but are none.
-      if (wParam == MAKEWPARAM(id::IMGLOGO, STN_CLICKED)) {
-        onClick(id::IMGLOGO);
-        return 0;
-      }
-      break;
     default:
       break;
   }

@@ -122,11 +122,10 @@ LRESULT frmProps::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
       case MAKEWPARAM(id::LBLREAD, STN_CLICKED):
       case MAKEWPARAM(id::LBLREAD, STN_DBLCLK):
+      case MAKEWPARAM(id::CHKATTR, BN_DOUBLECLICKED):
+        if (!IsWindowEnabled(handle())) return 0;
         // A click on the text is one on its box.
         if (CHKATTR(0).enabled()) CHKATTR(0).focus();
-        changeReadOnly();
-        return 0;
-      case MAKEWPARAM(id::CHKATTR, BN_DOUBLECLICKED):
         changeReadOnly();
         return 0;
       default:

@@ -324,7 +324,9 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
   const int notice = HIWORD(wParam);
   const auto sender = reinterpret_cast<HWND>(lParam);
   const bool tool = isClass(sender, TOOLBARCLASSNAMEA);
-  const bool button = isClass(sender, "Button");
+  // Pictures and labels report clicks as buttons do, with the same number.
+  static_assert(STN_CLICKED == BN_CLICKED);
+  const bool button = isClass(sender, "Button") || isClass(sender, "Static");
   const bool list = isClass(sender, "ComboBox");
   if (sender != nullptr && !tool && !button && !list) {
     if (notice == EN_CHANGE) {

@@ -85,8 +85,11 @@ TEST_F(AboutBox, LogoOpensTheMakersSite) {
   EXPECT_EQ(pointerOver(id::IMGLOGO), LoadCursorA(nullptr, IDC_HAND));
   EXPECT_EQ(pointerOver(id::FRAMTITLE), LoadCursorA(nullptr, IDC_ARROW));
   const HWND logo = form_.control(id::IMGLOGO).handle();
-  SendMessageA(logo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-  SendMessageA(logo, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  for (const bool takesInput : {true, false}) {
+    EnableWindow(form_.handle(), takesInput);
+    SendMessageA(logo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageA(logo, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+  }
   EXPECT_EQ(opened, std::vector<std::string>{"Open http://www.zandor.example/"});
 }
 

@@ -124,8 +124,12 @@ TEST_F(Properties, ReadOnlyBoxChangesTheFileAndTheOthersOnlyShow) {
   EXPECT_FALSE(form_.ATTRREADONLY());
   // The text beside the box is part of it.
   const windowing::Control label = form_.control(id::LBLREAD);
-  label.send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-  label.send(WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  for (const bool takesInput : {false, true}) {
+    EnableWindow(form_.handle(), takesInput);
+    EXPECT_EQ(ticks(), "0" + others);
+    label.send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    label.send(WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  }
   EXPECT_EQ(ticks(), "1" + others);
   EXPECT_TRUE(fileIsReadOnly());
   for (int i = 1; i < 3; ++i) {
