@@ -27,7 +27,7 @@ class FailingFiles : public windowing::FileCalls {
     failAt_ = call;
     failure_ = failure;
     calls_ = 0;
-    bytesAtRisk_ = false;
+    bytesAtRisk_ = unflushed_ = false;
   }
   /// Number of calls since `failAt`.
   [[nodiscard]] int calls() const { return calls_; }
@@ -35,12 +35,15 @@ class FailingFiles : public windowing::FileCalls {
   [[nodiscard]] bool bytesAtRisk() const { return bytesAtRisk_; }
 
   bool noNewFiles = false;       ///< the folder lets nobody make a file
+  bool noWritesOver = false;     ///< no write succeeds after a file was rewound
   bool noLinks = false;          ///< a file can have one name only
   bool wholeSecurity = false;    ///< the descriptor tells all, as on Windows
   bool streams = false;          ///< every file has a second stream
+  DWORD storedAs = 0;            ///< attributes that every file has besides its own
   std::wstring leadsTo;          ///< where every file really is, as the system says it
   std::string keepFolder;        ///< in place of the user's temporary files
   std::function<void()> onWait;  ///< instead of waiting
+  DWORD moveError = 0;           ///< why no file can take another's place
   LONGLONG pretendedBytes = 0;   ///< added to every file's size
 
   DWORD attributes(const std::string& path) override {
@@ -53,6 +56,8 @@ class FailingFiles : public windowing::FileCalls {
     return fails() ? INVALID_HANDLE_VALUE : FileCalls::open(path, access, disposition);
   }
   HANDLE create(const std::string& path, DWORD attributes) override {
+    created = attributes;
+    rewound_ = false;
     if (fails() || !takes(path)) return INVALID_HANDLE_VALUE;
     return FileCalls::create(path, attributes);
   }
@@ -60,7 +65,9 @@ class FailingFiles : public windowing::FileCalls {
     return fails() || !takes(path) ? INVALID_HANDLE_VALUE : FileCalls::probe(path);
   }
   bool information(HANDLE file, BY_HANDLE_FILE_INFORMATION& facts) override {
-    return !fails() && FileCalls::information(file, facts);
+    if (fails() || !FileCalls::information(file, facts)) return false;
+    facts.dwFileAttributes |= storedAs;
+    return true;
   }
   bool finalName(HANDLE file, std::wstring& name) override {
     if (fails() || !FileCalls::finalName(file, name)) return false;
@@ -73,7 +80,7 @@ class FailingFiles : public windowing::FileCalls {
   bool write(HANDLE file, const char* data, DWORD size, DWORD& done) override {
     written_ = file;
     unflushed_ = true;
-    if (!fails()) return FileCalls::write(file, data, size, done);
+    if (!fails() && !(noWritesOver && rewound_)) return FileCalls::write(file, data, size, done);
     bytesAtRisk_ = true;
     FileCalls::write(file, data, size / 2, done);
     SetLastError(failure_.error);
@@ -84,7 +91,11 @@ class FailingFiles : public windowing::FileCalls {
     bytes += pretendedBytes;
     return true;
   }
-  bool rewind(HANDLE file) override { return !fails() && FileCalls::rewind(file); }
+  bool rewind(HANDLE file) override {
+    rewound_ = true;
+    bytesAtRisk_ = bytesAtRisk_ || unflushed_;
+    return !fails() && FileCalls::rewind(file);
+  }
   bool truncate(HANDLE file) override { return !fails() && FileCalls::truncate(file); }
   bool flush(HANDLE file) override {
     unflushed_ = false;
@@ -119,6 +130,8 @@ class FailingFiles : public windowing::FileCalls {
   }
   bool replace(const std::string& temporary, const std::string& target) override {
     bytesAtRisk_ = bytesAtRisk_ || unflushed_;
+    SetLastError(moveError);
+    if (moveError != ERROR_SUCCESS) return false;
     return !fails() && FileCalls::replace(temporary, target);
   }
   bool remove(const std::string& path) override { return !fails() && FileCalls::remove(path); }
@@ -129,6 +142,7 @@ class FailingFiles : public windowing::FileCalls {
     waited += milliseconds;
     if (onWait) onWait();
   }
+  DWORD created = 0;       ///< attributes of the file made last
   DWORD waited = 0;        ///< milliseconds in all
   int securityCopies = 0;  ///< in all
 
@@ -150,6 +164,7 @@ class FailingFiles : public windowing::FileCalls {
   int calls_ = 0;
   HANDLE written_ = INVALID_HANDLE_VALUE;
   bool unflushed_ = false;
+  bool rewound_ = false;
   bool bytesAtRisk_ = false;
 };
 

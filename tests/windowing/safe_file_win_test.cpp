@@ -124,25 +124,36 @@ TEST_F(SafeFile, AFolderThatTakesNoNewFileHasTheOldBytesKeptElsewhereMeanwhile) 
     failEveryCall(failure, oldBytes, failure.shortCount ? newBytes : "short");
   // What a crash left there is nobody's to overwrite.
   putFile(elsewhere / "Friends.tly.old", "of a crash");
+  files.failAt(0);
   EXPECT_TRUE(save());
+  EXPECT_FALSE(files.bytesAtRisk());
   EXPECT_EQ(bytesOf(elsewhere / "Friends.tly.old"), "of a crash");
   EXPECT_EQ(elsewhere.names().size(), 1U);
   // Nothing is written where nothing can be kept.
   files.keepFolder = elsewhere / "gone";
   EXPECT_FALSE(save("more"));
   expectOnly(newBytes);
+  // A file that can be written no more is half written; its copy stays.
+  files.keepFolder = elsewhere.path();
+  files.noWritesOver = true;
+  EXPECT_FALSE(save("more"));
+  EXPECT_TRUE(bytesOf(elsewhere / "Friends.tly.old2") == newBytes);
 }
 
 TEST_F(SafeFile, WhatANewFileCannotTakeOverStaysWithTheOld) {
   const struct {
     const char* what;
     bool names, streams, owners, links, same;
-  } cases[] = {{"an ordinary file is another one", false, false, true, true, false},
-               {"other names", true, false, true, true, true},
-               {"streams", false, true, true, true, true},
-               {"what the system does not tell", false, false, false, true, true},
-               {"streams where files have one name", false, true, true, false, true},
-               {"the same where there are no streams", false, false, false, false, false}};
+    DWORD storedAs;
+  } cases[] = {{"an ordinary file is another one", false, false, true, true, false, 0},
+               {"other names", true, false, true, true, true, 0},
+               {"streams", false, true, true, true, true, 0},
+               {"encryption", false, false, true, true, true, FILE_ATTRIBUTE_ENCRYPTED},
+               {"encryption in place", false, false, true, false, true, FILE_ATTRIBUTE_ENCRYPTED},
+               {"compression", false, false, true, true, true, FILE_ATTRIBUTE_COMPRESSED},
+               {"what the system does not tell", false, false, false, true, true, 0},
+               {"streams where files have one name", false, true, true, false, true, 0},
+               {"the same where there are no streams", false, false, false, false, false, 0}};
   for (const auto& given : cases) {
     SCOPED_TRACE(given.what);
     DeleteFileA(path.c_str());
@@ -152,10 +163,15 @@ TEST_F(SafeFile, WhatANewFileCannotTakeOverStaysWithTheOld) {
     files.streams = given.streams;
     files.wholeSecurity = given.owners;
     files.noLinks = !given.links;
+    files.storedAs = given.storedAs;
+    files.securityCopies = 0;
     const auto before = identityOf(path);
     EXPECT_TRUE(save());
     expectOnly(newBytes);
     EXPECT_EQ(identityOf(path) == before, given.same);
+    // What holds its bytes meanwhile is as private as the file.
+    EXPECT_EQ(files.securityCopies != 0, given.same);
+    EXPECT_EQ(files.created & FILE_ATTRIBUTE_ENCRYPTED, given.storedAs & FILE_ATTRIBUTE_ENCRYPTED);
     EXPECT_TRUE(!given.names || bytesOf(other) == newBytes);
   }
 }
@@ -231,6 +247,28 @@ TEST_F(SafeFile, AFileThatAnotherProgramHasOpenIsWaitedForAMoment) {
   }
 }
 
+TEST_F(SafeFile, AMoveThatIsRefusedForAMomentIsTriedAgain) {
+  files.wholeSecurity = true;
+  const struct {
+    DWORD error;
+    int waits;
+  } cases[] = {{ERROR_SHARING_VIOLATION, 2},
+               {ERROR_ACCESS_DENIED, 2},
+               {ERROR_LOCK_VIOLATION, 2},
+               {ERROR_DISK_FULL, 0}};
+  for (const auto& given : cases) {
+    putFile(path, oldBytes);
+    int waits = 0;
+    files.onWait = [&] {
+      if (++waits == 2) files.moveError = ERROR_SUCCESS;
+    };
+    files.moveError = given.error;
+    EXPECT_EQ(save(), given.waits != 0) << given.error;
+    EXPECT_EQ(waits, given.waits) << given.error;
+    expectOnly(given.waits != 0 ? newBytes : oldBytes);
+  }
+}
+
 TEST_F(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
   putFile(path, oldBytes);
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
@@ -257,6 +295,7 @@ TEST_F(SafeFile, WhatKeepsAFileFromBeingWrittenLeavesItAlone) {
 }
 
 TEST_F(SafeFile, TheNewFileTakesOverTheAttributesOfTheOld) {
+  files.wholeSecurity = true;
   files.keepFolder = elsewhere.path();
   constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_SYSTEM;
   for (const DWORD attributes : {DWORD{FILE_ATTRIBUTE_HIDDEN}, DWORD{FILE_ATTRIBUTE_ARCHIVE}}) {
