@@ -95,4 +95,18 @@ TEST_F(Contacts, AWebAddressGetsItsSchemeWhenTheBoxIsLeft) {
   }
 }
 
+TEST_F(Contacts, LinksAreNotOpenedBelowADialog) {
+  open(contactsFile({"Ash"}));
+  type(id::CBOPEMAIL, "ann");
+  std::string opened;
+  const windowing::Replaced shell(windowing::seams().shellOpen,
+                                  [&](HWND, const std::string&, const std::string& address,
+                                      const std::string&) { opened += address; });
+  for (const bool takesInput : {false, true}) {
+    EnableWindow(form.handle(), takesInput);
+    notice(id::CBOPEMAIL, controls::TXTBTN::clicked);
+    EXPECT_EQ(opened, takesInput ? "mailto:ann" : "");
+  }
+}
+
 }  // namespace

@@ -1,6 +1,8 @@
 // The main window's two ways of printing, and which contact each of them prints.
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "library/identifiers.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/print_job_win.h"
@@ -37,7 +39,7 @@ class PrintingContacts : public test_support::MainWindowTest {
     return all.substr(all.find("|1|") + 3);
   }
 
-  TestPrinters printers_;
+  std::optional<TestPrinters> printers_{std::in_place};
   int asked_ = 0;
   windowing::Replaced<std::function<BOOL(PRINTDLGA&)>> dialog_{windowing::printDialogSeam(),
                                                                [this](PRINTDLGA&) -> BOOL {
@@ -91,6 +93,15 @@ TEST_F(PrintingContacts, AContactThatIsNotShownWholeIsPrintedWhole) {
   ASSERT_EQ(text(id::textItem(0)), "");
   press(id::PRINT);
   EXPECT_EQ(printed(), " Birch|");
+}
+
+TEST_F(PrintingContacts, WithoutAnyPrinterBothSaySo) {
+  printers_.reset();
+  press(id::PRINT);
+  choose(id::PRINT);
+  ASSERT_EQ(boxes.size(), 2U);
+  for (const test_support::Box& box : boxes)
+    EXPECT_TRUE(box.text.starts_with("There is no printer installed.")) << box.text;
 }
 
 }  // namespace

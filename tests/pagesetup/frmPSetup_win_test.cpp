@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -444,6 +445,21 @@ TEST_F(PageSetup, OKStoresNothingWhereItFails) {
   EXPECT_EQ(stored(), before);
   click(id::BTNCANCEL);
   EXPECT_FALSE(form_.loaded());
+}
+
+TEST_F(PageSetup, APrinterThatCannotBeAskedForAnythingIsNamedAndTheFormCanBeClosed) {
+  TestPrinters::addBroken();
+  // As in a program that has just started: no printer was asked yet.
+  std::destroy_at(&printer());
+  std::construct_at(&printer());
+  form_.load();
+  ASSERT_EQ(list(id::CBOPRINTERS).count(), 3);
+  EXPECT_EQ(list(id::CBOPRINTERS).entry(list(id::CBOPRINTERS).selected()), TestPrinters::broken);
+  type(id::UDNLEFT, "2.0");
+  click(id::BTNOK);
+  EXPECT_FALSE(form_.loaded());
+  EXPECT_TRUE(boxes_.empty());
+  EXPECT_EQ(library::modLibrary().printerName, TestPrinters::broken);
 }
 
 TEST_F(PageSetup, TypingGoesOnWhereThePrinterHasNoFigures) {
