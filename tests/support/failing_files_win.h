@@ -41,6 +41,7 @@ class FailingFiles : public windowing::FileCalls {
   bool streams = false;          ///< every file has a second stream
   DWORD storedAs = 0;            ///< attributes that every file has besides its own
   std::wstring leadsTo;          ///< where every file really is, as the system says it
+  std::string dangling;          ///< where every name leads, though nothing is there yet
   std::string keepFolder;        ///< in place of the user's temporary files
   std::function<void()> onWait;  ///< instead of waiting
   DWORD moveError = 0;           ///< why no file can take another's place
@@ -53,7 +54,9 @@ class FailingFiles : public windowing::FileCalls {
     return !fails() && FileCalls::setAttributes(path, attributes);
   }
   HANDLE open(const std::string& path, DWORD access, DWORD disposition) override {
-    return fails() ? INVALID_HANDLE_VALUE : FileCalls::open(path, access, disposition);
+    const bool follows = disposition == OPEN_ALWAYS && !dangling.empty();
+    if (fails()) return INVALID_HANDLE_VALUE;
+    return FileCalls::open(follows ? dangling : path, access, disposition);
   }
   HANDLE create(const std::string& path, DWORD attributes) override {
     created = attributes;
@@ -62,7 +65,9 @@ class FailingFiles : public windowing::FileCalls {
     return FileCalls::create(path, attributes);
   }
   HANDLE probe(const std::string& path) override {
-    return fails() || !takes(path) ? INVALID_HANDLE_VALUE : FileCalls::probe(path);
+    if (fails() || !takes(path)) return INVALID_HANDLE_VALUE;
+    SetLastError(ERROR_FILE_EXISTS);
+    return dangling.empty() ? FileCalls::probe(path) : INVALID_HANDLE_VALUE;
   }
   bool information(HANDLE file, BY_HANDLE_FILE_INFORMATION& facts) override {
     if (fails() || !FileCalls::information(file, facts)) return false;

@@ -192,6 +192,13 @@ TEST_F(SafeFile, AccessRightsAreCopiedWhereTheyDiffer) {
   EXPECT_FALSE(identityOf(path) == identity);
   EXPECT_TRUE(files.security(path) == before);
   expectOnly(newBytes);
+  // Where they cannot be copied whole, and a file has one name only, it is written over itself.
+  files.wholeSecurity = false;
+  files.noLinks = true;
+  const auto own = identityOf(path);
+  EXPECT_TRUE(save("in place"));
+  expectOnly("in place");
+  EXPECT_TRUE(identityOf(path) == own);
 }
 
 TEST_F(SafeFile, ALinkStaysOneAndTheFileBehindItIsRenewed) {
@@ -225,6 +232,17 @@ TEST_F(SafeFile, ALinkStaysOneAndTheFileBehindItIsRenewed) {
                {LR"(\\?\Volume{1}\x.tly)", ""},
                {unknown, ""}};
   for (const auto& name : names) EXPECT_EQ(plainName(name.full), name.plain);
+}
+
+TEST_F(SafeFile, ALinkThatLeadsToNothingYetLeavesNothingThereWhereASaveFails) {
+  files.dangling = other;
+  files.leadsTo = LR"(\\?\)" + std::wstring(other.begin(), other.end());
+  for (const bool works : {false, true}) {
+    files.moveError = works ? ERROR_SUCCESS : ERROR_DISK_FULL;
+    EXPECT_EQ(save(), works);
+    EXPECT_TRUE(bytesOf(other) == (works ? newBytes : "(none)"));
+    EXPECT_TRUE(folder.names().empty());
+  }
 }
 
 TEST_F(SafeFile, AFileThatAnotherProgramHasOpenIsWaitedForAMoment) {
