@@ -103,6 +103,10 @@ std::string windowsPath(const std::string& path) {
   return mapped;
 }
 
+int numberFrom(const char* name, int otherwise) {
+  return GetEnvironmentVariableA(name, nullptr, 0) == 0 ? otherwise : std::stoi(environment(name));
+}
+
 std::string programUnderTest() {
   return windowsPath(environment("TELLARY_EXE"));
 }
@@ -234,6 +238,13 @@ void Program::settle() const {
   waitFor("the program to be idle", [&] {
     return !running() || !IsWindow(body) || !IsWindowVisible(body) ||
            !GetUpdateRect(body, nullptr, FALSE);
+  });
+}
+
+std::vector<HWND> Program::windows() const {
+  return windowsThat(nullptr, [this](HWND window) {
+    return processOf(window) == processId_ && IsWindowVisible(window) &&
+           (GetWindowLongA(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
   });
 }
 

@@ -62,6 +62,9 @@ class Program {
   /// Waits until the program has done all that was asked of it: posted messages, keys and mouse.
   void settle() const;
 
+  /// Its windows on screen that have a title bar, in their order from the front.
+  [[nodiscard]] std::vector<HWND> windows() const;
+
   // Controls by identifier, wherever they lie.
   [[nodiscard]] HWND control(int id) const;
   [[nodiscard]] std::string text(int id) const;
@@ -126,5 +129,7 @@ class Program {
 [[nodiscard]] std::string windowsPath(const std::string& path);
 /// Value of an environment variable; raises when it is not set.
 [[nodiscard]] std::string environment(const char* name);
+/// Number in an environment variable; `otherwise` where it is not set.
+[[nodiscard]] int numberFrom(const char* name, int otherwise);
 
 }  // namespace drive
