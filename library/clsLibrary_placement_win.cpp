@@ -41,6 +41,13 @@ StoredPlacement storedPlacement(clsLibrary& library, const std::string& formName
           read(value::height)};
 }
 
+void placeForm(windowing::Form& form, const FormPlacement& placed) {
+  const int left = screenPixels(placed.left.value);
+  const int top = screenPixels(placed.top.value);
+  form.moveOuter({left, top, left + screenPixels(placed.width.value),
+                  top + screenPixels(placed.height.value)});
+}
+
 void placeTop(const windowing::Control& button) {
   button.place(button.left(), stripButtonTop.value, button.width(), button.height());
 }
@@ -52,13 +59,22 @@ void placeLeft(const windowing::Control& button, Twips left) {
 }  // namespace
 
 void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTFORM, bool RESIZE) {
-  const FormPlacement placed = loadPlacement(
-      storedPlacement(*this, FORMNAME), placementOf(CURRENTFORM),
-      {windowing::screenWidth(), windowing::screenHeight()}, RESIZE, windowing::userDecimalSign());
-  const int left = screenPixels(placed.left.value);
-  const int top = screenPixels(placed.top.value);
-  CURRENTFORM.moveOuter({left, top, left + screenPixels(placed.width.value),
-                         top + screenPixels(placed.height.value)});
+  StoredPlacement stored = storedPlacement(*this, FORMNAME);
+  const auto load = [&] {
+    return loadPlacement(stored, placementOf(CURRENTFORM),
+                         {windowing::screenWidth(), windowing::screenHeight()}, RESIZE,
+                         windowing::userDecimalSign());
+  };
+  FormPlacement placed = load();
+  placeForm(CURRENTFORM, placed);
+  if (RESIZE) {
+    // Windows lets no form grow beyond the screen: where it stands follows from the size that it
+    // got, lest one that is stored too large have its caption out of reach.
+    stored.width.reset();
+    stored.height.reset();
+    placed = load();
+    placeForm(CURRENTFORM, placed);
+  }
   // "Minimised" is never stored by a program; a form that started so could not be found.
   if (placed.state == WindowState::maximized) CURRENTFORM.maximiseWhenShown();
 }

@@ -74,6 +74,13 @@ bool sameFile(const std::string& one, const std::string& other) {
          first.nFileIndexLow == second.nFileIndexLow;
 }
 
+std::string fullPathOf(const std::string& path) {
+  std::string full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr), '\0');
+  full.resize(
+      GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+  return full;
+}
+
 std::string fileNameOf(const std::string& path) {
   const std::size_t slash = library::lastBackslash(path, windowing::isLeadByte);
   return slash == std::string::npos ? path : path.substr(slash + 1);

@@ -33,6 +33,9 @@ struct FileContent {
 /// Whether two paths lead to one file, however they are written.
 [[nodiscard]] bool sameFile(const std::string& one, const std::string& other);
 
+/// A path as the system understands it: from the drive on, without dots. Empty where it cannot.
+[[nodiscard]] std::string fullPathOf(const std::string& path);
+
 /// File name of a path, without its folder.
 [[nodiscard]] std::string fileNameOf(const std::string& path);
 

@@ -102,9 +102,11 @@ void frmMain::setDocumentPath(const std::string& path) {
 
 std::string frmMain::rememberedFolder(const char* value) const {
   const std::string otherwise = LIBRARY().FILESLOCATION();
-  const std::string folder = library::bareDriveToRoot(LIBRARY().REGSTRREAD(
-      library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value, otherwise));
-  // A device, a file or a drive that is away ends the program inside the system's dialog.
+  const std::string stored = LIBRARY().REGSTRREAD(
+      library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value, otherwise);
+  // A device, a file, a drive that is away or a path of nothing but dots would end the program
+  // inside the system's dialog.
+  const std::string folder = fullPathOf(library::bareDriveToRoot(stored));
   return LIBRARY().FOLDEREXIST(folder) ? folder : otherwise;
 }
 

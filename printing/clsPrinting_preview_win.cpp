@@ -60,7 +60,7 @@ bool same(const RECT& a, const RECT& b) {
 
 void clsPrinting::PRINTPREVIEW() {
   if (report_ == nullptr) return;
-  if (!printerInstalled()) return;
+  if (!printerReady()) return;
   try {
     preparePreview();
   } catch (...) {

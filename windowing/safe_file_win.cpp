@@ -14,10 +14,10 @@ namespace {
 
 // What one may set of `attributes`; the others say how a file is stored.
 DWORD settable(DWORD attributes) {
-  constexpr DWORD mask = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
-                         FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-  const DWORD wanted = attributes & mask;
-  return wanted == 0 ? FILE_ATTRIBUTE_NORMAL : wanted;
+  constexpr DWORD mask =
+      FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+  // New content is for the next backup, as after any other writing.
+  return (attributes & mask) | FILE_ATTRIBUTE_ARCHIVE;
 }
 
 // The old file's second name while its first is the new one's.
