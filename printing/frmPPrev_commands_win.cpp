@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "controls/ICOMNU_win.h"
@@ -174,6 +175,12 @@ LRESULT frmPPrev::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // With the page chosen, the keys of the pages work again.
     const bool closed = HIWORD(wParam) == CBN_CLOSEUP;
     if (closed && isList(reinterpret_cast<HWND>(lParam))) control(id::PICWINDOW).focus();
+  }
+  if (message == WM_GETMINMAXINFO) {
+    // Wine counts the menu bar of a popup to its frame, and would hide the caption of a maximised
+    // one above the screen. A frame is as high as it is wide.
+    POINT& corner = reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxPosition;
+    corner.y = std::max(corner.y, corner.x);
   }
   if (message == WM_DESTROY) ready_ = false;
   if (message == WM_ENDSESSION && wParam != FALSE) onUnload();
