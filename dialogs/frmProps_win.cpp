@@ -190,9 +190,10 @@ int frmProps::documentLines(const std::string& text) const {
   });
   const windowing::TextBox box(control(id::TXTDOCUMENT).handle());
   box.place(0, 0, width, box.height());
-  box.setText(text);
+  const bool taken = box.setText(text) && (text.empty() || box.send(WM_GETTEXTLENGTH) > 0);
   const int lines = box.lineCount();
   box.setText("");
+  if (!taken) windowing::raiseOutOfMemory();
   return lines;
 }
 

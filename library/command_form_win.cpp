@@ -1,13 +1,11 @@
 #include "library/command_form_win.h"
 
-#include "library/clsLibrary_win.h"
+#include "controls/menu_text.h"
 
 namespace library {
 
-void raiseOutOfMemory(std::string_view caption) {
-  throw windowing::RuntimeError(windowing::ErrorNumber::outOfMemory,
-                                "Out of memory. \"" + LIBRARY().GETCAPTION(std::string(caption)) +
-                                    "\" could not be carried out.");
+void raiseNoMemoryFor(std::string_view caption) {
+  windowing::raiseOutOfMemory("'" + controls::spokenText(caption) + "' could not be completed.");
 }
 
 }  // namespace library

@@ -27,8 +27,8 @@ class CommandForm : public windowing::Form {
   }
 };
 
-/// Raises that the command with this caption could not be carried out for want of memory.
-[[noreturn]] void raiseOutOfMemory(std::string_view caption);
+/// Raises that there was too little memory for the command with this caption.
+[[noreturn]] void raiseNoMemoryFor(std::string_view caption);
 
 /// Runs what a command does. Out of memory is raised with the command's name; other errors as they
 /// are.
@@ -38,7 +38,7 @@ void attempt(std::string_view caption, Step step) {
     step();
   } catch (const std::exception& error) {
     if (!windowing::isOutOfMemory(error)) throw;
-    raiseOutOfMemory(caption);
+    raiseNoMemoryFor(caption);
   }
 }
 

@@ -74,6 +74,15 @@ bool sameFile(const std::string& one, const std::string& other) {
          first.nFileIndexLow == second.nFileIndexLow;
 }
 
+bool isFolder(const std::string& path) {
+  // Where the system takes a name for a device ("con", "C:\\nul"), the full path says so. It is not
+  // asked anything then: a device may never answer.
+  const std::string full = fullPathOf(path);
+  if (full.empty() || full.starts_with(R"(\\.\)") || full.starts_with(R"(\\?\)")) return false;
+  const DWORD attributes = GetFileAttributesA(full.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 std::string fullPathOf(const std::string& path) {
   std::string full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr), '\0');
   full.resize(

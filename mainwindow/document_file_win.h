@@ -33,6 +33,9 @@ struct FileContent {
 /// Whether two paths lead to one file, however they are written.
 [[nodiscard]] bool sameFile(const std::string& one, const std::string& other);
 
+/// Whether `path` is a folder that is there; a device is none, under whatever name it goes.
+[[nodiscard]] bool isFolder(const std::string& path);
+
 /// A path as the system understands it: from the drive on, without dots. Empty where it cannot.
 [[nodiscard]] std::string fullPathOf(const std::string& path);
 

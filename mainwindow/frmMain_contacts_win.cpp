@@ -229,7 +229,15 @@ void frmMain::onChange(int changed) {
 }
 
 void frmMain::onSelect(int list) {
-  if (list == id::CBOTBARBOX) goTo(CBOTBARBOX().selected());
+  if (list != id::CBOTBARBOX) return;
+  try {
+    goTo(CBOTBARBOX().selected());
+  } catch (const std::exception& error) {
+    // The name box goes on naming the contact on screen.
+    CBOTBARBOX().select(list_.current());
+    if (!windowing::isOutOfMemory(error)) throw;
+    windowing::raiseOutOfMemory("The contact on screen could not be left.");
+  }
 }
 
 void frmMain::onTab(int) {

@@ -21,6 +21,7 @@
 #include "windowing/runtime_error.h"
 #include "windowing/safe_file_win.h"
 #include "windowing/seams_win.h"
+#include "windowing/system_error_win.h"
 #include "windowing/user_locale_win.h"
 
 namespace mainwindow {
@@ -73,7 +74,7 @@ void frmMain::FILELOAD(const std::string& path) {
     failure = std::current_exception();
   } catch (const std::bad_alloc&) {
     list_.clear();
-    failure = std::make_exception_ptr(RuntimeError(ErrorNumber::outOfMemory, "Out of memory"));
+    failure = std::make_exception_ptr(windowing::systemError(ERROR_OUTOFMEMORY));
   }
   fillNameBox(CBOTBARBOX(), list_);
   list_.setCurrent(0);
@@ -100,14 +101,15 @@ void frmMain::setDocumentPath(const std::string& path) {
   library::modLibrary().documentPath = path;
 }
 
+// A device, a file, a drive that is away or a path of nothing but dots would end the program inside
+// the system's dialog.
 std::string frmMain::rememberedFolder(const char* value) const {
   const std::string otherwise = LIBRARY().FILESLOCATION();
   const std::string stored = LIBRARY().REGSTRREAD(
       library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value, otherwise);
-  // A device, a file, a drive that is away or a path of nothing but dots would end the program
-  // inside the system's dialog.
-  const std::string folder = fullPathOf(library::bareDriveToRoot(stored));
-  return LIBRARY().FOLDEREXIST(folder) ? folder : otherwise;
+  for (const std::string& folder : {library::bareDriveToRoot(stored), otherwise})
+    if (isFolder(folder)) return fullPathOf(folder);
+  return {};
 }
 
 void frmMain::rememberFolder(const char* value, const std::string& file) {
@@ -196,18 +198,17 @@ void frmMain::openDocument() {
 }
 
 void frmMain::tellUnread(const std::string& path, const RuntimeError& error) {
-  std::string text;
+  std::string text = "The document '" + path + "' ";
   if (error.number() == ErrorNumber::fileNotFound) {
-    text = "The document '" + path + "' does not exist.";
+    text += "does not exist";
   } else if (error.number() == ErrorNumber::pathNotFound) {
-    text = "The folder of the document '" + path + "' does not exist.";
+    text += "cannot be found: its folder or drive does not exist";
   } else {
-    text = "The document '" + path + "' could not be read completely.\r\n" +
-           std::to_string(list_.count()) +
-           (list_.count() == 1 ? " contact was read." : " contacts were read.") + "\r\n\r\n" +
-           error.what();
-    if (!text.ends_with('.')) text += '.';
+    text += "could not be read completely.\r\n" + std::to_string(list_.count()) +
+            (list_.count() == 1 ? " contact was read." : " contacts were read.") + "\r\n\r\n" +
+            error.what();
   }
+  if (!text.ends_with('.')) text += '.';
   windowing::seams().messageBox(windowing::dialogOwner(), text, "Open", MB_OK | MB_ICONEXCLAMATION);
 }
 

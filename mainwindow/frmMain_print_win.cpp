@@ -36,7 +36,14 @@ windowing::RichTextBox& frmMain::RTF1() {
 // From what stands in the boxes: edits that are not stored yet are printed as they stand.
 void frmMain::ComposeContactReport() {
   const Hourglass waiting;
-  printing::composeReport(valuesOnScreen(), RTF1(), printing::thePreview().RTF3());
+  const document::ContactRecord values = valuesOnScreen();
+  try {
+    printing::composeReport(values, RTF1(), printing::thePreview().RTF3());
+  } catch (...) {
+    // Half a report is none to be printed later.
+    RTF1().setPlain({});
+    throw;
+  }
 }
 
 // The toolbar's button prints the contact on screen at once. The menu's command prints the report

@@ -2,6 +2,7 @@
 // caught in event handlers, nowhere else but where errors are ignored on purpose.
 #pragma once
 
+#include <exception>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -46,8 +47,18 @@ class RuntimeError : public std::runtime_error {
   throw RuntimeError(ErrorNumber::typeMismatch, "Type mismatch");
 }
 
-/// Whether an error says that there is too little memory, for a step or for anyone.
+/// `undone` is a sentence that names what there was too little memory for; empty where nobody
+/// knows.
+[[noreturn]] inline void raiseOutOfMemory(const std::string& undone = {}) {
+  const std::string text = "Out of memory";
+  throw RuntimeError(ErrorNumber::outOfMemory, undone.empty() ? text : text + "\r\n\r\n" + undone);
+}
+
+/// Whether an error says that there is too little memory, in this program's words or in those of
+/// the language's library, which also calls a text of more than half of all memory too long.
 [[nodiscard]] inline bool isOutOfMemory(const std::exception& error) {
+  if (const auto* known = dynamic_cast<const RuntimeError*>(&error))
+    return known->number() == ErrorNumber::outOfMemory;
   return dynamic_cast<const std::bad_alloc*>(&error) != nullptr ||
          dynamic_cast<const std::length_error*>(&error) != nullptr;
 }

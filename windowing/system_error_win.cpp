@@ -33,6 +33,8 @@ ErrorNumber numberOf(DWORD code) {
 }  // namespace
 
 RuntimeError systemError(DWORD code) {
+  if (numberOf(code) == ErrorNumber::outOfMemory)
+    return {ErrorNumber::outOfMemory, "Out of memory"};
   char buffer[512] = {};
   DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
                                 code, 0, buffer, sizeof buffer, nullptr);

@@ -7,6 +7,19 @@
 #include "windowing/system_error_win.h"
 
 namespace windowing {
+namespace {
+
+std::string numbered(ErrorNumber number, const std::string& text) {
+  return "Run-time error " + std::to_string(static_cast<int>(number)) + ":\r\n\r\n" + text;
+}
+
+std::string reportOf(const std::exception& error) {
+  if (const auto* known = dynamic_cast<const RuntimeError*>(&error))
+    return numbered(known->number(), known->what());
+  return isOutOfMemory(error) ? numbered(ErrorNumber::outOfMemory, "Out of memory") : error.what();
+}
+
+}  // namespace
 
 Window::~Window() {
   if (handle_ == nullptr) return;
@@ -69,14 +82,7 @@ void reportError(const std::exception& error) {
   if (reporting) return;
   reporting = true;
   try {
-    const RuntimeError memory(ErrorNumber::outOfMemory, "Out of memory");
-    const auto* known = dynamic_cast<const RuntimeError*>(&error);
-    if (isOutOfMemory(error)) known = &memory;
-    std::string text = known == nullptr ? error.what() : known->what();
-    if (known != nullptr)
-      text = "Run-time error " + std::to_string(static_cast<int>(known->number())) + ":\r\n\r\n" +
-             text;
-    seams().messageBox(dialogOwner(), text, productName(), MB_ICONSTOP | MB_OK);
+    seams().messageBox(dialogOwner(), reportOf(error), productName(), MB_ICONSTOP | MB_OK);
   } catch (const std::exception&) {
     // Nobody is left to be told.
     MessageBeep(MB_ICONSTOP);

@@ -14,6 +14,7 @@
 #include "tests/support/printers_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
+#include "tests/support/short_memory_win.h"
 #include "windowing/richtextbox_win.h"
 #include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
@@ -275,6 +276,13 @@ TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
   storeMargin(marginKey, "1", "wide");
   form_.UPDATEINFO();
   EXPECT_EQ(figures(), "|2|14|3|");
+  // Lines that nothing could be counted in are none.
+  for (const LRESULT answer : {FALSE, TRUE}) {
+    const test_support::RefusingBox refusing(form_.control(id::TXTDOCUMENT).handle(), WM_SETTEXT,
+                                             answer);
+    form_.UPDATEINFO();
+    EXPECT_EQ(figures(), "||14|3|");
+  }
   form_.setDocumentText([]() -> std::string {
     throw windowing::RuntimeError(windowing::ErrorNumber::objectMissing, "No contact");
   });

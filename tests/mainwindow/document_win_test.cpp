@@ -8,6 +8,7 @@
 #include "library/identifiers.h"
 #include "library/own_keys_win.h"
 #include "tests/support/main_window_win.h"
+#include "tests/support/short_memory_win.h"
 
 namespace {
 
@@ -76,21 +77,24 @@ TEST_F(Document, WhoeverWantsToEndTheProgramWaitsForTheQuestionOnScreen) {
 
 TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
   open(contactsFile({"Ash", "Birch"}));
-  const struct {
-    std::string path, told;
-  } bad[] = {{scratch.folder("folder"), "0 contacts were read"},
-             {scratch / "missing.tly", "missing.tly' does not exist."},
-             {scratch / "gone\\a.tly", "The folder of the document '"},
-             {scratch.file("short.tly", "\"a\"\r\n"), "could not be read completely"},
-             {"NUL", "0 contacts were read"}};
-  for (const auto& [path, told] : bad) {
+  const std::string partly = "could not be read completely.\r\n0 contacts were read.\r\n\r\n";
+  const std::pair<std::string, std::string> bad[] = {
+      {scratch / "missing.tly", "does not exist."},
+      {scratch / "gone\\missing.tly", "cannot be found: its folder or drive does not exist."},
+      {scratch.folder("folder"), partly + "Access denied."},
+      {scratch.file("short.tly", "\"a\"\r\n"), partly + "Input past end of file."},
+      {scratch.file("large.tly", std::string(2000, ' ')), partly + "Out of memory."},
+      {"NUL", partly + "Access denied."}};
+  for (const auto& [path, reason] : bad) {
     SCOPED_TRACE(path);
     boxes.clear();
-    open(path);
+    {
+      const test_support::ShortMemory memory(path.ends_with("large.tly") ? 1000 : 1 << 20);
+      open(path);
+    }
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].title, "Open");
-    EXPECT_NE(boxes[0].text.find("'" + path + "'"), std::string::npos) << boxes[0].text;
-    EXPECT_NE(boxes[0].text.find(told), std::string::npos) << boxes[0].text;
+    EXPECT_EQ(boxes[0].text, "The document '" + path + "' " + reason);
     EXPECT_EQ(form.contacts().count(), 0);
     EXPECT_TRUE(names().empty());
     EXPECT_EQ(text(id::textItem(0)), "");
@@ -100,40 +104,45 @@ TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
   }
 }
 
-TEST_F(Document, HandsOnlyFoldersThatAreThereToTheDialogs) {
-  const std::string section = library::ownKey("\\frmMain\\Items");
-  const std::string otherwise = library::LIBRARY().FILESLOCATION();
-  const std::string file = contactsFile({"Ash"});
-  for (const auto& [command, value] :
-       {std::pair{id::OPEN, "CMD Open Folder"}, std::pair{id::SAVEAS, "CMD Save Folder"}}) {
-    for (const std::string& stored : {std::string("con"), std::string("NUL:"), file,
-                                      scratch / "gone", std::string("\\\\.\\C:")}) {
-      SCOPED_TRACE(stored);
-      library::LIBRARY().REGSTRWRITE(library::currentUserRoot, section, value, stored);
+// The system's dialog does not survive a device, and nobody is helped by a folder that is gone.
+TEST_F(Document, OnlyAFolderThatIsThereIsHandedToADialog) {
+  const std::string key = library::ownKey("\\frmMain\\Items");
+  const std::string fallBack = library::LIBRARY().FILESLOCATION();
+  const std::string file = scratch.file("file.tly", "");
+  const struct {
+    std::string stored;
+    std::string handed;
+  } rows[] = {{scratch.path(), scratch.path()},
+              {scratch.path() + "\\", scratch.path() + "\\"},
+              {"C:", "C:\\"},
+              {"", fallBack},
+              {"con", fallBack},
+              {"C:\\con", fallBack},
+              {"C:\\con\\x", fallBack},
+              {"nul", fallBack},
+              {R"(\\.\C:\)", fallBack},
+              {R"(\\?\C:\)", fallBack},
+              {"Q:\\away", fallBack},
+              {"?*<>|%s", fallBack},
+              {file, fallBack},
+              {scratch / "gone", fallBack},
+              {std::string(200, 'x'), fallBack},
+              {scratch / std::string(100, '.'), scratch.path() + "\\"}};
+  const std::pair<int, const char*> commands[] = {{id::OPEN, "CMD Open Folder"},
+                                                  {id::SAVEAS, "CMD Save Folder"}};
+  for (const auto& [stored, handed] : rows) {
+    for (const auto& [command, value] : commands) {
+      test_support::ScratchRegistry::putText(registry.user(), key, value, stored);
       run(command);
-      EXPECT_EQ(dialogs.back().folder, otherwise);
+      EXPECT_EQ(dialogs.back().folder, handed) << stored;
     }
-    library::LIBRARY().REGSTRWRITE(library::currentUserRoot, section, value, scratch.path());
-    run(command);
-    EXPECT_EQ(dialogs.back().folder, scratch.path());
   }
-}
-
-TEST_F(Document, RunningOutOfMemoryNamesTheCommandAndGoesOn) {
-  {
-    const windowing::Replaced none(
-        windowing::seams().fileDialog,
-        [](auto&&...) -> std::optional<std::string> { throw std::bad_alloc(); });
-    run(id::OPEN);
-  }
-  ASSERT_EQ(boxes.size(), 1U);
-  EXPECT_EQ(boxes[0].text,
-            "Run-time error 7:\r\n\r\nOut of memory. \"Open...\" could not be carried out.");
-  boxes.clear();
-  windowing::reportError(std::length_error("string too long"));
-  EXPECT_EQ(boxes[0].text, "Run-time error 7:\r\n\r\nOut of memory");
-  open(contactsFile({"Ash"}));
-  EXPECT_EQ(text(id::textItem(0)), "Ash");
+  // Not even that may be one.
+  test_support::ScratchRegistry::putText(registry.user(), key, "CMD Open Folder", "con");
+  test_support::ScratchRegistry::putText(registry.user(), library::ownKey("\\frmPrefs\\Items"),
+                                         "Files Location", R"(\\.\C:\)");
+  run(id::OPEN);
+  EXPECT_EQ(dialogs.back().folder, "");
 }
 
 // The strips cover one another while they move, and what the system keeps of them is not enough.

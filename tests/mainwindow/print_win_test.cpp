@@ -104,4 +104,25 @@ TEST_F(PrintingContacts, WithoutAnyPrinterBothSaySo) {
     EXPECT_TRUE(box.text.starts_with("There is no printer installed.")) << box.text;
 }
 
+// A report that broke off is none to be printed later.
+TEST_F(PrintingContacts, TooLittleMemoryForAReportIsToldAndPrintsNothing) {
+  open(contactsFile({"Ash"}));
+  press(id::PRINT);
+  const std::size_t size = 200'000;
+  type(id::textItem(23), std::string(size, 'x'));
+  for (const bool composing : {false, true}) {
+    boxes.clear();
+    {
+      const test_support::ShortMemory memory(composing ? size * 3 / 2 : size / 2);
+      press(id::PRINT);
+    }
+    EXPECT_EQ(TestPrinters::letterJob(), "");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text,
+              "Run-time error 7:\r\n\r\nOut of memory\r\n\r\n'Print...' could not be completed.");
+    choose(id::PRINT);
+    EXPECT_EQ(printed(), composing ? "" : " Ash|");
+  }
+}
+
 }  // namespace

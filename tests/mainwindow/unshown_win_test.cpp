@@ -119,12 +119,23 @@ TEST_F(Unshown, LateBoxesThatCannotBeFilledLockTheContactWithWhatWasTypedStored)
 TEST_F(Unshown, ABoxThatGivesNoTextCallsTheStepOff) {
   open(path_);
   type(id::textItem(3), "typed");
-  for (const int step : {id::NEXT, id::ADD}) {
+  const windowing::ComboBox nameBox(form.control(id::CBOTBARBOX).handle());
+  const std::pair<int, const char*> steps[] = {{id::NEXT, "'Next Page' could not be completed."},
+                                               {id::ADD, "'Add' could not be completed."},
+                                               {0, "The contact on screen could not be left."}};
+  for (const auto& [step, undone] : steps) {
     boxes.clear();
     const RefusingBox refusing(form.control(id::textItem(3)).handle(), WM_GETTEXT, 0);
-    run(step);
+    if (step == 0) {
+      nameBox.select(1);
+      notice(id::CBOTBARBOX, CBN_SELCHANGE);
+    } else {
+      run(step);
+    }
     ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_NE(boxes[0].text.find("Out of memory"), std::string::npos) << boxes[0].text;
+    EXPECT_EQ(boxes[0].text,
+              "Run-time error 7:\r\n\r\nOut of memory\r\n\r\n" + std::string(undone));
+    EXPECT_EQ(nameBox.selected(), 0);
     EXPECT_EQ(form.contacts().count(), 2);
     EXPECT_EQ(names().size(), 2U);
   }

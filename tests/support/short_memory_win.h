@@ -21,25 +21,25 @@ class ShortMemory {
 class RefusingBox {
  public:
   RefusingBox(HWND box, UINT message, LRESULT answer) : box_(box) {
-    refused_ = message;
-    answer_ = answer;
-    procedure_ = reinterpret_cast<WNDPROC>(
+    refused = message;
+    answered = answer;
+    standard = reinterpret_cast<WNDPROC>(
         SetWindowLongA(box, GWL_WNDPROC, reinterpret_cast<LONG>(&RefusingBox::procedure)));
   }
   RefusingBox(const RefusingBox&) = delete;
   RefusingBox& operator=(const RefusingBox&) = delete;
-  ~RefusingBox() { SetWindowLongA(box_, GWL_WNDPROC, reinterpret_cast<LONG>(procedure_)); }
+  ~RefusingBox() { SetWindowLongA(box_, GWL_WNDPROC, reinterpret_cast<LONG>(standard)); }
 
  private:
   static LRESULT CALLBACK procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == refused_ &&
+    if (message == refused &&
         (message == WM_GETTEXT || *reinterpret_cast<const char*>(lParam) != '\0'))
-      return answer_;
-    return CallWindowProcA(procedure_, box, message, wParam, lParam);
+      return answered;
+    return CallWindowProcA(standard, box, message, wParam, lParam);
   }
-  static inline UINT refused_ = WM_NULL;
-  static inline LRESULT answer_ = 0;
-  static inline WNDPROC procedure_ = nullptr;
+  static inline UINT refused = WM_NULL;
+  static inline LRESULT answered = 0;
+  static inline WNDPROC standard = nullptr;
   HWND box_;
 };
 

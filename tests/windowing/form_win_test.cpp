@@ -3,8 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <new>
+#include <utility>
+
 #include "tests/support/plain_form_win.h"
 #include "windowing/runtime_error.h"
+#include "windowing/seams_win.h"
+#include "windowing/system_error_win.h"
 
 namespace {
 
@@ -36,6 +42,28 @@ TEST_F(Forms, TheProgramEndsHoweverItsWindowIsClosed) {
   KillTimer(nullptr, timer);
   WaitForSingleObject(thread, INFINITE);
   CloseHandle(thread);
+}
+
+TEST(Errors, AreReportedByNumberAndInWords) {
+  const windowing::ErrorNumber memory = windowing::ErrorNumber::outOfMemory;
+  const std::pair<std::shared_ptr<std::exception>, std::string> rows[] = {
+      {std::make_shared<std::bad_alloc>(), "Run-time error 7:\r\n\r\nOut of memory"},
+      {std::make_shared<std::length_error>("text"), "Run-time error 7:\r\n\r\nOut of memory"},
+      {std::make_shared<windowing::RuntimeError>(memory, "Out of memory here"),
+       "Run-time error 7:\r\n\r\nOut of memory here"},
+      {std::make_shared<windowing::RuntimeError>(windowing::systemError(ERROR_OUTOFMEMORY)),
+       "Run-time error 7:\r\n\r\nOut of memory"},
+      {std::make_shared<std::runtime_error>("text"), "text"}};
+  for (const auto& [error, told] : rows) {
+    std::string seen;
+    const windowing::Replaced box(windowing::seams().messageBox,
+                                  [&seen](HWND, const std::string& text, auto&&...) {
+                                    seen = text;
+                                    return IDOK;
+                                  });
+    windowing::reportError(*error);
+    EXPECT_EQ(seen, told);
+  }
 }
 
 TEST_F(Forms, CannotBeClosedBelowABox) {
