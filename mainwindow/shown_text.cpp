@@ -1,19 +1,41 @@
 #include "mainwindow/shown_text.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace mainwindow {
+namespace {
+
+bool isControl(char c) {
+  return static_cast<unsigned char>(c) < ' ';
+}
+bool isAscii(char c) {
+  return static_cast<unsigned char>(c) < 0x80;
+}
+
+// Takes characters off the front until one is shown.
+void skipControls(std::string_view& text) {
+  while (!text.empty() && isControl(text.front())) text.remove_prefix(1);
+}
+
+bool showTheSame(std::string_view one, std::string_view other) {
+  for (;;) {
+    skipControls(one);
+    skipControls(other);
+    if (one.empty() || other.empty()) return one.empty() && other.empty();
+    if (one.front() != other.front()) return false;
+    one.remove_prefix(1);
+    other.remove_prefix(1);
+  }
+}
+
+}  // namespace
 
 bool shownWhole(std::string_view text, std::string_view back, bool multipleBytes) {
   text = text.substr(0, text.find('\0'));
-  if (text == back) return true;
-  const auto shows = [](char c) { return static_cast<unsigned char>(c) >= ' '; };
-  if (std::ranges::equal(text | std::views::filter(shows), back | std::views::filter(shows)))
-    return true;
+  if (text == back || showTheSame(text, back)) return true;
   // What stands for such bytes is the system's choice; two of them may become one.
-  const auto plain = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  return multipleBytes && !std::ranges::all_of(text, plain) && back.size() >= text.size() / 2;
+  return multipleBytes && !std::all_of(text.begin(), text.end(), isAscii) &&
+         back.size() >= text.size() / 2;
 }
 
 }  // namespace mainwindow
