@@ -91,6 +91,9 @@ bool FileCalls::truncate(HANDLE file) {
 bool FileCalls::flush(HANDLE file) {
   return FlushFileBuffers(file) != FALSE;
 }
+bool FileCalls::setLastWrite(HANDLE file, const FILETIME& time) {
+  return SetFileTime(file, nullptr, nullptr, &time) != FALSE;
+}
 bool FileCalls::close(HANDLE file) {
   return CloseHandle(file) != FALSE;
 }

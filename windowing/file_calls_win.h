@@ -32,6 +32,7 @@ class FileCalls {
   virtual bool rewind(HANDLE file);
   virtual bool truncate(HANDLE file);
   virtual bool flush(HANDLE file);
+  virtual bool setLastWrite(HANDLE file, const FILETIME& time);
   virtual bool close(HANDLE file);
   /// Owner and access control as bytes to compare; empty where the file system has neither.
   virtual std::string security(const std::string& path);

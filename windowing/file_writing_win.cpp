@@ -42,6 +42,11 @@ void OpenFile::overwrite(const FileProducer& produce) {
   flush();
 }
 
+void OpenFile::putBack(const std::string& content, const FILETIME& lastWrite) {
+  overwrite([&](const FileSink& sink) { sink(content); });
+  calls_.setLastWrite(file_, lastWrite);
+}
+
 bool mayPass(DWORD error) {
   // A move over a file that is open is told by the second.
   return error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED ||

@@ -35,6 +35,9 @@ class OpenFile {
   [[nodiscard]] std::string readAll();
   /// Gives the file this content, on the disk, whatever it held.
   void overwrite(const FileProducer& produce);
+  /// Gives the file its old content back, and the time that goes with it: whoever knows the file
+  /// by its time would take it for somebody else's writing.
+  void putBack(const std::string& content, const FILETIME& lastWrite);
 
  private:
   HANDLE file_;

@@ -61,7 +61,7 @@ void writeInPlace(const SaveTarget& target, const std::string& content, FileCall
     file.overwrite([&](const FileSink& sink) { sink(content); });
   } catch (...) {
     try {
-      file.overwrite([&](const FileSink& sink) { sink(old); });
+      file.putBack(old, target.lastWrite);
     } catch (...) {
       copy.keep();
     }

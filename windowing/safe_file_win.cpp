@@ -82,13 +82,14 @@ void rewrite(const std::string& path, const FileProducer& produce, FileCalls& ca
   file.close();
 }
 
-// Whether the old file is back, with its old bytes.
+// Whether the old file is back, with its old bytes and their time.
 bool restore(const SaveTarget& target, const std::string& second, const Plan& plan,
              FileCalls& calls) {
   if (!plan.mustComeBack) return false;
   try {
-    rewrite(
-        second, [&](const FileSink& sink) { sink(plan.oldBytes); }, calls);
+    OpenFile file(openToRewrite(second, calls), calls);
+    file.putBack(plan.oldBytes, target.lastWrite);
+    file.close();
     moveOver(second, target.path, calls);
     return true;
   } catch (...) {

@@ -42,6 +42,7 @@ void describe(HANDLE file, SaveTarget& target, FileCalls& calls) {
   target.exists = true;
   target.attributes = facts.dwFileAttributes;
   target.links = facts.nNumberOfLinks;
+  target.lastWrite = facts.ftLastWriteTime;
 }
 
 // A new file, gone at once, tells where a link leads that has nothing at its end.

@@ -16,6 +16,7 @@ struct SaveTarget {
   bool reachable = true;  ///< false: `path` may be a link, and where it leads has no plain name
   DWORD attributes = 0;   ///< if it exists
   DWORD links = 0;        ///< the file's names, if it exists
+  FILETIME lastWrite{};   ///< if it exists
 };
 
 /// Follows links to the file that a save of `path` means. It need not exist, nor need the file

@@ -244,6 +244,27 @@ TEST_F(Saving, AsksBeforeItWritesOverWhatSomebodyElseWrote) {
   }
 }
 
+// Nobody else has written to a file that a failing save has put back.
+TEST_F(Saving, AFileThatWasPutBackIsSavedWithoutAQuestion) {
+  for (const bool inPlace : {false, true}) {
+    for (int call = 1, reached = 1; reached != 0; ++call) {
+      SCOPED_TRACE(std::to_string(inPlace) + ", call " + std::to_string(call));
+      calls_.streams = true;
+      calls_.noLinks = inPlace;
+      open(contacts(1, "i"));
+      edit("typed");
+      Sleep(5);
+      save(call, {ERROR_DISK_FULL, false, false});
+      reached = calls_.calls() >= call ? 1 : 0;
+      calls_.streams = calls_.noLinks = false;
+      edit("more");
+      save();
+      EXPECT_TRUE(boxes.empty());
+      EXPECT_FALSE(form.modified());
+    }
+  }
+}
+
 // A disk that is really full. It takes a small file system, which tools/full_disk.sh makes.
 TEST_F(Saving, AFullDiskKeepsTheOldDocumentUntilThereIsRoom) {
   char small[MAX_PATH] = {};

@@ -108,6 +108,9 @@ class FailingFiles : public windowing::FileCalls {
     bytesAtRisk_ = true;
     return false;
   }
+  bool setLastWrite(HANDLE file, const FILETIME& time) override {
+    return !fails() && FileCalls::setLastWrite(file, time);
+  }
   bool close(HANDLE file) override {
     const bool failed = fails();
     // A handle is gone even where closing it reports that the last bytes got lost.
