@@ -25,13 +25,13 @@ DWORD attributesOf(const std::string& path) {
   return plain ? GetFileAttributesA(path.c_str()) : INVALID_FILE_ATTRIBUTES;
 }
 
-// Path lengths are the shell's concern. But one that stands in for Windows, known by an export of
-// its own, copies paths into buffers of this size, and a longer one would end the program.
+// Path lengths are the shell's concern. But Wine's copies paths into buffers of this size, and a
+// longer one would end the program.
 bool shellSurvives(const std::string& path) {
-  static const bool standIn =
+  static const bool isWine =
       GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
   const int bytes = static_cast<int>(path.size());
-  return !standIn || MultiByteToWideChar(CP_ACP, 0, path.data(), bytes, nullptr, 0) < MAX_PATH;
+  return !isWine || MultiByteToWideChar(CP_ACP, 0, path.data(), bytes, nullptr, 0) < MAX_PATH;
 }
 
 // The only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
