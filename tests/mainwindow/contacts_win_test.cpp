@@ -74,6 +74,13 @@ TEST_F(Contacts, BoxesThatAreMadeLateShowTheContactOnScreenAndCostNoneOfIt) {
   EXPECT_EQ(text(id::CBOPEMAIL), "edited");
 }
 
+TEST_F(Contacts, BoxesThatAreMadeLateTakeNothingWhereThereIsNoContact) {
+  form.unload();
+  form.openNamedAtStart(scratch / "missing.tly");
+  form.makeLateControls();
+  EXPECT_FALSE(form.control(id::CBOPWEBSITE).enabled());
+}
+
 TEST_F(Contacts, AWebAddressGetsItsSchemeWhenTheBoxIsLeft) {
   open(contactsFile({"Ash"}));
   const struct {

@@ -244,6 +244,57 @@ TEST_F(Saving, AsksBeforeItWritesOverWhatSomebodyElseWrote) {
   }
 }
 
+TEST_F(Saving, AsksWhereverTheFileIsNotTheOneThatWasRead) {
+  const auto asked = [this] {
+    return !boxes.empty() && boxes[0].text.find("already exists") != std::string::npos;
+  };
+  const std::string theirs = contacts(2, "k");
+  open(contacts(1, "j"));
+  edit("typed");
+  // Others have it open, and have left it its time.
+  HANDLE held = hold();
+  FILETIME time{};
+  GetFileTime(held, nullptr, nullptr, &time);
+  CloseHandle(held);
+  putFile(path_, theirs);
+  held = CreateFileA(path_.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                     0, nullptr);
+  SetFileTime(held, nullptr, nullptr, &time);
+  CloseHandle(held);
+  held = hold();
+  save();
+  EXPECT_TRUE(asked());
+  CloseHandle(held);
+  // A save that was agreed to and failed makes the file no less another's.
+  for (const int call : {1, 0}) {
+    answers = {IDYES, IDOK};
+    if (call == 0) answers = {IDNO};
+    save(call);
+    EXPECT_TRUE(asked());
+  }
+  // So does the save that a closing question leads to.
+  boxes.clear();
+  answers = {IDYES, IDNO};
+  run(id::EXIT);
+  EXPECT_EQ(boxes.size(), 2U);
+  EXPECT_TRUE(form.loaded() && form.modified());
+  EXPECT_EQ(bytesOf(path_), theirs);
+  // What is saved under another name is known from then on.
+  files = {scratch / "Own.tly"};
+  run(id::SAVEAS);
+  edit("more");
+  save();
+  EXPECT_TRUE(boxes.empty());
+  // A file that was not there is not the one that was open before, however alike.
+  open(contacts(1, "j"));
+  const std::string late = scratch / "Late.tly";
+  form.openNamedAtStart(late);
+  run(id::ADD);
+  CopyFileA(path_.c_str(), late.c_str(), FALSE);
+  save();
+  EXPECT_TRUE(asked());
+}
+
 // Nobody else has written to a file that a failing save has put back.
 TEST_F(Saving, AFileThatWasPutBackIsSavedWithoutAQuestion) {
   for (const bool inPlace : {false, true}) {

@@ -51,6 +51,7 @@ TEST_F(Unshown, AContactThatABoxDoesNotTakeIsLockedAndKeptAndToldOfOnce) {
         type(id::textItem(1), "typed");
         notice(id::CBOPWEBSITE, controls::TXTBTN::left);
         EXPECT_FALSE(form.modified());
+        EXPECT_EQ(text(id::CBOPWEBSITE), box == id::CBOPWEBSITE ? "" : "two");
         EXPECT_EQ(names().at(1), "two two");
         run(id::PREVIOUS);
         run(id::NEXT);
@@ -63,6 +64,23 @@ TEST_F(Unshown, AContactThatABoxDoesNotTakeIsLockedAndKeptAndToldOfOnce) {
       ASSERT_EQ(told(), 1U);
       EXPECT_TRUE(boxes[0].text.starts_with("This contact cannot be shown whole")) << boxes[0].text;
     }
+  }
+}
+
+TEST_F(Unshown, ANewDocumentTellsOfItsOwn) {
+  open(path_);
+  for (std::size_t documents = 1; documents <= 2; ++documents) {
+    {
+      const RefusingBox refusing(form.control(comments).handle(), WM_SETTEXT, FALSE);
+      run(id::NEXT);
+      run(id::FIRST);
+    }
+    EXPECT_EQ(told(), documents);
+    form.SETSAVE("False");
+    run(id::NEW);
+    type(comments, "new");
+    run(id::ADD);
+    type(comments, "new");
   }
 }
 
