@@ -95,18 +95,6 @@ TEST_F(PrintingContacts, AContactThatIsNotShownWholeIsPrintedWhole) {
   EXPECT_EQ(printed(), " Birch|");
 }
 
-TEST_F(PrintingContacts, TheButtonIsNamedWhereMemoryRunsOut) {
-  std::vector<std::string> contact(28);
-  contact[27] = std::string((1 << 18) + 1, 'x');
-  open(scratch.file("large.tly", fileOf({contact})));
-  {
-    const test_support::ShortMemory memory(1 << 18);
-    press(id::PRINT);
-  }
-  ASSERT_EQ(boxes.size(), 1U);
-  EXPECT_NE(boxes[0].text.find("Out of memory. \"Print"), std::string::npos) << boxes[0].text;
-}
-
 TEST_F(PrintingContacts, WithoutAnyPrinterBothSaySo) {
   printers_.reset();
   press(id::PRINT);
