@@ -94,7 +94,7 @@ TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
     }
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].title, "Open");
-    EXPECT_EQ(boxes[0].text, "The document '" + path + "' " + reason);
+    EXPECT_EQ(boxes[0].text, std::string("The document '").append(path).append("' ") + reason);
     EXPECT_EQ(form.contacts().count(), 0);
     EXPECT_TRUE(names().empty());
     EXPECT_EQ(text(id::textItem(0)), "");
