@@ -1,5 +1,8 @@
 // The main window's two ways of printing, and which contact each of them prints.
+#include <windows.h>
+
 #include <gtest/gtest.h>
+#include <richedit.h>
 
 #include <optional>
 
@@ -108,12 +111,15 @@ TEST_F(PrintingContacts, WithoutAnyPrinterBothSaySo) {
 TEST_F(PrintingContacts, TooLittleMemoryForAReportIsToldAndPrintsNothing) {
   open(contactsFile({"Ash"}));
   press(id::PRINT);
-  const std::size_t size = 200'000;
-  type(id::textItem(23), std::string(size, 'x'));
-  for (const bool composing : {false, true}) {
+  const HWND report = GetDlgItem(form.handle(), id::RTF1);
+  for (const bool brokenOff : {false, true}) {
+    type(id::textItem(23), brokenOff ? "x" : std::string(100'000, 'x'));
     boxes.clear();
-    {
-      const test_support::ShortMemory memory(composing ? size * 3 / 2 : size / 2);
+    if (brokenOff) {
+      const test_support::RefusingBox refusing(report, EM_STREAMOUT, 0);
+      press(id::PRINT);
+    } else {
+      const test_support::ShortMemory memory(50'000);
       press(id::PRINT);
     }
     EXPECT_EQ(TestPrinters::letterJob(), "");
@@ -121,7 +127,7 @@ TEST_F(PrintingContacts, TooLittleMemoryForAReportIsToldAndPrintsNothing) {
     EXPECT_EQ(boxes[0].text,
               "Run-time error 7:\r\n\r\nOut of memory\r\n\r\n'Print...' could not be completed.");
     choose(id::PRINT);
-    EXPECT_EQ(printed(), composing ? "" : " Ash|");
+    EXPECT_EQ(printed(), brokenOff ? "" : " Ash|");
   }
 }
 

@@ -50,6 +50,7 @@ TEST_F(Unshown, AContactThatABoxDoesNotTakeIsLockedAndKeptAndToldOfOnce) {
         type(id::textItem(3), "typed");
         type(id::textItem(1), "typed");
         notice(id::CBOPWEBSITE, controls::TXTBTN::left);
+        EXPECT_EQ(text(id::CBOPWEBSITE), box == id::CBOPWEBSITE ? "" : "two");
         EXPECT_FALSE(form.modified());
         EXPECT_EQ(text(id::CBOPWEBSITE), box == id::CBOPWEBSITE ? "" : "two");
         EXPECT_EQ(names().at(1), "two two");
@@ -59,6 +60,11 @@ TEST_F(Unshown, AContactThatABoxDoesNotTakeIsLockedAndKeptAndToldOfOnce) {
       run(id::PREVIOUS);
       EXPECT_EQ(text(box), "one");
       EXPECT_FALSE(locked(box));
+      {
+        const RefusingBox again(form.control(box).handle(), WM_SETTEXT, answer);
+        run(id::NEXT);
+        EXPECT_TRUE(locked(box));
+      }
       form.FILESAVEAS(path_);
       EXPECT_EQ(support::bytesOf(path_), bytes_);
       ASSERT_EQ(told(), 1U);

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <richedit.h>
+
 #include <cstddef>
 
 namespace test_support {
@@ -32,10 +34,13 @@ class RefusingBox {
 
  private:
   static LRESULT CALLBACK procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == refused &&
-        (message == WM_GETTEXT || *reinterpret_cast<const char*>(lParam) != '\0'))
-      return answered;
+    if (message == refused && refuses(lParam)) return answered;
     return CallWindowProcA(standard, box, message, wParam, lParam);
+  }
+  static bool refuses(LPARAM lParam) {
+    if (refused == EM_STREAMOUT) reinterpret_cast<EDITSTREAM*>(lParam)->dwError = ERROR_OUTOFMEMORY;
+    const bool handsOut = refused == EM_STREAMOUT || refused == WM_GETTEXT;
+    return handsOut || *reinterpret_cast<const char*>(lParam) != '\0';
   }
   static inline UINT refused = WM_NULL;
   static inline LRESULT answered = 0;
