@@ -81,7 +81,7 @@ run_tests() {
 # The project's sources: what is tracked, or what lies in its folders where git cannot tell.
 sources() {
   git ls-files '*.cpp' '*.h' 2>/dev/null | grep . ||
-    find app document mainwindow printing pagesetup library dialogs controls windowing tests fuzz \
+    find app document mainwindow printing pagesetup library dialogs controls paper windowing files values tests fuzz \
       bench tools -name '*.cpp' -o -name '*.h' 2>/dev/null
 }
 
@@ -109,6 +109,8 @@ export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after
 export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
 check_format
+say "checking the imports between rooms"
+tools/check_rooms.sh || trouble "an import goes against the drawing in ARCHITECTURE.md"
 if build host; then run_tests host; fi
 if [[ $quick == no ]]; then
   if build product; then

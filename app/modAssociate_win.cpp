@@ -8,16 +8,16 @@
 #include "library/clsLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/settings_text.h"
+#include "values/handles_win.h"
+#include "values/number_text.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
-#include "windowing/handles_win.h"
-#include "windowing/number_text.h"
 #include "windowing/seams_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace app {
 namespace {
 
-using windowing::RegistryKey;
+using values::RegistryKey;
 
 constexpr std::int32_t classesRoot = std::numeric_limits<std::int32_t>::min();
 constexpr REGSAM keyAccess = 63;  // the six rights of a key itself, none of the standard ones
@@ -51,7 +51,7 @@ void Associate(const std::string& extension, const std::string& typeName,
   const std::string exe = windowing::programName();
   const std::string file = exe + ".exe";
   const std::string program =
-      library::composePath(windowing::programFolder(), file, windowing::isLeadByte);
+      library::composePath(windowing::programFolder(), file, values::isLeadByte);
   const std::string document = exe + ".Document";
   // No quotes around either, deliberately: start-up takes all that follows the program's
   // name as one path.
@@ -61,7 +61,7 @@ void Associate(const std::string& extension, const std::string& typeName,
   write(HKEY_CLASSES_ROOT, "." + extension, "", document);
   write(HKEY_CLASSES_ROOT, document, "", typeName);
   write(HKEY_CLASSES_ROOT, document + "\\shell\\open\\command", "", command);
-  library.REGDWORDREAD(classesRoot, document, "EDITFLAGS", windowing::toInteger32("0000", '.'));
+  library.REGDWORDREAD(classesRoot, document, "EDITFLAGS", values::toInteger32("0000", '.'));
   library.REGSTRWRITE(library::rootText(classesRoot), document + "\\DefaultIcon", "",
                       program + "," + iconIndex);
   write(HKEY_CURRENT_USER,

@@ -8,9 +8,9 @@
 
 #include "library/path_utilities.h"
 #include "library/proper_case_win.h"
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
+#include "values/user_locale_win.h"
 #include "windowing/shell_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace app {
 namespace {
@@ -23,10 +23,10 @@ std::string fullPathOf(const std::string& requested) {
 }
 
 std::string folderOf(const std::string& path) {
-  std::string folder = library::folderWithBackslash(path, windowing::isLeadByte);
+  std::string folder = library::folderWithBackslash(path, values::isLeadByte);
   if (folder.empty()) return folder;
   folder = library::PROPERCASEPATH(folder);
-  if (library::lastBackslash(folder, windowing::isLeadByte) != folder.size() - 1) folder += '\\';
+  if (library::lastBackslash(folder, values::isLeadByte) != folder.size() - 1) folder += '\\';
   return folder;
 }
 
@@ -37,7 +37,7 @@ std::string shellDisplayName(const std::string& path) {
   static_assert(sizeof info == 352);
   const DWORD_PTR known = SHGetFileInfoA(path.c_str(), 0, &info, sizeof info,
                                          SHGFI_ICON | SHGFI_DISPLAYNAME | SHGFI_TYPENAME);
-  const windowing::IconHandle icon(info.hIcon);
+  const values::IconHandle icon(info.hIcon);
   if (known == 0) return {};
   return library::TRIMNULL(std::string(info.szDisplayName, sizeof info.szDisplayName));
 }
@@ -61,7 +61,7 @@ std::string documentPathOf(const std::string& tail) {
   const std::string path = fullPathOf(tail);
   const std::string folder = folderOf(path);
   const std::string typed =
-      path.substr(library::folderWithBackslash(path, windowing::isLeadByte).size());
+      path.substr(library::folderWithBackslash(path, values::isLeadByte).size());
   // A wildcard would find another file than the one that was named.
   if (typed.empty() || library::hasWildcards(path)) return folder + typed;
   const std::string onDisk = library::PROPERCASEPATH(folder + typed).substr(folder.size());

@@ -9,11 +9,11 @@
 
 #include "bench/measuring.h"
 #include "document/ContactRecord.h"
+#include "paper/printer_win.h"
+#include "paper/richtextbox_win.h"
 #include "printing/compose_report_win.h"
 #include "printing/print_host_win.h"
 #include "tests/support/printers_win.h"
-#include "windowing/printer_win.h"
-#include "windowing/richtextbox_win.h"
 
 namespace bench {
 
@@ -39,7 +39,7 @@ class Paper {
     window_ = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr,
                               nullptr);
     report.create(window_, 1, {0, 0, 10, 10});
-    windowing::printer().select(test_support::TestPrinters::letter);
+    paper::printer().select(test_support::TestPrinters::letter);
   }
   Paper(const Paper&) = delete;
   Paper& operator=(const Paper&) = delete;
@@ -49,7 +49,7 @@ class Paper {
     printing::composeReport(contact, report, host.RTF3());
   }
 
-  windowing::RichTextBox report{"RTF1"};
+  paper::RichTextBox report{"RTF1"};
 
  private:
   test_support::TestPrinters printers_;

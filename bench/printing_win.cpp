@@ -8,16 +8,16 @@
 
 #include "bench/paper_win.h"
 #include "library/own_keys_win.h"
+#include "paper/page_picture_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_win.h"
 #include "windowing/form_win.h"
-#include "windowing/page_picture_win.h"
 #include "windowing/seams_win.h"
 
 namespace {
 
 using bench::require;
-using windowing::printer;
+using paper::printer;
 
 constexpr int jobs = 3;  // of 200 pages each, twice and once more without the engine
 constexpr int linesOf200Pages = 11900;
@@ -71,8 +71,8 @@ std::vector<double> pageTimes(Program& program) {
 }
 
 /// All pages as recordings of what is drawn on them.
-std::vector<windowing::MetafileHandle> record(Program& program) {
-  std::vector<windowing::MetafileHandle> pages;
+std::vector<paper::MetafileHandle> record(Program& program) {
+  std::vector<paper::MetafileHandle> pages;
   for (int page = 1; page <= program.engine.pageCount(); ++page) {
     program.engine.PAGESEL(static_cast<std::int16_t>(page), program.preview.PICSTDPAGE());
     pages.emplace_back(CopyEnhMetaFileA(program.preview.PICSTDPAGE().recording(), nullptr));
@@ -80,7 +80,7 @@ std::vector<windowing::MetafileHandle> record(Program& program) {
   return pages;
 }
 
-double printRecordings(const std::vector<windowing::MetafileHandle>& pages) {
+double printRecordings(const std::vector<paper::MetafileHandle>& pages) {
   return bench::milliseconds([&] {
     const HDC dc = printer().startOutput();
     const SIZE size = printer().physicalSize();
@@ -99,7 +99,7 @@ void measurePrinting(Program& program) {
   const int count = program.engine.pageCount();
   require(count >= 200, "The comment is too short for 200 pages");
   program.engine.PRINTPREVIEW();
-  const std::vector<windowing::MetafileHandle> recordings = record(program);
+  const std::vector<paper::MetafileHandle> recordings = record(program);
 
   bench::Figure flat;
   bench::Figure engine;
@@ -124,10 +124,10 @@ void measurePrinting(Program& program) {
 
 /// The time of drawing 120 lines of text into a surface in memory.
 double draw120Lines() {
-  const windowing::WindowDc screen(nullptr);
-  const windowing::MemoryDc memory(CreateCompatibleDC(screen.get()));
-  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), 816, 1056));
-  const windowing::Selected surface(memory.get(), bitmap.get());
+  const values::WindowDc screen(nullptr);
+  const values::MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const values::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), 816, 1056));
+  const values::Selected surface(memory.get(), bitmap.get());
   return bench::milliseconds([&] {
     for (int line = 0; line < 120; ++line) {
       const std::string text = "Line " + std::to_string(line) + " of a page of text in memory";
@@ -160,12 +160,12 @@ double zoomStep(Program& program) {
 /// Drawing the page on show once, at the size that the zoom gives it.
 double drawOnce(Program& program) {
   const RECT whole = program.preview.PICWINDOW().pagePixels();
-  const windowing::WindowDc screen(nullptr);
-  const windowing::MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const values::WindowDc screen(nullptr);
+  const values::MemoryDc memory(CreateCompatibleDC(screen.get()));
   const int width = whole.right - whole.left;
   const int height = whole.bottom - whole.top;
-  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), width, height));
-  const windowing::Selected surface(memory.get(), bitmap.get());
+  const values::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), width, height));
+  const values::Selected surface(memory.get(), bitmap.get());
   return bench::milliseconds([&] {
     program.preview.PICSTDPAGE().draw(memory.get(), {0, 0, width, height});
   });

@@ -8,8 +8,8 @@
 #include "bench/measuring.h"
 #include "document/reader.h"
 #include "document/writer.h"
+#include "files/safe_file_win.h"
 #include "mainwindow/document_file_win.h"
-#include "windowing/safe_file_win.h"
 
 namespace {
 
@@ -31,13 +31,13 @@ void writeFlushRename(const std::string& bytes, const char* temporary, const cha
 }
 
 // Nothing hangs on the old file that a new one lacks, as is the rule on Windows.
-class WindowsFiles : public windowing::FileCalls {
+class WindowsFiles : public files::FileCalls {
  public:
   bool securityIsWhole() override { return true; }
 };
 
 void measure(const char* what, const std::string& bytes, const document::ContactList& list,
-             windowing::FileCalls& files) {
+             files::FileCalls& files) {
   bench::Figure figure;
   for (int round = 0; round < bench::rounds; ++round) {
     double floor = 0;
@@ -46,9 +46,9 @@ void measure(const char* what, const std::string& bytes, const document::Contact
       floor += bench::milliseconds(
           [&] { writeFlushRename(bytes, "bench_saving.tmp", "bench_saving1.tly"); });
       saving += bench::milliseconds([&] {
-        windowing::replaceFile(
-            "bench_saving2.tly",
-            [&](const windowing::FileSink& sink) { document::write(list, sink); }, files);
+        files::replaceFile(
+            "bench_saving2.tly", [&](const files::FileSink& sink) { document::write(list, sink); },
+            files);
       });
     }
     figure.add(saving / 5, floor / 5);
@@ -60,7 +60,7 @@ void measure(const char* what, const std::string& bytes, const document::Contact
 
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
-  windowing::FileCalls files;
+  files::FileCalls files;
   document::ContactList list;
   document::read(mainwindow::readFile(argv[1], files).bytes, list);
   std::string bytes;

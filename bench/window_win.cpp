@@ -159,7 +159,7 @@ int main(int argc, char** argv) {
   if (argc != 3) return 2;
   const std::string full = argv[1];
   const std::string thousand = argv[2];
-  windowing::FileCalls files;
+  files::FileCalls files;
   document::ContactList list;
   if (document::read(mainwindow::readFile(full, files).bytes, list).contacts != list.maxCount)
     return 3;

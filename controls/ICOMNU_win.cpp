@@ -4,7 +4,7 @@
 
 #include "controls/menu_drawing_win.h"
 #include "controls/menu_text.h"
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace controls {
 namespace {
@@ -28,8 +28,8 @@ ICOMNU::Item& ICOMNU::item(int number) {
 const ICOMNU::Item& ICOMNU::item(int number) const {
   const auto found = items_.find(number);
   if (found == items_.end())
-    throw windowing::RuntimeError(windowing::ErrorNumber::outOfRange,
-                                  "There is no menu item " + std::to_string(number));
+    throw values::RuntimeError(values::ErrorNumber::outOfRange,
+                               "There is no menu item " + std::to_string(number));
   return found->second;
 }
 

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 #include "windowing/image_list_win.h"
 
 namespace controls {
@@ -115,7 +115,7 @@ class ICOMNU {
 
   std::map<int, Item> items_;
   std::map<int, State> kept_;
-  windowing::MenuHandle bar_;
+  values::MenuHandle bar_;
   HWND form_ = nullptr;
   const windowing::ImageList* images_ = nullptr;
 };

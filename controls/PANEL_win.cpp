@@ -1,8 +1,8 @@
 #include "controls/PANEL_win.h"
 
 #include "controls/drawing_win.h"
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
-#include "windowing/system_error_win.h"
 
 namespace controls {
 
@@ -14,7 +14,7 @@ PANEL PANEL::create(HWND container, int id, const RECT& place, Border border) {
                                      place.top, widthOf(place), heightOf(place), container,
                                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                      windowing::programInstance(), nullptr);
-  if (panel == nullptr) windowing::raiseLastError();
+  if (panel == nullptr) values::raiseLastError();
   return PANEL(panel);
 }
 

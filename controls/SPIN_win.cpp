@@ -8,10 +8,10 @@
 
 #include "controls/drawing_win.h"
 #include "controls/subclass_win.h"
+#include "values/system_error_win.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
 #include "windowing/seams_win.h"
-#include "windowing/system_error_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace controls {
 namespace {
@@ -67,7 +67,7 @@ class NumberInBox : public Subclass {
   void placeArrows() const;
 
   HWND arrows_ = nullptr;  // a child of the box; goes with it
-  char sign_ = windowing::userDecimalSign();
+  char sign_ = values::userDecimalSign();
   SpinLimits limits_;
   int value_ = initialTenths;
   int wheel_ = 0;
@@ -268,7 +268,7 @@ SPIN SPIN::create(HWND container, int id, const RECT& place) {
       WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDREN | ES_LEFT | ES_AUTOHSCROLL, place.left,
       place.top, widthOf(place), heightOf(place), container,
       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), windowing::programInstance(), nullptr);
-  if (box == nullptr) windowing::raiseLastError();
+  if (box == nullptr) values::raiseLastError();
   SendMessageA(box, EM_SETLIMITTEXT, longestText, 0);
   Subclass::attach(box, std::make_unique<NumberInBox>());
   if (auto* number = numberOf(box)) number->prepare();

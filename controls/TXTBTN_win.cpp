@@ -6,9 +6,9 @@
 
 #include "controls/drawing_win.h"
 #include "controls/subclass_win.h"
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/screen_win.h"
-#include "windowing/system_error_win.h"
 
 namespace controls {
 namespace {
@@ -348,7 +348,7 @@ TXTBTN TXTBTN::create(HWND container, int id, const RECT& place) {
       WS_EX_CLIENTEDGE, "EDIT", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_LEFT | ES_AUTOHSCROLL,
       place.left, place.top, widthOf(place), heightOf(place), container,
       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), windowing::programInstance(), nullptr);
-  if (box == nullptr) windowing::raiseLastError();
+  if (box == nullptr) values::raiseLastError();
   TXTBTN made(box);
   made.setLimit(0);
   Subclass::attach(box, std::make_unique<ButtonOfBox>());

@@ -1,9 +1,9 @@
 #include "controls/TXTSEP_win.h"
 
 #include "controls/drawing_win.h"
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/screen_win.h"
-#include "windowing/system_error_win.h"
 
 namespace controls {
 namespace {
@@ -37,7 +37,7 @@ void draw(HWND window, HDC dc, const RECT& area) {
 LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: {
-      const windowing::PaintDc paint(window);
+      const values::PaintDc paint(window);
       RECT area{};
       GetClientRect(window, &area);
       draw(window, paint.get(), area);
@@ -76,7 +76,7 @@ TXTSEP TXTSEP::create(HWND container, int id, const RECT& place) {
                                     place.top, widthOf(place), heightOf(place), container,
                                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                     windowing::programInstance(), nullptr);
-  if (line == nullptr) windowing::raiseLastError();
+  if (line == nullptr) values::raiseLastError();
   return TXTSEP(line);
 }
 

@@ -21,12 +21,12 @@ COLORREF mixedColour(int under, int over, int percent) {
 }
 
 void fill(HDC dc, const RECT& area, COLORREF colour) {
-  const windowing::BrushHandle brush(CreateSolidBrush(colour));
+  const values::BrushHandle brush(CreateSolidBrush(colour));
   FillRect(dc, &area, brush.get());
 }
 
 void frame(HDC dc, const RECT& area, COLORREF colour, int thickness) {
-  const windowing::BrushHandle brush(CreateSolidBrush(colour));
+  const values::BrushHandle brush(CreateSolidBrush(colour));
   RECT ring = area;
   for (int i = 0; i < thickness; ++i) {
     FrameRect(dc, &ring, brush.get());

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace controls {
 
@@ -36,8 +36,8 @@ class Buffered {
  private:
   HDC target_;
   RECT area_;
-  windowing::MemoryDc memory_;
-  windowing::BitmapHandle bitmap_;
+  values::MemoryDc memory_;
+  values::BitmapHandle bitmap_;
   HGDIOBJ old_ = nullptr;
 };
 

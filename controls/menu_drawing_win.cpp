@@ -10,9 +10,9 @@
 namespace controls {
 namespace {
 
-using windowing::FontHandle;
+using values::FontHandle;
+using values::Selected;
 using windowing::scaled;
-using windowing::Selected;
 
 // Lengths in pixels at 96 dots per inch.
 constexpr int rowPadding = 3;      // above and below text or picture
@@ -49,7 +49,7 @@ const Fonts& fonts() {
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
   shared.text.reset(CreateFontIndirectA(&metrics.lfMenuFont));
-  const windowing::WindowDc screen(nullptr);
+  const values::WindowDc screen(nullptr);
   const Selected chosen(screen.get(), shared.text.get());
   TEXTMETRICA measures{};
   GetTextMetricsA(screen.get(), &measures);
@@ -166,7 +166,7 @@ void menuFontChanged() {
 SIZE menuItemSize(const MenuItemLook& look, const windowing::ImageList* images) {
   if (look.separator) return {columnWidth(images), scaled(separatorHeight)};
   const auto [words, shortcut] = splitMenuText(look.caption);
-  const windowing::WindowDc screen(nullptr);
+  const values::WindowDc screen(nullptr);
   const Selected chosen(screen.get(), fonts().text.get());
   int width = columnWidth(images) + scaled(textGap) + textWidth(screen.get(), words, 0) +
               scaled(rightMargin);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace dialogs {
 namespace {
@@ -42,7 +42,7 @@ std::string locationText(std::string_view path, library::LeadByteTest isLead) {
 
 int pageCount(int lines, const ReportPage& page) {
   if (!(page.height > 0) || !(page.lineHeight > 0))
-    throw windowing::RuntimeError(windowing::ErrorNumber::invalidCall, "A page without a size");
+    throw values::RuntimeError(values::ErrorNumber::invalidCall, "A page without a size");
   const double room = page.height - page.topMargin - page.bottomMargin;
   const double fitting = std::max(1.0, std::floor(room / page.lineHeight));
   return static_cast<int>(std::max(1.0, std::ceil(lines / fitting)));

@@ -3,15 +3,15 @@
 #include <shellapi.h>
 
 #include "library/path_utilities.h"
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
+#include "values/system_error_win.h"
 #include "windowing/shell_win.h"
-#include "windowing/system_error_win.h"
 
 namespace dialogs {
 namespace {
 
 [[noreturn]] void raiseNotFound(const std::string& path) {
-  throw windowing::RuntimeError(windowing::ErrorNumber::fileNotFound, "File not found: " + path);
+  throw values::RuntimeError(values::ErrorNumber::fileNotFound, "File not found: " + path);
 }
 
 // The answer of one of the functions that format a date or a time into a buffer.
@@ -19,7 +19,7 @@ template <typename Format>
 std::string formatted(Format format) {
   const int size = format(nullptr, 0);
   std::string text(static_cast<std::size_t>(size), '\0');
-  if (size == 0 || format(text.data(), size) == 0) windowing::raiseLastError();
+  if (size == 0 || format(text.data(), size) == 0) values::raiseLastError();
   return library::trimNull(text);
 }
 
@@ -29,7 +29,7 @@ std::string fullPath(const std::string& path) {
   const DWORD size = GetFullPathNameA(path.c_str(), 0, nullptr, nullptr);
   std::string full(size, '\0');
   const DWORD length = GetFullPathNameA(path.c_str(), size, full.data(), nullptr);
-  if (length == 0 || length >= size) windowing::raiseLastError();
+  if (length == 0 || length >= size) values::raiseLastError();
   full.resize(length);
   return full;
 }
@@ -37,7 +37,7 @@ std::string fullPath(const std::string& path) {
 FileFacts fileFacts(const std::string& path) {
   WIN32_FIND_DATAA found{};
   if (library::hasWildcards(path)) raiseNotFound(path);
-  const windowing::FindHandle search(FindFirstFileA(path.c_str(), &found));
+  const values::FindHandle search(FindFirstFileA(path.c_str(), &found));
   if (!search) raiseNotFound(path);
 
   FileFacts facts;
@@ -59,7 +59,7 @@ std::string dateTimeText(const FILETIME& time) {
   FILETIME local{};
   SYSTEMTIME parts{};
   if (!FileTimeToLocalFileTime(&time, &local) || !FileTimeToSystemTime(&local, &parts))
-    windowing::raiseLastError();
+    values::raiseLastError();
   return formatted([&](char* text, int size) {
            return GetDateFormatA(LOCALE_USER_DEFAULT, DATE_LONGDATE, &parts, nullptr, text, size);
          }) +
@@ -77,9 +77,9 @@ bool setReadOnly(const std::string& path, bool readOnly) {
 }
 
 std::optional<ImageHeader> GETIMAGEFILEINFO(const std::string& path) {
-  const windowing::FileHandle file(CreateFileA(path.c_str(), GENERIC_READ,
-                                               FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  const values::FileHandle file(CreateFileA(path.c_str(), GENERIC_READ,
+                                            FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return std::nullopt;
   std::string bytes(imageHeaderBytes, '\0');
   DWORD read = 0;

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "dialogs/image_header.h"
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace dialogs {
 
@@ -16,8 +16,8 @@ struct FileFacts {
   DWORD attributes = 0;
   std::uint64_t size = 0;  ///< bytes
   FILETIME lastWrite{};
-  std::string typeName;        ///< of the shell; empty where it has none
-  windowing::IconHandle icon;  ///< of the shell; may be none
+  std::string typeName;     ///< of the shell; empty where it has none
+  values::IconHandle icon;  ///< of the shell; may be none
 };
 
 /// `path` from its drive or share on. Raises an error of the system.

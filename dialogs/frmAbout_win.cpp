@@ -6,11 +6,11 @@
 #include "library/maker_site.h"
 #include "library/placement.h"
 #include "library/resource_ids.h"
+#include "values/handles_win.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
 #include "windowing/handle_text_win.h"
-#include "windowing/handles_win.h"
 #include "windowing/screen_win.h"
 
 namespace dialogs {
@@ -48,8 +48,8 @@ std::string upperCase(std::string text) {
 
 void centreOnScreen(windowing::Form& form) {
   RECT place = form.outerPixels();
-  const windowing::Pixels screenWide{GetSystemMetrics(SM_CXSCREEN)};
-  const windowing::Pixels screenHigh{GetSystemMetrics(SM_CYSCREEN)};
+  const values::Pixels screenWide{GetSystemMetrics(SM_CXSCREEN)};
+  const values::Pixels screenHigh{GetSystemMetrics(SM_CYSCREEN)};
   const int left = library::centred(screenWide, {place.right - place.left}).value;
   const int top = library::centred(screenHigh, {place.bottom - place.top}).value;
   OffsetRect(&place, left - place.left, top - place.top);
@@ -117,13 +117,13 @@ HBRUSH frmAbout::onColour(HDC, int asked) {
 }
 
 void frmAbout::drawLogo(HDC dc, const RECT& area) const {
-  const windowing::BitmapHandle picture(static_cast<HBITMAP>(
+  const values::BitmapHandle picture(static_cast<HBITMAP>(
       LoadImageA(windowing::programInstance(), MAKEINTRESOURCEA(logoResource()), IMAGE_BITMAP, 0, 0,
                  LR_CREATEDIBSECTION)));
   BITMAP facts{};
   if (GetObjectA(picture.get(), sizeof facts, &facts) == 0) return;
-  const windowing::MemoryDc memory(CreateCompatibleDC(dc));
-  const windowing::Selected selected(memory.get(), picture.get());
+  const values::MemoryDc memory(CreateCompatibleDC(dc));
+  const values::Selected selected(memory.get(), picture.get());
   SetStretchBltMode(dc, HALFTONE);
   SetBrushOrgEx(dc, 0, 0, nullptr);
   StretchBlt(dc, area.left, area.top, area.right - area.left, area.bottom - area.top, memory.get(),

@@ -8,9 +8,9 @@
 #include "dialogs/frmProps_design_win.h"
 #include "dialogs/frmProps_win.h"
 #include "library/resource_ids.h"
+#include "values/handles_win.h"
 #include "windowing/application_win.h"
 #include "windowing/fonts_win.h"
-#include "windowing/handles_win.h"
 #include "windowing/screen_win.h"
 
 namespace dialogs {
@@ -91,7 +91,7 @@ void frmProps::drawTickLabel(const DRAWITEMSTRUCT& item) const {
   FillRect(item.hDC, &item.rcItem, behind);
   const windowing::Control label(item.hwndItem);
   const std::string text = label.text();
-  const windowing::Selected font(item.hDC, windowing::formFont());
+  const values::Selected font(item.hDC, windowing::formFont());
   RECT area = item.rcItem;
   InflateRect(&area, -windowing::scaled(2), -windowing::scaled(1));
   constexpr UINT format = DT_SINGLELINE | DT_NOPREFIX;

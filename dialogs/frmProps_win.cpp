@@ -8,13 +8,13 @@
 #include "library/path_utilities.h"
 #include "library/proper_case_win.h"
 #include "library/text_utilities.h"
+#include "paper/text_format.h"
+#include "values/runtime_error.h"
+#include "values/units.h"
+#include "values/user_locale_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
-#include "windowing/text_format.h"
-#include "windowing/units.h"
-#include "windowing/user_locale_win.h"
 
 namespace dialogs {
 
@@ -57,7 +57,7 @@ void ignoringErrors(Figure figure) {
 }
 
 std::string fileNameOf(const std::string& path) {
-  const std::size_t folder = library::folderWithBackslash(path, windowing::isLeadByte).size();
+  const std::size_t folder = library::folderWithBackslash(path, values::isLeadByte).size();
   // A drive's root has no name but itself.
   return folder == path.size() ? path : path.substr(folder);
 }
@@ -79,11 +79,10 @@ void frmProps::onLoad() {
     windowing::setSurface(frame, windowing::Surface::tabPage);
     SetWindowPos(frame, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
-  control(id::TXTDOCUMENT)
-      .setFont(windowing::font(windowing::documentTypeface, windowing::documentPoints));
+  control(id::TXTDOCUMENT).setFont(windowing::font(paper::documentTypeface, paper::documentPoints));
   try {
     LIBRARY().FORMLOAD(placeName, *this, false);
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A stored place that is none: the dialog stays where its design put it.
   }
   LIBRARY().RESIZEBTNCLOSE(*this);
@@ -150,15 +149,15 @@ void frmProps::fillGeneral() {
     control(id::TXTFILENAME).setText(name);
     facts_ = fileFacts(path);
     path_ = path;
-    control(id::TXTTYPE).setText(fileTypeText(facts_.typeName, name, windowing::isLeadByte));
-    control(id::TXTLOCATION).setText(locationText(path, windowing::isLeadByte));
+    control(id::TXTTYPE).setText(fileTypeText(facts_.typeName, name, values::isLeadByte));
+    control(id::TXTLOCATION).setText(locationText(path, values::isLeadByte));
     control(id::TXTSIZE)
-        .setText(library::fileSizeText(facts_.size, windowing::userDecimalSign(),
-                                       windowing::userGroupSeparator()));
+        .setText(library::fileSizeText(facts_.size, values::userDecimalSign(),
+                                       values::userGroupSeparator()));
     control(id::TXTMODIFIED).setText(dateTimeText(facts_.lastWrite));
     showAttributes();
     showIcon(facts_.icon.get());
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A file that cannot be asked has no more facts; what is known of it so far is shown.
   }
 }
@@ -185,7 +184,7 @@ int frmProps::documentLines(const std::string& text) const {
   double width = endless;
   ignoringErrors([&] {
     const ReportMargins margins = reportMargins();
-    const double sides = (margins.left + margins.right) * windowing::twipsPerInch;
+    const double sides = (margins.left + margins.right) * values::twipsPerInch;
     if (const double paper = paper_().width; paper > sides) width = paper - sides;
   });
   const windowing::TextBox box(control(id::TXTDOCUMENT).handle());
@@ -193,15 +192,15 @@ int frmProps::documentLines(const std::string& text) const {
   const bool taken = box.setText(text) && (text.empty() || box.send(WM_GETTEXTLENGTH) > 0);
   const int lines = box.lineCount();
   box.setText("");
-  if (!taken) windowing::raiseOutOfMemory();
+  if (!taken) values::raiseOutOfMemory();
   return lines;
 }
 
 int frmProps::documentPages(int lines) const {
   const ReportPaper paper = paper_();
   const ReportMargins margins = reportMargins();
-  return pageCount(lines, {paper.height, margins.top * windowing::twipsPerInch,
-                           margins.bottom * windowing::twipsPerInch, paper.lineHeight});
+  return pageCount(lines, {paper.height, margins.top * values::twipsPerInch,
+                           margins.bottom * values::twipsPerInch, paper.lineHeight});
 }
 
 void frmProps::fillPicture() {

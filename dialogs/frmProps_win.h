@@ -61,7 +61,7 @@ class frmProps : public windowing::Form {
   [[nodiscard]] windowing::CheckBox CHKATTR(int index) const;
 
   std::function<std::string()> documentText_;
-  std::function<ReportPaper()> paper_ = [] { return reportPaper(windowing::printer()); };
+  std::function<ReportPaper()> paper_ = [] { return reportPaper(paper::printer()); };
   std::vector<int> frames_;  ///< of the tabs, in their order
   std::string path_;         ///< of the file the facts are of; empty where there is none
   FileFacts facts_;

@@ -4,11 +4,11 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/own_keys_win.h"
-#include "windowing/handles_win.h"
-#include "windowing/number_text.h"
-#include "windowing/text_format.h"
-#include "windowing/units.h"
-#include "windowing/user_locale_win.h"
+#include "paper/text_format.h"
+#include "values/handles_win.h"
+#include "values/number_text.h"
+#include "values/units.h"
+#include "values/user_locale_win.h"
 
 namespace dialogs {
 namespace {
@@ -21,23 +21,23 @@ constexpr char marginSection[] = "\\GLOBAL\\frmpprev\\Items";
 double margin(const char* section, const char* value) {
   const std::string text = library::LIBRARY().REGSTRREAD(library::currentUserRoot,
                                                          library::familyKey(section), value, "1");
-  return windowing::storedNumber(text, windowing::userDecimalSign());
+  return values::storedNumber(text, values::userDecimalSign());
 }
 
 }  // namespace
 
-ReportPaper reportPaper(windowing::Printer& printer) {
+ReportPaper reportPaper(paper::Printer& printer) {
   const HDC dc = printer.dc();
   const int dpi = GetDeviceCaps(dc, LOGPIXELSY);
-  const windowing::FontHandle font(
-      CreateFontA(-MulDiv(windowing::documentPoints, dpi, 72), 0, 0, 0, FW_NORMAL, FALSE, FALSE,
-                  FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                  DEFAULT_PITCH | FF_DONTCARE, windowing::documentTypeface));
-  const windowing::Selected selected(dc, font.get());
+  const values::FontHandle font(
+      CreateFontA(-MulDiv(paper::documentPoints, dpi, 72), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE,
+                  DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                  DEFAULT_PITCH | FF_DONTCARE, paper::documentTypeface));
+  const values::Selected selected(dc, font.get());
   TEXTMETRICA metrics{};
   GetTextMetricsA(dc, &metrics);
   return {printer.width(), printer.height(),
-          static_cast<double>(metrics.tmHeight) * windowing::twipsPerInch / dpi};
+          static_cast<double>(metrics.tmHeight) * values::twipsPerInch / dpi};
 }
 
 ReportMargins reportMargins() {

@@ -1,7 +1,7 @@
 // The paper that a report would be printed on.
 #pragma once
 
-#include "windowing/printer_win.h"
+#include "paper/printer_win.h"
 
 namespace dialogs {
 
@@ -13,7 +13,7 @@ struct ReportPaper {
 };
 
 /// Paper in `printer`. Raises a printer error where no printer is installed.
-[[nodiscard]] ReportPaper reportPaper(windowing::Printer& printer);
+[[nodiscard]] ReportPaper reportPaper(paper::Printer& printer);
 
 /// The margins of printed pages as they are stored, inches.
 struct ReportMargins {

@@ -7,13 +7,13 @@
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/text_utilities.h"
+#include "values/runtime_error.h"
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/handle_text_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 #include "windowing/shell_win.h"
-#include "windowing/system_error_win.h"
 
 namespace library {
 namespace {
@@ -39,7 +39,7 @@ bool shellSurvives(const std::string& path) {
 void shellOperation(UINT function, const std::string& from, const std::string& to) {
   const HWND owner = windowing::dialogOwner();
   if (!shellSurvives(from) || !shellSurvives(to)) {
-    windowing::seams().messageBox(owner, windowing::systemError(ERROR_FILENAME_EXCED_RANGE).what(),
+    windowing::seams().messageBox(owner, values::systemError(ERROR_FILENAME_EXCED_RANGE).what(),
                                   windowing::productName(), MB_OK | MB_ICONSTOP);
     return;
   }
@@ -114,7 +114,7 @@ void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& C
     // A modal form is owned by the active window.
     SetActiveWindow(CURRENTFORM.handle());
     MODALFORM.showModal();
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A form that cannot be shown leaves the folder as it was.
   }
 }

@@ -28,9 +28,9 @@ LRESULT callProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wPara
                                  : CallWindowProcA(procedure, window, message, wParam, lParam);
 }
 
-int centredOn(windowing::Twips screenSide, int dialogSide) {
+int centredOn(values::Twips screenSide, int dialogSide) {
   const double twipsPerPixel = windowing::screenTwips(1);
-  return centred(screenPixels(screenSide, twipsPerPixel), windowing::Pixels{dialogSide}).value;
+  return centred(screenPixels(screenSide, twipsPerPixel), values::Pixels{dialogSide}).value;
 }
 
 void centre(HWND dialog) {

@@ -9,8 +9,8 @@
 namespace library {
 namespace {
 
-using windowing::ErrorNumber;
-using windowing::RuntimeError;
+using values::ErrorNumber;
+using values::RuntimeError;
 
 // Toolbar buttons without a menu item of their own.
 struct ToolbarCaption {

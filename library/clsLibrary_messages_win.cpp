@@ -1,10 +1,10 @@
 // Messages by number: composed by the catalogue, shown here.
 #include "library/clsLibrary_win.h"
 #include "library/message_catalogue.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/seams_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace library {
 namespace {
@@ -16,7 +16,7 @@ int showMessage(Composer compose, int number, const std::string& file1, const st
   const std::string product = windowing::productName();
   const std::string folder = windowing::programFolder();
   const Message message =
-      compose(number, {file1, file2, file3, product, folder, windowing::userDecimalSign()});
+      compose(number, {file1, file2, file3, product, folder, values::userDecimalSign()});
   if (message.beep) windowing::seams().beep();
   return windowing::seams().messageBox(windowing::dialogOwner(), message.text, message.title,
                                        message.flags);

@@ -4,17 +4,17 @@
 #include "library/clsLibrary_win.h"
 #include "library/placement.h"
 #include "library/settings_text.h"
+#include "values/runtime_error.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace library {
 namespace {
 
+using values::Twips;
 using windowing::screenPixels;
 using windowing::screenTwips;
-using windowing::Twips;
 
 std::string placementKey(const std::string& formName) {
   return windowKey(windowing::companyName(), windowing::productName(), formName);
@@ -63,7 +63,7 @@ void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTF
   const auto load = [&] {
     return loadPlacement(stored, placementOf(CURRENTFORM),
                          {windowing::screenWidth(), windowing::screenHeight()}, RESIZE,
-                         windowing::userDecimalSign());
+                         values::userDecimalSign());
   };
   FormPlacement placed = load();
   placeForm(CURRENTFORM, placed);
@@ -82,7 +82,7 @@ void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTF
 void clsLibrary::FORMSAVE(const std::string& FORMNAME, windowing::Form& CURRENTFORM, bool RESIZE) {
   const std::string key = placementKey(FORMNAME);
   for (const StoredValue& value :
-       placementToStore(placementOf(CURRENTFORM), RESIZE, windowing::userDecimalSign()))
+       placementToStore(placementOf(CURRENTFORM), RESIZE, values::userDecimalSign()))
     REGSTRWRITE(currentUserRoot, key, std::string(value.name), value.text);
 }
 
@@ -102,7 +102,7 @@ void clsLibrary::RESIZEBTNSOKCANCEL(windowing::Form& CURRENTFORM) {
         okCancelLefts(Twips{CURRENTFORM.innerWidth()}, Twips{cancel.width()});
     placeLeft(cancel, lefts.cancel);
     placeLeft(ok, lefts.ok);
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A form without a Cancel button leaves OK where its design put it, deliberately.
   }
 }

@@ -5,16 +5,16 @@
 #include "library/own_keys_win.h"
 #include "library/path_utilities.h"
 #include "library/settings_text.h"
+#include "values/handles_win.h"
+#include "values/runtime_error.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
-#include "windowing/handles_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace library {
 namespace {
 
-using windowing::RegistryKey;
+using values::RegistryKey;
 
 constexpr char windowsVersionKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
 constexpr char filesLocation[] = "Files Location";
@@ -62,7 +62,7 @@ std::string clsLibrary::REGSTRREAD(const std::string& hKey, const std::string& S
                                    const std::string& VALNAME, const std::string& SDEFAULT) {
   try {
     return readText(rootKey(hKey), SUBKEY, VALNAME, SDEFAULT);
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // Deliberately not the default, which stands for a value that is not there.
     return {};
   }
@@ -82,7 +82,7 @@ bool clsLibrary::REGSTRWRITE(const std::string& hKey, const std::string& SUBKEY,
     // A key that could not be written stays open, deliberately.
     (void)key.release();
     return false;
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     return false;
   }
 }
@@ -93,7 +93,7 @@ bool clsLibrary::REGBINARYREAD(const std::string& hKey, const std::string& SUBKE
     const RegistryKey key = createdKey(rootKey(hKey), SUBKEY);
     return key && RegSetValueExA(key.get(), VALNAME.c_str(), 0, REG_BINARY, DATA.data(),
                                  static_cast<DWORD>(DATA.size())) == ERROR_SUCCESS;
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     return false;
   }
 }
@@ -129,7 +129,7 @@ std::string clsLibrary::FILESLOCATION() {
 }
 
 std::string clsLibrary::FILENAMELENCHK(const std::string& PATHSTR) {
-  return fileNameLengthCheck(PATHSTR, windowing::isLeadByte);
+  return fileNameLengthCheck(PATHSTR, values::isLeadByte);
 }
 
 std::string clsLibrary::GETCOMPANYNAME() {
@@ -159,7 +159,7 @@ std::string clsLibrary::GETDESKTOPDIR() {
 }
 
 std::string clsLibrary::GETFOLDERPATH(const std::string& PATHSTR) {
-  return folderPath(PATHSTR, windowing::isLeadByte);
+  return folderPath(PATHSTR, values::isLeadByte);
 }
 
 }  // namespace library

@@ -2,9 +2,9 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "library/text_utilities.h"
+#include "values/number_text.h"
+#include "values/user_locale_win.h"
 #include "windowing/handle_text_win.h"
-#include "windowing/number_text.h"
-#include "windowing/user_locale_win.h"
 
 namespace library {
 namespace {
@@ -29,13 +29,13 @@ bool clsLibrary::CHARCHECK(const std::string& TEXT, char CHAR) {
 }
 
 std::string clsLibrary::CURRENCYFMT(const std::string& TEXT) {
-  return currencyFormat(TEXT, windowing::userDecimalSign());
+  return currencyFormat(TEXT, values::userDecimalSign());
 }
 std::string clsLibrary::TEXTJUSTIFY(const std::string& TEXT) {
-  return textJustify(TEXT, windowing::userDecimalSign());
+  return textJustify(TEXT, values::userDecimalSign());
 }
 std::string clsLibrary::TEXTJUSTIFYCURRENCY(const std::string& TEXT) {
-  return textJustifyCurrency(TEXT, windowing::userDecimalSign());
+  return textJustifyCurrency(TEXT, values::userDecimalSign());
 }
 
 std::string clsLibrary::TOKENLEFT(const std::string& SOURCE, const std::string& TOKEN) {
@@ -84,7 +84,7 @@ void clsLibrary::COMBOINIT(const std::string& HWNDTEXT, const std::string& ITEMC
   combo.send(WM_NULL, static_cast<WPARAM>(-1));
   // Controls of the current look size their lists by rows and would open twice as many.
   constexpr UINT setMinimumVisible = 0x1701;  // CB_SETMINVISIBLE
-  combo.send(setMinimumVisible, static_cast<WPARAM>(windowing::toInteger32(ITEMCOUNT, '.')));
+  combo.send(setMinimumVisible, static_cast<WPARAM>(values::toInteger32(ITEMCOUNT, '.')));
 }
 
 }  // namespace library

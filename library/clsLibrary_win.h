@@ -11,7 +11,7 @@
 #include "windowing/control_win.h"
 #include "windowing/form_win.h"
 
-namespace windowing {
+namespace paper {
 class PagePicture;
 }
 
@@ -190,7 +190,7 @@ class clsLibrary {
   /// deliberate. Raises overflow where a place leaves 16 bits.
   void PAGEHEADERFOOTERINFO(const std::string& PGNO, std::int16_t Left, std::int16_t Top,
                             std::int16_t Bottom, std::int16_t Right);
-  void PAGEHEADERFOOTERINFOPREVIEW(windowing::PagePicture& TARGET, const std::string& PGNO,
+  void PAGEHEADERFOOTERINFOPREVIEW(paper::PagePicture& TARGET, const std::string& PGNO,
                                    std::int16_t Left, std::int16_t Top, std::int16_t Bottom,
                                    std::int16_t Right);
 };

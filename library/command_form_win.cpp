@@ -5,7 +5,7 @@
 namespace library {
 
 void raiseNoMemoryFor(std::string_view caption) {
-  windowing::raiseOutOfMemory("'" + controls::spokenText(caption) + "' could not be completed.");
+  values::raiseOutOfMemory("'" + controls::spokenText(caption) + "' could not be completed.");
 }
 
 }  // namespace library

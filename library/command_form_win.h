@@ -3,9 +3,9 @@
 
 #include <string_view>
 
+#include "values/runtime_error.h"
 #include "windowing/form_win.h"
 #include "windowing/image_list_win.h"
-#include "windowing/runtime_error.h"
 
 namespace controls {
 class ICOMNU;
@@ -22,8 +22,8 @@ class CommandForm : public windowing::Form {
 
  private:
   [[noreturn]] void raiseMissing(const char* what) const {
-    throw windowing::RuntimeError(windowing::ErrorNumber::objectMissing,
-                                  std::string(name()) + " has no " + what);
+    throw values::RuntimeError(values::ErrorNumber::objectMissing,
+                               std::string(name()) + " has no " + what);
   }
 };
 
@@ -37,7 +37,7 @@ void attempt(std::string_view caption, Step step) {
   try {
     step();
   } catch (const std::exception& error) {
-    if (!windowing::isOutOfMemory(error)) throw;
+    if (!values::isOutOfMemory(error)) throw;
     raiseNoMemoryFor(caption);
   }
 }

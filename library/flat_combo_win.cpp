@@ -3,7 +3,7 @@
 #include <commctrl.h>
 #include <uxtheme.h>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace library {
 namespace {
@@ -80,7 +80,7 @@ void FlatCombo::drawEdge() const {
   if (hot_ || GetFocus() == combo_) return;
   RECT area{};
   GetClientRect(combo_, &area);
-  const windowing::WindowDc dc(combo_);
+  const values::WindowDc dc(combo_);
   FrameRect(dc.get(), &area, GetSysColorBrush(COLOR_BTNSHADOW));
   InflateRect(&area, -1, -1);
   FrameRect(dc.get(), &area, GetSysColorBrush(COLOR_WINDOW));

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "windowing/number_text.h"
+#include "values/number_text.h"
 
 namespace library {
 namespace {
@@ -74,7 +74,7 @@ constexpr Entry questions[] = {
 static_assert(std::size(messages) == 13 && std::size(questions) == 5);
 
 std::string_view pluralOf(std::string_view count, const MessageInserts& inserts) {
-  return windowing::toNumber(count, inserts.decimalSign) == 1 ? "" : "s";
+  return values::toNumber(count, inserts.decimalSign) == 1 ? "" : "s";
 }
 
 std::string_view insertFor(char mark, const MessageInserts& inserts) {

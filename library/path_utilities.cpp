@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "windowing/checked.h"
+#include "values/checked.h"
 
 namespace library {
 namespace {
@@ -39,7 +39,7 @@ std::string folderPath(std::string_view path, LeadByteTest isLead) {
   const std::size_t at = lastBackslash(path, isLead);
   const bool found = at != std::string_view::npos;
   // The characters looked at are counted from the end in 16 bits.
-  (void)windowing::checkedCast<std::int16_t>(
+  (void)values::checkedCast<std::int16_t>(
       static_cast<std::int64_t>(found ? path.size() - at : path.size()));
   return std::string(path.substr(0, found ? at : 0));
 }

@@ -1,32 +1,31 @@
 #include "library/placement.h"
 
-#include "windowing/checked.h"
-#include "windowing/number_text.h"
+#include "values/checked.h"
+#include "values/number_text.h"
 
 namespace library {
 namespace {
 
-using windowing::Twips;
+using values::Twips;
 
 // Stored places are rounded to seven digits, so a window that touches the screen's edge may
 // come back beyond it by less than this; no pixel is that small.
 constexpr Twips roundingSlack{0.5};
 
 Twips lengthOf(const std::optional<std::string>& stored, Twips otherwise, char decimalSign) {
-  return stored ? Twips{windowing::storedNumber(*stored, decimalSign)} : otherwise;
+  return stored ? Twips{values::storedNumber(*stored, decimalSign)} : otherwise;
 }
 
 Twips centre(Twips screen, Twips form) {
-  return {static_cast<double>(windowing::roundTo<std::int16_t>(((screen - form) / 2.0).value))};
+  return {static_cast<double>(values::roundTo<std::int16_t>(((screen - form) / 2.0).value))};
 }
 
 WindowState stateOf(const std::optional<std::string>& stored, WindowState otherwise,
                     char decimalSign) {
   if (!stored) return otherwise;
-  const auto number =
-      windowing::roundTo<std::int16_t>(windowing::storedNumber(*stored, decimalSign));
+  const auto number = values::roundTo<std::int16_t>(values::storedNumber(*stored, decimalSign));
   if (number < 0 || number > static_cast<std::int16_t>(WindowState::maximized))
-    throw windowing::RuntimeError(windowing::ErrorNumber::invalidCall, "Invalid property value");
+    throw values::RuntimeError(values::ErrorNumber::invalidCall, "Invalid property value");
   return static_cast<WindowState>(number);
 }
 
@@ -67,7 +66,7 @@ FormPlacement loadPlacement(const StoredPlacement& stored, const FormPlacement& 
     FormPlacement restored = form;
     loadRectangle(restored, stored, screen, sizable, decimalSign);
     return restored;
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     return form;
   }
 }
@@ -76,12 +75,12 @@ std::vector<StoredValue> placementToStore(const FormPlacement& current, bool siz
                                           char decimalSign) {
   namespace value = placement_value;
   const auto length = [&](std::string_view name, Twips twips) {
-    return StoredValue{name, windowing::singleText(twips.value, decimalSign)};
+    return StoredValue{name, values::singleText(twips.value, decimalSign)};
   };
   if (current.state == WindowState::minimized) return {};
   if (!sizable) return {length(value::left, current.left), length(value::top, current.top)};
   const StoredValue state{value::state,
-                          windowing::integerText(static_cast<std::int16_t>(current.state))};
+                          values::integerText(static_cast<std::int16_t>(current.state))};
   if (current.state == WindowState::maximized) return {state};
   return {state, length(value::left, current.left), length(value::top, current.top),
           length(value::width, current.width), length(value::height, current.height)};
@@ -96,12 +95,12 @@ OkCancelLefts okCancelLefts(Twips innerWidth, Twips cancelWidth) {
   return {cancel - stripButtonGap - cancelWidth, cancel};
 }
 
-windowing::Pixels screenPixels(Twips side, double twipsPerPixel) {
-  return {windowing::roundTo<std::int32_t>(side.value / twipsPerPixel)};
+values::Pixels screenPixels(Twips side, double twipsPerPixel) {
+  return {values::roundTo<std::int32_t>(side.value / twipsPerPixel)};
 }
 
-windowing::Pixels centred(windowing::Pixels screen, windowing::Pixels dialog) {
-  return {windowing::roundTo<std::int32_t>((screen - dialog).value / 2.0)};
+values::Pixels centred(values::Pixels screen, values::Pixels dialog) {
+  return {values::roundTo<std::int32_t>((screen - dialog).value / 2.0)};
 }
 
 }  // namespace library

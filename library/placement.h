@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "windowing/units.h"
+#include "values/units.h"
 
 namespace library {
 
@@ -17,11 +17,11 @@ enum class WindowState : std::int16_t { normal = 0, minimized = 1, maximized = 2
 /// State and outer rectangle of a form.
 struct FormPlacement {
   WindowState state = WindowState::normal;
-  windowing::Twips left, top, width, height;
+  values::Twips left, top, width, height;
 };
 
 struct ScreenSize {
-  windowing::Twips width, height;
+  values::Twips width, height;
 };
 
 /// Value names of a stored placement.
@@ -56,26 +56,24 @@ struct StoredValue {
                                                         char decimalSign);
 
 /// Top of the standard buttons in the strip at the foot of their form.
-constexpr windowing::Twips stripButtonTop{165};
+constexpr values::Twips stripButtonTop{165};
 /// Space to the right of each of them.
-constexpr windowing::Twips stripButtonGap{135};
+constexpr values::Twips stripButtonGap{135};
 
 /// Left of the Close button in a form of the given inner width.
-[[nodiscard]] windowing::Twips closeButtonLeft(windowing::Twips innerWidth,
-                                               windowing::Twips buttonWidth);
+[[nodiscard]] values::Twips closeButtonLeft(values::Twips innerWidth, values::Twips buttonWidth);
 
 /// Lefts of the OK and Cancel buttons. Both follow from Cancel's width: the two are meant to
 /// be equally wide.
 struct OkCancelLefts {
-  windowing::Twips ok, cancel;
+  values::Twips ok, cancel;
 };
-[[nodiscard]] OkCancelLefts okCancelLefts(windowing::Twips innerWidth,
-                                          windowing::Twips cancelWidth);
+[[nodiscard]] OkCancelLefts okCancelLefts(values::Twips innerWidth, values::Twips cancelWidth);
 
 /// Pixels of a screen side measured in twips.
-[[nodiscard]] windowing::Pixels screenPixels(windowing::Twips side, double twipsPerPixel);
+[[nodiscard]] values::Pixels screenPixels(values::Twips side, double twipsPerPixel);
 
 /// Position that centres a dialog's side on the screen's; negative where it is longer.
-[[nodiscard]] windowing::Pixels centred(windowing::Pixels screen, windowing::Pixels dialog);
+[[nodiscard]] values::Pixels centred(values::Pixels screen, values::Pixels dialog);
 
 }  // namespace library

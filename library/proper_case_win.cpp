@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "library/path_utilities.h"
-#include "windowing/handles_win.h"
-#include "windowing/user_locale_win.h"
+#include "values/handles_win.h"
+#include "values/user_locale_win.h"
 
 namespace library {
 namespace {
@@ -18,7 +18,7 @@ bool isSeparator(char c) {
 
 std::size_t nextSeparator(const std::string& path, std::size_t from) {
   for (std::size_t i = from; i < path.size(); ++i) {
-    if (windowing::isLeadByte(static_cast<unsigned char>(path[i])))
+    if (values::isLeadByte(static_cast<unsigned char>(path[i])))
       ++i;
     else if (isSeparator(path[i]))
       return i;
@@ -41,7 +41,7 @@ std::string foundName(const std::string& folder, const std::string& part) {
       !hasWildcards(part) && part.find('\0') == std::string::npos && part != "." && part != "..";
   if (!plain) return part;
   WIN32_FIND_DATAA found{};
-  const windowing::FindHandle search(FindFirstFileA((folder + part).c_str(), &found));
+  const values::FindHandle search(FindFirstFileA((folder + part).c_str(), &found));
   // "?" in a found name stands for a character that the code page lacks: such a name would
   // open nothing.
   if (!search || hasWildcards(found.cFileName)) return part;

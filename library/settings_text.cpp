@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "windowing/number_text.h"
+#include "values/number_text.h"
 
 namespace library {
 namespace {
@@ -32,11 +32,11 @@ std::string toolbarKey(std::string_view product) {
 }
 
 std::string rootText(std::int32_t root) {
-  return windowing::integerText(root);
+  return values::integerText(root);
 }
 
 std::int32_t rootOfText(std::string_view text) {
-  return windowing::toInteger32(text, '.');
+  return values::toInteger32(text, '.');
 }
 
 std::string settingText(const SettingRead& read, std::string_view defaultText) {
@@ -52,7 +52,7 @@ std::string settingText(const SettingRead& read, std::string_view defaultText) {
 }
 
 std::string versionText(int major, int minor) {
-  return windowing::integerText(major) + '.' + windowing::integerText(minor);
+  return values::integerText(major) + '.' + values::integerText(minor);
 }
 
 }  // namespace library

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <charconv>
 
-#include "windowing/checked.h"
-#include "windowing/number_text.h"
+#include "values/checked.h"
+#include "values/number_text.h"
 
 namespace library {
 namespace {
 
 std::string formatted(std::string_view text, int decimals, char decimalSign) {
-  const std::optional<double> value = windowing::parseNumber(text, decimalSign);
-  return value ? windowing::formatDecimals(*value, 1, decimals, decimalSign) : std::string();
+  const std::optional<double> value = values::parseNumber(text, decimalSign);
+  return value ? values::formatDecimals(*value, 1, decimals, decimalSign) : std::string();
 }
 
 std::string removed(std::string_view text, std::string_view part) {
@@ -52,8 +52,8 @@ double piece(std::string_view text, char separator, std::int16_t pieceNumber) {
   for (std::int16_t number = 1; number <= pieceNumber; ++number) {
     const std::size_t end = std::min(text.find(separator, start), text.size());
     // Positions are 16-bit: a text too long for them is an error, never a wrong piece.
-    (void)windowing::checkedCast<std::int16_t>(static_cast<std::int64_t>(end));
-    if (number == pieceNumber) return windowing::leadingNumber(text.substr(start, end - start));
+    (void)values::checkedCast<std::int16_t>(static_cast<std::int64_t>(end));
+    if (number == pieceNumber) return values::leadingNumber(text.substr(start, end - start));
     if (end == text.size()) return 0;
     start = end + 1;
   }
@@ -86,7 +86,7 @@ std::string hexValue(std::int32_t color) {
     if (end - buffer < 2) hexadecimal += '0';
     for (const char* at = buffer; at != end; ++at)
       hexadecimal += static_cast<char>(*at >= 'a' ? *at - 'a' + 'A' : *at);
-    decimal += windowing::integerText(part);
+    decimal += values::integerText(part);
   }
   // The decimal tail is deliberate: callers of the family read it from there.
   return hexadecimal + decimal;
@@ -97,7 +97,7 @@ std::string hexToDecimal(std::string_view digits) {
   const char* end = digits.data() + digits.size();
   const auto [stop, error] = std::from_chars(digits.data(), end, value, 16);
   if (error != std::errc() || stop != end) return "0";
-  return windowing::integerText(static_cast<std::int16_t>(value));
+  return values::integerText(static_cast<std::int16_t>(value));
 }
 
 std::string shortCaption(std::string_view caption) {
@@ -129,20 +129,20 @@ int currencyKey(std::string_view text, int character) {
 
 std::int32_t comboListHeight(std::string_view items, int itemHeight) {
   // Two rows more: one for the edit field, one for the list's border.
-  return windowing::roundTo<std::int32_t>((windowing::toNumber(items, '.') + 2) * itemHeight);
+  return values::roundTo<std::int32_t>((values::toNumber(items, '.') + 2) * itemHeight);
 }
 
 std::string htmlFormatCheck(std::string_view address) {
   if (address.empty()) return {};
   // Addresses that begin with "www." get the prefix like any other, deliberately.
-  const std::string lower = windowing::lowerCaseAscii(address);
+  const std::string lower = values::lowerCaseAscii(address);
   const bool hasScheme = lower.starts_with("http://") || lower.starts_with("ftp://");
   return (hasScheme ? "" : "http://") + std::string(address);
 }
 
 std::optional<std::string> webAddressOnLeave(std::string_view text) {
   // A secure address is complete; a second scheme before it would spoil it without a word.
-  if (windowing::lowerCaseAscii(text).starts_with("https://")) return std::nullopt;
+  if (values::lowerCaseAscii(text).starts_with("https://")) return std::nullopt;
   std::string checked = htmlFormatCheck(text);
   if (checked == text) return std::nullopt;
   return checked;
@@ -166,12 +166,12 @@ std::string fileSizeText(std::uint64_t bytes, char decimalSign, char groupSepara
                 {1000000, 1048576.0, 0, "MB"},
                 {UINT64_MAX, 1073741824.0, 2, "GB"}};
   const auto size = static_cast<double>(bytes);
-  std::string whole = windowing::formatDecimals(size, 1, 0, decimalSign, groupSeparator) + " Bytes";
+  std::string whole = values::formatDecimals(size, 1, 0, decimalSign, groupSeparator) + " Bytes";
   if (bytes < 1024) return whole;
   const auto* range = std::find_if(std::begin(ranges), std::end(ranges), [&](const auto& row) {
     return bytes / 1024 < row.belowKilobytes;
   });
-  return windowing::formatDecimals(size / range->unit, 1, range->decimals, decimalSign) +
+  return values::formatDecimals(size / range->unit, 1, range->decimals, decimalSign) +
          std::string(range->name) + " (" + whole + ")";
 }
 

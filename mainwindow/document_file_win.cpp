@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "library/path_utilities.h"
-#include "windowing/handles_win.h"
-#include "windowing/system_error_win.h"
-#include "windowing/user_locale_win.h"
+#include "values/handles_win.h"
+#include "values/system_error_win.h"
+#include "values/user_locale_win.h"
 
 namespace mainwindow {
 
@@ -15,7 +15,7 @@ namespace {
 
 // Asks nothing of the file but who it is, so that it may be held open by others.
 bool identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& facts) {
-  const windowing::FileHandle file(
+  const values::FileHandle file(
       CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                   OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   return file && GetFileInformationByHandle(file.get(), &facts) != FALSE;
@@ -33,23 +33,23 @@ FileStamp stampOf(const BY_HANDLE_FILE_INFORMATION& facts) {
 
 }  // namespace
 
-FileContent readFile(const std::string& path, windowing::FileCalls& calls) {
-  const windowing::FileHandle file(calls.open(path, GENERIC_READ, OPEN_EXISTING));
-  if (!file) windowing::raiseLastError();
+FileContent readFile(const std::string& path, files::FileCalls& calls) {
+  const values::FileHandle file(calls.open(path, GENERIC_READ, OPEN_EXISTING));
+  if (!file) values::raiseLastError();
   // A device would be read for ever.
-  if (GetFileType(file.get()) != FILE_TYPE_DISK) throw windowing::systemError(ERROR_ACCESS_DENIED);
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) throw values::systemError(ERROR_ACCESS_DENIED);
   BY_HANDLE_FILE_INFORMATION facts{};
-  if (!calls.information(file.get(), facts)) windowing::raiseLastError();
+  if (!calls.information(file.get(), facts)) values::raiseLastError();
   LONGLONG size = 0;
-  if (!calls.size(file.get(), size)) windowing::raiseLastError();
-  if (size > std::numeric_limits<LONG>::max()) throw windowing::systemError(ERROR_OUTOFMEMORY);
+  if (!calls.size(file.get(), size)) values::raiseLastError();
+  if (size > std::numeric_limits<LONG>::max()) throw values::systemError(ERROR_OUTOFMEMORY);
 
   document::Bytes bytes(static_cast<std::size_t>(size));
   std::size_t at = 0;
   while (at < bytes.size()) {
     DWORD done = 0;
     if (!calls.read(file.get(), bytes.data() + at, static_cast<DWORD>(bytes.size() - at), done))
-      windowing::raiseLastError();
+      values::raiseLastError();
     if (done == 0) break;  // the file grew shorter meanwhile
     at += done;
   }
@@ -91,7 +91,7 @@ std::string fullPathOf(const std::string& path) {
 }
 
 std::string fileNameOf(const std::string& path) {
-  const std::size_t slash = library::lastBackslash(path, windowing::isLeadByte);
+  const std::size_t slash = library::lastBackslash(path, values::isLeadByte);
   return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 

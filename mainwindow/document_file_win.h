@@ -6,7 +6,7 @@
 #include <string>
 
 #include "document/bytes.h"
-#include "windowing/file_calls_win.h"
+#include "files/file_calls_win.h"
 
 namespace mainwindow {
 
@@ -25,7 +25,7 @@ struct FileContent {
 
 /// The whole content of a file, read in one go. Raises what keeps it from being opened or read
 /// (file not found, permission denied, ...); a folder or a device is no document.
-[[nodiscard]] FileContent readFile(const std::string& path, windowing::FileCalls& calls);
+[[nodiscard]] FileContent readFile(const std::string& path, files::FileCalls& calls);
 
 /// Size and time of the file `path` now; nothing where there is none, or none that answers.
 [[nodiscard]] std::optional<FileStamp> stampOf(const std::string& path);

@@ -12,8 +12,8 @@
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
 namespace mainwindow {

@@ -10,10 +10,10 @@
 #include "mainwindow/shown_text.h"
 #include "mainwindow/status_text.h"
 #include "mainwindow/while.h"
+#include "values/number_text.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/number_text.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
 namespace mainwindow {
@@ -134,7 +134,7 @@ void frmMain::StoreCurrent() {
 
 void frmMain::AddContact() {
   // The list grows before anything else is touched: a full one leaves all as it was.
-  if (!list_.append()) windowing::raiseOverflow();
+  if (!list_.append()) values::raiseOverflow();
   list_.ClearLastRecord();
   // The contact still on screen keeps the edits made to it.
   StoreCurrent();
@@ -162,7 +162,7 @@ void frmMain::RemoveContact() {
   const bool wasModified = modified();
   StoreCurrent();
   GoLast();
-  SETSAVE(windowing::textOfBoolean(wasModified));
+  SETSAVE(values::textOfBoolean(wasModified));
   RefreshCommands();
 }
 
@@ -172,7 +172,7 @@ void frmMain::move(void (frmMain::*step)()) {
   StoreCurrent();
   const bool wasModified = modified();
   (this->*step)();
-  SETSAVE(windowing::textOfBoolean(wasModified));
+  SETSAVE(values::textOfBoolean(wasModified));
 }
 
 // The steps check no bounds: the commands are not offered at the ends.
@@ -189,13 +189,13 @@ void frmMain::GoLast() {
 }
 
 void frmMain::GoNext() {
-  if (!list_.GoNext()) windowing::raiseOverflow();
+  if (!list_.GoNext()) values::raiseOverflow();
   ShowCurrent();
   RefreshCommands();
 }
 
 void frmMain::GoPrevious() {
-  if (!list_.GoPrevious()) windowing::raiseOverflow();
+  if (!list_.GoPrevious()) values::raiseOverflow();
   ShowCurrent();
   RefreshCommands();
 }
@@ -207,7 +207,7 @@ void frmMain::goTo(int index) {
   list_.setCurrent(static_cast<std::int16_t>(index));
   ShowCurrent();
   RefreshCommands();
-  SETSAVE(windowing::textOfBoolean(wasModified));
+  SETSAVE(values::textOfBoolean(wasModified));
 }
 
 void frmMain::emptyFields() {
@@ -235,8 +235,8 @@ void frmMain::onSelect(int list) {
   } catch (const std::exception& error) {
     // The name box goes on naming the contact on screen.
     CBOTBARBOX().select(list_.current());
-    if (!windowing::isOutOfMemory(error)) throw;
-    windowing::raiseOutOfMemory("The contact on screen could not be left.");
+    if (!values::isOutOfMemory(error)) throw;
+    values::raiseOutOfMemory("The contact on screen could not be left.");
   }
 }
 
@@ -285,7 +285,7 @@ void frmMain::refreshStatusText() {
 }
 
 void frmMain::SETSAVE(const std::string& flag) {
-  setCommandEnabled(id::SAVE, windowing::flagIsTrue(flag));
+  setCommandEnabled(id::SAVE, values::flagIsTrue(flag));
   refreshFieldState();
   refreshStatusText();
 }

@@ -5,6 +5,7 @@
 
 #include "document/reader.h"
 #include "document/writer.h"
+#include "files/safe_file_win.h"
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
@@ -16,19 +17,18 @@
 #include "mainwindow/name_box_win.h"
 #include "mainwindow/status_text.h"
 #include "mainwindow/while.h"
+#include "values/runtime_error.h"
+#include "values/system_error_win.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/runtime_error.h"
-#include "windowing/safe_file_win.h"
 #include "windowing/seams_win.h"
-#include "windowing/system_error_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace mainwindow {
 
 using library::LIBRARY;
-using windowing::ErrorNumber;
-using windowing::RuntimeError;
+using values::ErrorNumber;
+using values::RuntimeError;
 namespace id = library::id;
 
 namespace {
@@ -43,7 +43,7 @@ constexpr int askSaveFirst = 8;
 constexpr int problemSaving = 10;
 
 // Whether there is certainly no such file. A drive that does not answer may hold one.
-bool isFree(const std::string& path, windowing::FileCalls& calls) {
+bool isFree(const std::string& path, files::FileCalls& calls) {
   return calls.attributes(path) == INVALID_FILE_ATTRIBUTES &&
          GetLastError() == ERROR_FILE_NOT_FOUND;
 }
@@ -65,7 +65,7 @@ void frmMain::FILELOAD(const std::string& path) {
     onDisk_ = content.stamp;
     const document::ReadOutcome outcome = document::read(std::move(content.bytes), list_);
     readWhole_ = content.whole && outcome.result == document::ReadResult::whole;
-    if (outcome.result == document::ReadResult::overflow) windowing::raiseOverflow();
+    if (outcome.result == document::ReadResult::overflow) values::raiseOverflow();
     if (!readWhole_) throw RuntimeError(ErrorNumber::inputPastEnd, "Input past end of file");
   } catch (const RuntimeError& error) {
     // A name that no file has yet loses nothing when it is written to. Where the whole folder is
@@ -74,7 +74,7 @@ void frmMain::FILELOAD(const std::string& path) {
     failure = std::current_exception();
   } catch (const std::bad_alloc&) {
     list_.clear();
-    failure = std::make_exception_ptr(windowing::systemError(ERROR_OUTOFMEMORY));
+    failure = std::make_exception_ptr(values::systemError(ERROR_OUTOFMEMORY));
   }
   fillNameBox(CBOTBARBOX(), list_);
   list_.setCurrent(0);
@@ -86,8 +86,8 @@ void frmMain::FILELOAD(const std::string& path) {
 
 void frmMain::FILESAVEAS(const std::string& path) {
   StoreCurrent();
-  windowing::replaceFile(
-      path, [this](const windowing::FileSink& sink) { document::write(list_, sink); }, *fileCalls_);
+  files::replaceFile(
+      path, [this](const files::FileSink& sink) { document::write(list_, sink); }, *fileCalls_);
   onDisk_ = stampOf(path);
   SETSAVE("FALSE");
 }
@@ -250,7 +250,7 @@ bool frmMain::saveAs() {
     }
     if (!answer) return false;
     chosen =
-        library::withDefaultExtension(*answer, std::string(".") + extension, windowing::isLeadByte);
+        library::withDefaultExtension(*answer, std::string(".") + extension, values::isLeadByte);
     rememberFolder(saveFolderValue, chosen);
     if (!readWhole_ && sameFile(chosen, CMD1.fileName) && !isFree(chosen, *fileCalls_)) {
       windowing::seams().messageBox(windowing::dialogOwner(),

@@ -14,11 +14,11 @@
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
 #include "mainwindow/status_text.h"
+#include "values/number_text.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
 #include "windowing/handle_text_win.h"
-#include "windowing/number_text.h"
 #include "windowing/screen_win.h"
 
 namespace mainwindow {
@@ -45,15 +45,14 @@ std::string viewKey() {
 bool storedView(const char* value) {
   const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot, viewKey(), value, "True");
   try {
-    return windowing::booleanOfText(text);
-  } catch (const windowing::RuntimeError&) {
+    return values::booleanOfText(text);
+  } catch (const values::RuntimeError&) {
     return true;
   }
 }
 
 void storeView(const char* value, bool shown) {
-  LIBRARY().REGSTRWRITE(library::currentUserRoot, viewKey(), value,
-                        windowing::textOfBoolean(shown));
+  LIBRARY().REGSTRWRITE(library::currentUserRoot, viewKey(), value, values::textOfBoolean(shown));
 }
 
 }  // namespace
@@ -110,7 +109,7 @@ void frmMain::onLoad() {
   ICONMENUS();
   try {
     LIBRARY().FORMLOAD(name(), *this, false);
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A stored place that is none: the window stays where its design put it.
   }
   applyView();

@@ -28,7 +28,7 @@ class Hourglass {
 
 // The box is made when something is printed for the first time: most sessions never do, and the
 // system's rich text library takes its time to load.
-windowing::RichTextBox& frmMain::RTF1() {
+paper::RichTextBox& frmMain::RTF1() {
   if (RTF1_.handle() == nullptr) RTF1_.create(handle(), id::RTF1, {0, 0, 100, 100});
   return RTF1_;
 }

@@ -9,12 +9,12 @@
 #include <string_view>
 
 #include "document/ContactList.h"
+#include "files/file_calls_win.h"
 #include "library/command_form_win.h"
 #include "library/command_hints_win.h"
 #include "mainwindow/document_file_win.h"
-#include "windowing/file_calls_win.h"
+#include "paper/richtextbox_win.h"
 #include "windowing/form_win.h"
-#include "windowing/richtextbox_win.h"
 #include "windowing/toolbar_win.h"
 
 namespace mainwindow {
@@ -51,7 +51,7 @@ class frmMain : public library::CommandForm {
   void runCommand(int id);
 
   /// The calls through which documents are written; a test lets them fail.
-  void setFileCalls(windowing::FileCalls& calls) { fileCalls_ = &calls; }
+  void setFileCalls(files::FileCalls& calls) { fileCalls_ = &calls; }
 
   [[nodiscard]] controls::ICOMNU& iconMenus() override;
   [[nodiscard]] const windowing::ImageList& imageList() const override { return IMGLST; }
@@ -112,7 +112,7 @@ class frmMain : public library::CommandForm {
 
   // Printing (frmMain_print_win.cpp).
   void ComposeContactReport();
-  [[nodiscard]] windowing::RichTextBox& RTF1();
+  [[nodiscard]] paper::RichTextBox& RTF1();
   void printAtOnce();
   void printLastReport();
   void previewLastReport();
@@ -128,7 +128,7 @@ class frmMain : public library::CommandForm {
   bool saveTo(const std::string& path);
   void openPath(const std::string& path);
   void setDocumentPath(const std::string& path);
-  void tellUnread(const std::string& path, const windowing::RuntimeError& error);
+  void tellUnread(const std::string& path, const values::RuntimeError& error);
   [[nodiscard]] std::string rememberedFolder(const char* value) const;
   void rememberFolder(const char* value, const std::string& file);
 
@@ -166,12 +166,12 @@ class frmMain : public library::CommandForm {
   /// from it was edited, and bytes that a box cannot carry survive a visit.
   std::array<std::string, document::fieldCount> shown_;
   FileDialogState CMD1;
-  windowing::RichTextBox RTF1_{"RTF1"};
+  paper::RichTextBox RTF1_{"RTF1"};
   windowing::ImageList IMGLST;
   std::unique_ptr<controls::ICOMNU> ICOMNU;
   library::CommandHints hints_{*this, "tellary"};
-  windowing::FileCalls realFileCalls_;
-  windowing::FileCalls* fileCalls_ = &realFileCalls_;
+  files::FileCalls realFileCalls_;
+  files::FileCalls* fileCalls_ = &realFileCalls_;
   bool ready_ = false;      ///< controls, menus and settings are in place
   bool filling_ = false;    ///< the program itself changes the boxes
   bool asking_ = false;     ///< the user is asked whether the document may be given up

@@ -1,15 +1,14 @@
 #include "mainwindow/status_text.h"
 
-#include "windowing/checked.h"
-#include "windowing/number_text.h"
+#include "values/checked.h"
+#include "values/number_text.h"
 
 namespace mainwindow {
 
 std::string statusText(int count, int current) {
   if (count == 0) return {};
   // The plural stays for a single contact, deliberately.
-  return windowing::integerText(current + 1) + " of " + windowing::integerText(count) +
-         " contacts.";
+  return values::integerText(current + 1) + " of " + values::integerText(count) + " contacts.";
 }
 
 std::string titleText(std::string_view product, std::string_view path) {
@@ -20,11 +19,11 @@ std::int16_t innerHeight(const LayoutHeights& heights) {
   double sum = heights.tabs.value + heights.header.value + layoutMargin;
   if (heights.toolbarShown) sum += heights.toolbar.value;
   if (heights.statusBarShown) sum += heights.statusBar.value;
-  return windowing::roundTo<std::int16_t>(sum);
+  return values::roundTo<std::int16_t>(sum);
 }
 
 std::int16_t windowHeight(const LayoutHeights& heights) {
-  return windowing::checkedAdd<std::int16_t>(innerHeight(heights), frameAllowance);
+  return values::checkedAdd<std::int16_t>(innerHeight(heights), frameAllowance);
 }
 
 }  // namespace mainwindow

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "windowing/units.h"
+#include "values/units.h"
 
 namespace mainwindow {
 
@@ -17,7 +17,7 @@ namespace mainwindow {
 
 /// Heights of the parts of the window, and which of the two bars are shown.
 struct LayoutHeights {
-  windowing::Twips toolbar, header, tabs, statusBar;
+  values::Twips toolbar, header, tabs, statusBar;
   bool toolbarShown = true;
   bool statusBarShown = true;
 };
@@ -27,7 +27,7 @@ constexpr int layoutMargin = 90;
 /// What the window's height adds for caption, menu bar and borders.
 constexpr int frameAllowance = 700;
 /// Top of the tabs' frames, measured from the top of the tab strip.
-constexpr windowing::Twips frameTopInTabs{390};
+constexpr values::Twips frameTopInTabs{390};
 
 /// Sum of the heights that are shown, rounded half to even to 16-bit twips; raises overflow.
 [[nodiscard]] std::int16_t innerHeight(const LayoutHeights& heights);

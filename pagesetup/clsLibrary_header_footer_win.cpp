@@ -2,38 +2,38 @@
 #include "library/clsLibrary_win.h"
 #include "pagesetup/header_footer.h"
 #include "pagesetup/stored_options_win.h"
-#include "windowing/checked.h"
-#include "windowing/page_drawing_win.h"
-#include "windowing/page_picture_win.h"
-#include "windowing/printer_win.h"
+#include "paper/page_drawing_win.h"
+#include "paper/page_picture_win.h"
+#include "paper/printer_win.h"
+#include "values/checked.h"
+#include "values/user_locale_win.h"
 #include "windowing/seams_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace library {
 namespace {
 
-using windowing::roundTo;
+using values::roundTo;
 
 constexpr int headerFooterPoints = 10;
 
 // `page` lacks nothing but the moment it is printed at.
-void draw(HDC dc, const windowing::TextFormat& font, pagesetup::Page page) {
+void draw(HDC dc, const paper::TextFormat& font, pagesetup::Page page) {
   const SYSTEMTIME now = windowing::seams().localTime();
   page.date = pagesetup::dateText(now.wYear, now.wMonth, now.wDay);
   page.time = pagesetup::timeText(now.wHour, now.wMinute, now.wSecond);
   for (const pagesetup::DrawCommand& command :
-       pagesetup::headerAndFooter(pagesetup::readOptions(), page, windowing::isLeadByte)) {
+       pagesetup::headerAndFooter(pagesetup::readOptions(), page, values::isLeadByte)) {
     if (command.kind == pagesetup::DrawCommand::Kind::line)
-      windowing::drawPageRule(dc, command.x, command.y, command.toX);
+      paper::drawPageRule(dc, command.x, command.y, command.toX);
     else
-      windowing::drawPageText(dc, font, command.x, command.y, command.text);
+      paper::drawPageText(dc, font, command.x, command.y, command.text);
   }
 }
 
 // The size is set, the typeface stays as the target has it.
 template <typename Target>
-const windowing::TextFormat& sizedFont(Target& target) {
-  windowing::TextFormat font = target.font();
+const paper::TextFormat& sizedFont(Target& target) {
+  paper::TextFormat font = target.font();
   font.points = headerFooterPoints;
   target.setFont(font);
   return target.font();
@@ -43,8 +43,8 @@ const windowing::TextFormat& sizedFont(Target& target) {
 
 void clsLibrary::PAGEHEADERFOOTERINFO(const std::string& PGNO, std::int16_t Left, std::int16_t Top,
                                       std::int16_t Bottom, std::int16_t Right) {
-  windowing::Printer& printer = windowing::printer();
-  printer.setScaleMode(windowing::PrinterScale::twips);
+  paper::Printer& printer = paper::printer();
+  printer.setScaleMode(paper::PrinterScale::twips);
   draw(printer.dc(), sizedFont(printer),
        {pagesetup::Surface::printer,
         roundTo<std::int32_t>(printer.scaleWidth()),
@@ -55,10 +55,9 @@ void clsLibrary::PAGEHEADERFOOTERINFO(const std::string& PGNO, std::int16_t Left
         {}});
 }
 
-void clsLibrary::PAGEHEADERFOOTERINFOPREVIEW(windowing::PagePicture& TARGET,
-                                             const std::string& PGNO, std::int16_t Left,
-                                             std::int16_t Top, std::int16_t Bottom,
-                                             std::int16_t Right) {
+void clsLibrary::PAGEHEADERFOOTERINFOPREVIEW(paper::PagePicture& TARGET, const std::string& PGNO,
+                                             std::int16_t Left, std::int16_t Top,
+                                             std::int16_t Bottom, std::int16_t Right) {
   draw(TARGET.dc(), sizedFont(TARGET),
        {pagesetup::Surface::preview,
         roundTo<std::int32_t>(TARGET.width()),

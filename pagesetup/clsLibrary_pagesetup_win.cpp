@@ -4,9 +4,9 @@
 #include "library/clsLibrary_win.h"
 #include "pagesetup/frmPSetup_win.h"
 #include "pagesetup/ignoring_errors.h"
+#include "paper/printer_win.h"
+#include "values/units.h"
 #include "windowing/modal_win.h"
-#include "windowing/printer_win.h"
-#include "windowing/units.h"
 
 namespace library {
 namespace {
@@ -44,7 +44,7 @@ void showPageSetup(const char* tab) {
   bool printers = false;
   {
     const Obtaining obtaining;
-    printers = !windowing::printerNames().empty();
+    printers = !paper::printerNames().empty();
     form.load();
     form.selectTab(tab);
   }
@@ -64,9 +64,9 @@ void clsLibrary::PAGESETUPHEADFOOTSHOW() {
 }
 
 double clsLibrary::SHOWUNITS(std::int32_t PIXELS, bool VERTICAL) {
-  windowing::Printer& printer = windowing::printer();
+  paper::Printer& printer = paper::printer();
   const double twips = VERTICAL ? printer.twipsPerPixelY() : printer.twipsPerPixelX();
-  return PIXELS * twips / windowing::twipsPerInch;
+  return PIXELS * twips / values::twipsPerInch;
 }
 
 }  // namespace library

@@ -7,8 +7,8 @@
 #include "pagesetup/frmPSetup_design_win.h"
 #include "pagesetup/frmPSetup_win.h"
 #include "pagesetup/stored_options_win.h"
+#include "values/number_text.h"
 #include "windowing/container_win.h"
-#include "windowing/number_text.h"
 
 namespace pagesetup {
 
@@ -91,7 +91,7 @@ int boxOf(Option option) {
 // State of a box for its stored text: "2" is the greyed one. Anything else that is no state
 // counts as not ticked.
 int stateOf(const std::string& text) {
-  const std::optional<double> number = windowing::parseStoredNumber(text, '.');
+  const std::optional<double> number = values::parseStoredNumber(text, '.');
   for (const int state : {BST_CHECKED, BST_INDETERMINATE})
     if (number == state) return state;
   return BST_UNCHECKED;
@@ -116,7 +116,7 @@ void frmPSetup::saveHeaderFooter() const {
     const bool isSwitch = findBox(box) != nullptr;
     LIBRARY().REGSTRWRITE(
         library::currentUserRoot, keyOf(stored), stored.valueName,
-        isSwitch ? windowing::integerText(checkBox(box).state()) : control(box).text());
+        isSwitch ? values::integerText(checkBox(box).state()) : control(box).text());
   }
 }
 

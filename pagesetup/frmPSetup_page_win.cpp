@@ -9,18 +9,18 @@
 #include "pagesetup/frmPSetup_win.h"
 #include "pagesetup/ignoring_errors.h"
 #include "pagesetup/paper_table.h"
-#include "windowing/checked.h"
-#include "windowing/number_text.h"
-#include "windowing/printer_win.h"
+#include "paper/printer_win.h"
+#include "values/checked.h"
+#include "values/number_text.h"
+#include "values/user_locale_win.h"
 #include "windowing/screen_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace pagesetup {
 
 using library::LIBRARY;
 using library::modLibrary;
-using windowing::Orientation;
-using windowing::printer;
+using paper::Orientation;
+using paper::printer;
 namespace id = library::id::psetup;
 
 namespace {
@@ -52,7 +52,7 @@ std::string marginKey() {
 
 // The number that a remembered text stands for; an empty one is 0, which no printer takes.
 std::int32_t number(const std::string& text) {
-  return windowing::roundTo<std::int32_t>(windowing::leadingNumber(text));
+  return values::roundTo<std::int32_t>(values::leadingNumber(text));
 }
 
 void applyOrientation(const std::string& text) {
@@ -65,11 +65,11 @@ void applyPaper(const std::string& code) {
 }
 
 double inches(double pixels, bool vertical) {
-  return LIBRARY().SHOWUNITS(windowing::roundTo<std::int32_t>(pixels), vertical);
+  return LIBRARY().SHOWUNITS(values::roundTo<std::int32_t>(pixels), vertical);
 }
 
 double strip(double pixels, bool vertical) {
-  return wholeInches(inches(pixels, vertical), windowing::userDecimalSign());
+  return wholeInches(inches(pixels, vertical), values::userDecimalSign());
 }
 
 RECT pixelsOf(const Box& box) {
@@ -100,7 +100,7 @@ void frmPSetup::loadPage() {
   applyPaper(modLibrary().paperCode);
   showPaper();
   // For the figures of the sample; who prints sets the unit that it needs.
-  printer().setScaleMode(windowing::PrinterScale::pixels);
+  printer().setScaleMode(paper::PrinterScale::pixels);
   paper_.reset();
   sample_.reset();
   readPaper();
@@ -110,7 +110,7 @@ void frmPSetup::loadPage() {
 
 void frmPSetup::fillPrinters() {
   CBOPRINTERS().clear();
-  for (const std::string& name : windowing::printerNames()) CBOPRINTERS().add(name);
+  for (const std::string& name : paper::printerNames()) CBOPRINTERS().add(name);
 }
 
 void frmPSetup::showPrinter() const {
@@ -141,14 +141,14 @@ void frmPSetup::showPaper() const {
 }
 
 void frmPSetup::loadMargins() const {
-  const char sign = windowing::userDecimalSign();
+  const char sign = values::userDecimalSign();
   for (const StoredMargin& stored : storedMargins) {
     const std::string text =
         LIBRARY().REGSTRREAD(library::currentUserRoot, marginKey(), stored.value, storedDefault);
-    const std::optional<double> inches = windowing::parseStoredNumber(text, sign);
+    const std::optional<double> inches = values::parseStoredNumber(text, sign);
     // A text that is no number leaves the field as it was designed.
     if (inches)
-      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(windowing::doubleText(*inches, sign)));
+      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(values::doubleText(*inches, sign)));
   }
 }
 
@@ -165,7 +165,7 @@ void frmPSetup::setDefaultMargins() const {
 void frmPSetup::choosePrinter() {
   try {
     printer().select(CBOPRINTERS().entry(CBOPRINTERS().selected()));
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     showPrinter();
     throw;
   }
@@ -246,7 +246,7 @@ void frmPSetup::drawSample() {
   const auto show = [this](int label, const std::string& text) {
     if (control(label).text() != text) control(label).setText(text);
   };
-  const char sign = windowing::userDecimalSign();
+  const char sign = values::userDecimalSign();
   show(id::LBLHEIGHT, sizeText("Height: ", paper_->height, sign));
   show(id::LBLWIDTH, sizeText("Width: ", paper_->width, sign));
 }

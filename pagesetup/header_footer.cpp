@@ -1,14 +1,14 @@
 #include "pagesetup/header_footer.h"
 
-#include "windowing/checked.h"
+#include "values/checked.h"
 
 namespace pagesetup {
 namespace {
 
-using windowing::checkedAdd;
-using windowing::checkedCast;
-using windowing::checkedMultiply;
-using windowing::checkedSubtract;
+using values::checkedAdd;
+using values::checkedCast;
+using values::checkedMultiply;
+using values::checkedSubtract;
 
 // Distances in twips. Texts are placed by an estimate of their width and by fixed distances,
 // and rules begin left of the margin: that is how the product family's pages look.

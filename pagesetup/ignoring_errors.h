@@ -1,7 +1,7 @@
 // Steps that are skipped where they fail.
 #pragma once
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace pagesetup {
 
@@ -10,7 +10,7 @@ template <typename Step>
 void ignoringErrors(Step step) {
   try {
     step();
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A printer that refuses a step must not keep the rest of the dialog from working.
   }
 }

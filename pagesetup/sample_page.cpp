@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "library/text_utilities.h"
-#include "windowing/number_text.h"
+#include "values/number_text.h"
 
 namespace pagesetup {
 namespace {
@@ -19,8 +19,8 @@ constexpr double tenthsInInch = 10;
 
 // By way of the texts, as the family computes it: a half inch counts as a whole one.
 double wholeInches(double inches, char sign) {
-  const std::string tenths = library::textJustify(windowing::doubleText(inches, sign), sign);
-  return std::trunc(windowing::toNumber(library::currencyFormat(tenths, sign), sign) + 0.5);
+  const std::string tenths = library::textJustify(values::doubleText(inches, sign), sign);
+  return std::trunc(values::toNumber(library::currencyFormat(tenths, sign), sign) + 0.5);
 }
 
 std::optional<SamplePage> samplePage(const PaperFacts& paper, const Sides& margins, double window) {
@@ -47,7 +47,7 @@ std::optional<SamplePage> samplePage(const PaperFacts& paper, const Sides& margi
 }
 
 std::string sizeText(std::string_view caption, double inches, char decimalSign) {
-  return std::string(caption) + windowing::formatDecimals(inches, 0, 2, decimalSign);
+  return std::string(caption) + values::formatDecimals(inches, 0, 2, decimalSign);
 }
 
 double largestMargin(double side) {

@@ -4,8 +4,8 @@
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/settings_text.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
-#include "windowing/user_locale_win.h"
 
 namespace pagesetup {
 
@@ -15,7 +15,7 @@ std::string keyOf(const StoredOption& stored) {
 
 DefaultTexts defaultTexts() {
   const std::string& path = library::modLibrary().documentPath;
-  const std::size_t slash = library::lastBackslash(path, windowing::isLeadByte);
+  const std::size_t slash = library::lastBackslash(path, values::isLeadByte);
   return {windowing::productName(), library::LIBRARY().GETCOMPANYNAME(),
           slash == std::string::npos ? path : path.substr(slash + 1)};
 }

@@ -5,20 +5,20 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/own_keys_win.h"
+#include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/preview_settings.h"
 #include "printing/printer_ready_win.h"
 #include "printing/zoom.h"
-#include "windowing/checked.h"
-#include "windowing/number_text.h"
-#include "windowing/printer_win.h"
-#include "windowing/units.h"
-#include "windowing/user_locale_win.h"
+#include "values/checked.h"
+#include "values/number_text.h"
+#include "values/units.h"
+#include "values/user_locale_win.h"
 
 namespace printing {
 
 using library::LIBRARY;
-using windowing::printer;
+using paper::printer;
 namespace id = library::id::preview;
 
 namespace {
@@ -28,7 +28,7 @@ std::string selectedText(const windowing::ComboBox& list) {
   return selected < 0 ? std::string() : list.entry(selected);
 }
 
-PageSize sizeOf(const windowing::PagePicture& picture) {
+PageSize sizeOf(const paper::PagePicture& picture) {
   return {picture.width(), picture.height()};
 }
 
@@ -36,7 +36,7 @@ PageSize sizeOf(const windowing::PagePicture& picture) {
 // its pages stays open then.
 class OpenPage {
  public:
-  OpenPage(windowing::PagePicture& picture, const windowing::RichTextBox& text)
+  OpenPage(paper::PagePicture& picture, const paper::RichTextBox& text)
       : picture_(picture), text_(text) {
     picture_.begin(printer().dc());
   }
@@ -48,8 +48,8 @@ class OpenPage {
   }
 
  private:
-  windowing::PagePicture& picture_;
-  const windowing::RichTextBox& text_;
+  paper::PagePicture& picture_;
+  const paper::RichTextBox& text_;
 };
 
 bool same(const RECT& a, const RECT& b) {
@@ -103,19 +103,18 @@ void clsPrinting::fillLists() {
 
 void clsPrinting::showPaperSize() {
   const auto inches = [](double twips) {
-    return windowing::formatDecimals(twips / windowing::twipsPerInch, 0, 2,
-                                     windowing::userDecimalSign());
+    return values::formatDecimals(twips / values::twipsPerInch, 0, 2, values::userDecimalSign());
   };
   host_.setPaperSize(inches(printer().width()) + " x " + inches(printer().height()) + " inches");
 }
 
 std::int32_t clsPrinting::shownPage() const {
-  return static_cast<std::int32_t>(windowing::leadingNumber(selectedText(host_.CBOPGNO())));
+  return static_cast<std::int32_t>(values::leadingNumber(selectedText(host_.CBOPGNO())));
 }
 
 void clsPrinting::goToPage(std::int32_t page) {
   host_.CBOPGNO().select(page - 1);
-  PAGESEL(windowing::roundTo<std::int16_t>(page), host_.PICSTDPAGE());
+  PAGESEL(values::roundTo<std::int16_t>(page), host_.PICSTDPAGE());
 }
 
 void clsPrinting::PAGESTART() {
@@ -161,7 +160,7 @@ void clsPrinting::seekPage(std::int32_t page) {
   const auto known = static_cast<std::int32_t>(starts.size());
   currentPage_ = std::clamp(page, std::int32_t{1}, known);
   measuring_.chrg.cpMin = starts[static_cast<std::size_t>(currentPage_) - 1];
-  const windowing::RichTextBox& text = host_.RTF3();
+  const paper::RichTextBox& text = host_.RTF3();
   while (currentPage_ < page && formatPage(text, measuring_)) {
     advance(measuring_);
     starts.push_back(next_);
@@ -169,7 +168,7 @@ void clsPrinting::seekPage(std::int32_t page) {
   }
 }
 
-void clsPrinting::PAGESEL(std::int16_t PAGENO, windowing::PagePicture& PICTURE) {
+void clsPrinting::PAGESEL(std::int16_t PAGENO, paper::PagePicture& PICTURE) {
   GETMARGINS();
   SetupPageLayout(wholeInches());
   useText(host_.RTF3());
@@ -179,8 +178,8 @@ void clsPrinting::PAGESEL(std::int16_t PAGENO, windowing::PagePicture& PICTURE) 
   host_.PICWINDOW().showNewPicture();
 }
 
-void clsPrinting::drawPage(windowing::PagePicture& picture) {
-  const windowing::RichTextBox& text = host_.RTF3();
+void clsPrinting::drawPage(paper::PagePicture& picture) {
+  const paper::RichTextBox& text = host_.RTF3();
   const BodyMargins margins = inTwips();
   const OpenPage open(picture, text);
   // Crossed as on the printer.
@@ -219,7 +218,7 @@ void clsPrinting::ZOOMSEL() {
   // Before a page is drawn there is nothing to be zoomed.
   if (zoom.empty() || page.width <= 0) return;
   PageView& view = host_.PICWINDOW();
-  const double percent = windowing::leadingNumber(zoom);
+  const double percent = values::leadingNumber(zoom);
   if (percent != 0) {
     ApplyZoomPercent(percent);
   } else if (zoom == wholePageZoom) {

@@ -7,32 +7,32 @@
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/settings_text.h"
+#include "paper/printer_win.h"
 #include "printing/frmPPrev_win.h"
+#include "values/checked.h"
+#include "values/number_text.h"
+#include "values/units.h"
+#include "values/user_locale_win.h"
 #include "windowing/application_win.h"
-#include "windowing/checked.h"
-#include "windowing/number_text.h"
-#include "windowing/printer_win.h"
-#include "windowing/units.h"
-#include "windowing/user_locale_win.h"
 
 namespace printing {
 namespace {
 
-using windowing::checkedAdd;
-using windowing::checkedMultiply;
-using windowing::checkedSubtract;
-using windowing::printer;
-using windowing::RichTextBox;
-using windowing::roundTo;
-using windowing::twipsPerInch;
+using paper::printer;
+using paper::RichTextBox;
+using values::checkedAdd;
+using values::checkedMultiply;
+using values::checkedSubtract;
+using values::roundTo;
+using values::twipsPerInch;
 
 constexpr DWORD everyPrint = PD_COLLATE | PD_RETURNDC | PD_HIDEPRINTTOFILE;
 
 double readMargin(const char* valueName) {
   const std::string key = library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items");
-  return windowing::storedNumber(
+  return values::storedNumber(
       library::LIBRARY().REGSTRREAD(library::currentUserRoot, key, valueName, "1"),
-      windowing::userDecimalSign());
+      values::userDecimalSign());
 }
 
 // Whole inches in twips; more than 22 inches do not fit.
@@ -62,7 +62,7 @@ clsPrinting::BodyMargins clsPrinting::inTwips() const {
 void clsPrinting::SetupPageLayout(std::int16_t left, std::int16_t top, std::int16_t right,
                                   std::int16_t bottom) {
   currentPage_ = 1;
-  printer().setScaleMode(windowing::PrinterScale::twips);
+  printer().setScaleMode(paper::PrinterScale::twips);
   const double width = printer().width();
   const double height = printer().height();
   host_.PICSTDPAGE().resize(width, height);
@@ -127,7 +127,7 @@ std::int32_t clsPrinting::PAGECOUNT(DialogForm& FORM, int, std::int16_t LEFT, st
   // Nothing to format: the dialog stays as it is, deliberately.
   if (next_ == 0) return pageCount_;
   release(text);
-  windowing::PrintDialog& dialog = FORM.CMD1();
+  paper::PrintDialog& dialog = FORM.CMD1();
   dialog.fromPage = 1;
   dialog.toPage = dialog.max = pageCount_;
   dialog.copies = 1;
@@ -154,7 +154,7 @@ void clsPrinting::PRINTDOCUMENT(DialogForm& FORM, const RichTextBox& SOURCE, boo
 }
 
 void clsPrinting::print(DialogForm& form, bool skipDialog) {
-  windowing::PrintDialog& dialog = form.CMD1();
+  paper::PrintDialog& dialog = form.CMD1();
   GETMARGINS();
   dialog.cancelError = true;
   countPages(form);
@@ -168,13 +168,13 @@ void clsPrinting::print(DialogForm& form, bool skipDialog) {
 
 // Another printer or paper may have been chosen: its pages are what the range is about.
 void clsPrinting::askUser(DialogForm& form) {
-  windowing::PrintDialog& dialog = form.CMD1();
+  paper::PrintDialog& dialog = form.CMD1();
   dialog.flags = dialogFlags_;  // an earlier choice of pages does not stick
   {
     const library::CentredDialog centred;
     dialog.show();
   }
-  const windowing::PrintDialog chosen = dialog;
+  const paper::PrintDialog chosen = dialog;
   const std::int32_t count = countPages(form);
   dialog.copies = chosen.copies;
   if (!chosen.rangeChosen()) return;

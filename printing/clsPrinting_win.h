@@ -20,7 +20,7 @@ class clsPrinting {
 
   /// Takes the text to be divided into pages from `SOURCE`: what is selected there, or else
   /// everything. Sets the dialog's flags to fit.
-  void INITIALIZEPATH(DialogForm& FORM, const windowing::RichTextBox& SOURCE);
+  void INITIALIZEPATH(DialogForm& FORM, const paper::RichTextBox& SOURCE);
 
   /// Counts the pages of `RTF3` and prepares the print dialog for them. The flag is ignored.
   /// Margins are whole inches; raises overflow where one needs more than 16 bits of twips.
@@ -29,18 +29,18 @@ class clsPrinting {
 
   /// Prints the text of `SOURCE`, after the print dialog unless `SKIPDIALOG` is set. Errors and
   /// the dialog's cancelling end it silently, but not errors in taking the text over.
-  void PRINTDOCUMENT(DialogForm& FORM, const windowing::RichTextBox& SOURCE, bool SKIPDIALOG);
+  void PRINTDOCUMENT(DialogForm& FORM, const paper::RichTextBox& SOURCE, bool SKIPDIALOG);
 
   // The preview (clsPrinting_preview_win.cpp). Those that turn pages and change the zoom work on
   // the texts of the preview's two lists.
 
   /// The box that holds the report that is previewed, as it was composed last.
-  void setReport(const windowing::RichTextBox& RTF1) { report_ = &RTF1; }
+  void setReport(const paper::RichTextBox& RTF1) { report_ = &RTF1; }
   /// Shows the preview of the report and returns when it is closed; tells the user when there is
   /// no printer. Raises what keeps the pages from being laid out; nothing is shown then.
   void PRINTPREVIEW();
   /// Draws page `PAGENO`, from 1, into `PICTURE` at full size, and shows it.
-  void PAGESEL(std::int16_t PAGENO, windowing::PagePicture& PICTURE);
+  void PAGESEL(std::int16_t PAGENO, paper::PagePicture& PICTURE);
   void PAGESTART();
   void PAGENEXT();
   void PAGEPREVIOUS();
@@ -82,10 +82,10 @@ class clsPrinting {
   void print(DialogForm& form, bool skipDialog);
   void takePages(std::int32_t from, std::int32_t to);
   void sendPages();
-  void useText(const windowing::RichTextBox& box) { reportTextLength_ = box.length(); }
-  bool formatPage(const windowing::RichTextBox& box, FORMATRANGE& range);
+  void useText(const paper::RichTextBox& box) { reportTextLength_ = box.length(); }
+  bool formatPage(const paper::RichTextBox& box, FORMATRANGE& range);
   void advance(FORMATRANGE& range) const;
-  void release(const windowing::RichTextBox& box) const;
+  void release(const paper::RichTextBox& box) const;
 
   void preparePreview();
   void fillLists();
@@ -93,7 +93,7 @@ class clsPrinting {
   void goToPage(std::int32_t page);
   [[nodiscard]] std::int32_t shownPage() const;
   void seekPage(std::int32_t page);
-  void drawPage(windowing::PagePicture& picture);
+  void drawPage(paper::PagePicture& picture);
   void setZoom(std::string_view text);
   void ApplyZoomPercent(double percent);
   void UpdatePageButtons();
@@ -112,7 +112,7 @@ class clsPrinting {
   void rememberPages();
 
   PrintHost& host_;
-  const windowing::RichTextBox* report_ = nullptr;
+  const paper::RichTextBox* report_ = nullptr;
   FORMATRANGE measuring_{};  ///< counting pages, finding a range, drawing the preview
   FORMATRANGE printing_{};   ///< sending pages to the printer
   RECT body_{};              ///< twips, as in both ranges

@@ -7,17 +7,17 @@ namespace {
 
 // A format is set on an empty box: what stands in it is replaced anyway, and to format a long text
 // anew takes long.
-void prepare(windowing::RichTextBox& box, const windowing::TextFormat& format) {
+void prepare(paper::RichTextBox& box, const paper::TextFormat& format) {
   box.setPlain({});
   box.setFormat(format);
 }
 
 }  // namespace
 
-void composeReport(const document::ContactRecord& values, windowing::RichTextBox& RTF1,
-                   windowing::RichTextBox& RTF3) {
-  windowing::TextFormat format = RTF1.format();
-  format.points = windowing::documentPoints;
+void composeReport(const document::ContactRecord& values, paper::RichTextBox& RTF1,
+                   paper::RichTextBox& RTF3) {
+  paper::TextFormat format = RTF1.format();
+  format.points = paper::documentPoints;
   RTF3.setPlain({});
   for (const ReportStep& step : reportOf(values)) {
     if (step.kind == ReportStep::Kind::lineBreak) {

@@ -15,7 +15,7 @@
 #include "printing/preview_commands.h"
 #include "printing/printer_ready_win.h"
 #include "printing/zoom.h"
-#include "windowing/number_text.h"
+#include "values/number_text.h"
 
 namespace printing {
 
@@ -153,7 +153,7 @@ void frmPPrev::print(bool atOnce) {
 void frmPPrev::onSelect(int id) {
   if (id == id::CBOPGNO) {
     const windowing::ComboBox pages = CBOPGNO();
-    PRINTING().PAGESEL(windowing::toInteger16(pages.entry(pages.selected()), '.'), PICSTDPAGE());
+    PRINTING().PAGESEL(values::toInteger16(pages.entry(pages.selected()), '.'), PICSTDPAGE());
   } else if (id == id::CBOPGZOOM) {
     PRINTING().ZOOMSEL();
   }

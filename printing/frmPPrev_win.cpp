@@ -13,9 +13,9 @@
 #include "printing/frmPPrev_design_win.h"
 #include "printing/preview_commands.h"
 #include "printing/preview_settings.h"
+#include "values/number_text.h"
+#include "values/runtime_error.h"
 #include "windowing/handle_text_win.h"
-#include "windowing/number_text.h"
-#include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
 
 namespace printing {
@@ -40,8 +40,8 @@ bool storedBar(const char* value) {
   const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot,
                                                 library::familyKey(previewSection), value, "True");
   try {
-    return windowing::booleanOfText(text);
-  } catch (const windowing::RuntimeError&) {
+    return values::booleanOfText(text);
+  } catch (const values::RuntimeError&) {
     return true;
   }
 }
@@ -71,15 +71,15 @@ frmPPrev::frmPPrev()
 // The boxes and the view go before the window that holds them.
 frmPPrev::~frmPPrev() = default;
 
-windowing::RichTextBox& frmPPrev::RTF2() {
+paper::RichTextBox& frmPPrev::RTF2() {
   load();
   return RTF2_;
 }
-windowing::RichTextBox& frmPPrev::RTF3() {
+paper::RichTextBox& frmPPrev::RTF3() {
   load();
   return RTF3_;
 }
-windowing::PagePicture& frmPPrev::PICSTDPAGE() {
+paper::PagePicture& frmPPrev::PICSTDPAGE() {
   load();
   return PICSTDPAGE_;
 }
@@ -212,7 +212,7 @@ void frmPPrev::setPaperSize(const std::string& text) {
 void frmPPrev::restorePlace() {
   try {
     LIBRARY().FORMLOAD(previewPlaceName, *this, true);
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     // A stored place that is none: the window stays where its design put it.
   }
 }
@@ -235,8 +235,8 @@ void frmPPrev::store() {
   LIBRARY().FORMSAVE(previewPlaceName, *this, true);
   const windowing::ComboBox zooms = CBOPGZOOM();
   storeItem(zoomValue, zooms.entry(zooms.selected()));
-  storeItem(statusBarValue, windowing::textOfBoolean(SBMAIN().visible()));
-  storeItem(toolbarValue, windowing::textOfBoolean(control(id::PICTBAR).visible()));
+  storeItem(statusBarValue, values::textOfBoolean(SBMAIN().visible()));
+  storeItem(toolbarValue, values::textOfBoolean(control(id::PICTBAR).visible()));
 }
 
 frmPPrev& thePreview() {

@@ -18,13 +18,13 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   ~frmPPrev() override;
 
   // Each loads the form when it is needed.
-  [[nodiscard]] windowing::RichTextBox& RTF2() override;
-  [[nodiscard]] windowing::RichTextBox& RTF3() override;
-  [[nodiscard]] windowing::PagePicture& PICSTDPAGE() override;
+  [[nodiscard]] paper::RichTextBox& RTF2() override;
+  [[nodiscard]] paper::RichTextBox& RTF3() override;
+  [[nodiscard]] paper::PagePicture& PICSTDPAGE() override;
   [[nodiscard]] windowing::ComboBox CBOPGNO() override;
   [[nodiscard]] windowing::ComboBox CBOPGZOOM() override;
   [[nodiscard]] PageView& PICWINDOW() override;
-  [[nodiscard]] windowing::PrintDialog& CMD1() override { return CMD1_; }
+  [[nodiscard]] paper::PrintDialog& CMD1() override { return CMD1_; }
 
   /// Builds the icon menus; called again, it builds them anew.
   void ICONMENUS() override;
@@ -73,11 +73,11 @@ class frmPPrev : public library::CommandForm, public PrintHost {
   windowing::ImageList IMGLST;
   std::unique_ptr<controls::ICOMNU> ICOMNU;
   library::CommandHints hints_;
-  windowing::PagePicture PICSTDPAGE_;
+  paper::PagePicture PICSTDPAGE_;
   PageView PICWINDOW_{PICSTDPAGE_};
-  windowing::RichTextBox RTF2_{"RTF2"};
-  windowing::RichTextBox RTF3_{"RTF3"};
-  windowing::PrintDialog CMD1_;
+  paper::RichTextBox RTF2_{"RTF2"};
+  paper::RichTextBox RTF3_{"RTF3"};
+  paper::PrintDialog CMD1_;
   bool ready_ = false;  ///< controls and menus are complete
 };
 

@@ -5,11 +5,11 @@
 #include <algorithm>
 
 #include "library/identifiers.h"
+#include "values/handles_win.h"
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
-#include "windowing/handles_win.h"
 #include "windowing/screen_win.h"
-#include "windowing/system_error_win.h"
 
 namespace printing {
 namespace {
@@ -27,7 +27,7 @@ HWND child(const char* windowClass, DWORD style, HWND parent, int id) {
   const HWND made = CreateWindowExA(0, windowClass, "", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
                                     parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                     windowing::programInstance(), nullptr);
-  if (made == nullptr) windowing::raiseLastError();
+  if (made == nullptr) values::raiseLastError();
   return made;
 }
 
@@ -63,7 +63,7 @@ COLORREF darker(COLORREF colour, int hundredths) {
 }
 
 void fill(HDC dc, const RECT& area, COLORREF colour) {
-  const windowing::BrushHandle brush(CreateSolidBrush(colour));
+  const values::BrushHandle brush(CreateSolidBrush(colour));
   FillRect(dc, &area, brush.get());
 }
 
@@ -276,10 +276,10 @@ void PageView::paint() {
   const RECT& area = paint.rcPaint;
   const SIZE size{area.right - area.left, area.bottom - area.top};
   if (size.cx > 0 && size.cy > 0) {
-    const windowing::MemoryDc memory(CreateCompatibleDC(window));
-    const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(window, size.cx, size.cy));
+    const values::MemoryDc memory(CreateCompatibleDC(window));
+    const values::BitmapHandle bitmap(CreateCompatibleBitmap(window, size.cx, size.cy));
     if (memory && bitmap) {
-      const windowing::Selected selected(memory.get(), bitmap.get());
+      const values::Selected selected(memory.get(), bitmap.get());
       SetViewportOrgEx(memory.get(), -area.left, -area.top, nullptr);
       FillRect(memory.get(), &area, GetSysColorBrush(COLOR_APPWORKSPACE));
       const RECT page = pagePixels();

@@ -5,8 +5,8 @@
 
 #include <functional>
 
+#include "paper/page_picture_win.h"
 #include "printing/preview_layout.h"
-#include "windowing/page_picture_win.h"
 #include "windowing/window_win.h"
 
 namespace printing {
@@ -16,7 +16,7 @@ namespace printing {
 class PageView : public windowing::Window {
  public:
   /// `picture` is shown as the page and must outlive the view.
-  explicit PageView(const windowing::PagePicture& picture) : picture_(picture) {}
+  explicit PageView(const paper::PagePicture& picture) : picture_(picture) {}
 
   /// Makes the view with its scroll bars and the box that fills the corner between them.
   /// Raises when Windows refuses.
@@ -57,7 +57,7 @@ class PageView : public windowing::Window {
   void drawShadow(HDC dc, const RECT& page) const;
   [[nodiscard]] RECT visiblePixels() const;
 
-  const windowing::PagePicture& picture_;
+  const paper::PagePicture& picture_;
   HWND SCRHBAR = nullptr;
   HWND SCRVBAR = nullptr;
   HWND PICFILL = nullptr;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "windowing/checked.h"
+#include "values/checked.h"
 
 namespace printing {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 // the view's as its near edge was.
 std::int32_t rangeOf(double start, double length, double visible) {
   const double beyond = start + length + pageEdge - std::max(0.0, visible);
-  return windowing::roundTo<std::int32_t>(std::ceil(std::max(0.0, beyond)));
+  return values::roundTo<std::int32_t>(std::ceil(std::max(0.0, beyond)));
 }
 
 PageSpan fromEdge(double length, double visible) {
@@ -59,7 +59,7 @@ std::int32_t scrollKeeping(double at, const PageSpan& before, std::int32_t posit
   if (before.length <= 0) return 0;
   const double part = std::clamp((at - (before.start - position)) / before.length, 0.0, 1.0);
   const double wanted = after.start + part * after.length - at;
-  return windowing::roundTo<std::int32_t>(
+  return values::roundTo<std::int32_t>(
       std::clamp(wanted, 0.0, static_cast<double>(after.scrollMax)));
 }
 

@@ -4,11 +4,11 @@
 
 #include <string>
 
+#include "paper/page_picture_win.h"
+#include "paper/print_dialog_win.h"
+#include "paper/richtextbox_win.h"
 #include "printing/page_view_win.h"
 #include "windowing/control_win.h"
-#include "windowing/page_picture_win.h"
-#include "windowing/print_dialog_win.h"
-#include "windowing/richtextbox_win.h"
 
 namespace printing {
 
@@ -20,17 +20,17 @@ class DialogForm {
   DialogForm& operator=(const DialogForm&) = delete;
   virtual ~DialogForm() = default;
 
-  [[nodiscard]] virtual windowing::PrintDialog& CMD1() = 0;
+  [[nodiscard]] virtual paper::PrintDialog& CMD1() = 0;
 };
 
 class PrintHost : public DialogForm {
  public:
   /// The pages that are being printed.
-  [[nodiscard]] virtual windowing::RichTextBox& RTF2() = 0;
+  [[nodiscard]] virtual paper::RichTextBox& RTF2() = 0;
   /// The text that is being divided into pages.
-  [[nodiscard]] virtual windowing::RichTextBox& RTF3() = 0;
+  [[nodiscard]] virtual paper::RichTextBox& RTF3() = 0;
   /// The page on show, at full size.
-  [[nodiscard]] virtual windowing::PagePicture& PICSTDPAGE() = 0;
+  [[nodiscard]] virtual paper::PagePicture& PICSTDPAGE() = 0;
 
   /// The lists of pages and zooms. Their texts are the page and the zoom on show; choosing in
   /// them by program does nothing else.

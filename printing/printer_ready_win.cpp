@@ -5,16 +5,16 @@
 #include <string>
 
 #include "library/clsLibrary_win.h"
+#include "paper/printer_win.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/printer_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
 
 namespace printing {
 
 bool printerInstalled() {
-  if (!windowing::printerNames().empty()) return true;
+  if (!paper::printerNames().empty()) return true;
   constexpr int noPrinter = 13;
   library::LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
   return false;
@@ -23,11 +23,11 @@ bool printerInstalled() {
 bool printerReady() {
   if (!printerInstalled()) return false;
   try {
-    windowing::printer().check();
+    paper::printer().check();
     return true;
-  } catch (const windowing::RuntimeError&) {
+  } catch (const values::RuntimeError&) {
     windowing::seams().messageBox(windowing::dialogOwner(),
-                                  "The printer \"" + windowing::printer().name() +
+                                  "The printer \"" + paper::printer().name() +
                                       "\" does not answer. Choose another one in Page Setup.",
                                   windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
     return false;

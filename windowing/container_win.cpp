@@ -3,8 +3,8 @@
 #include <uxtheme.h>
 #include <vsstyle.h>
 
+#include "values/handles_win.h"
 #include "windowing/application_win.h"
-#include "windowing/handles_win.h"
 
 namespace windowing {
 namespace {
@@ -16,13 +16,13 @@ COLORREF tabPageColour(HWND window) {
   if (!IsAppThemed()) return face;
   const HTHEME theme = OpenThemeData(window, L"TAB");
   if (theme == nullptr) return face;
-  const WindowDc screen(nullptr);
-  const MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const values::WindowDc screen(nullptr);
+  const values::MemoryDc memory(CreateCompatibleDC(screen.get()));
   constexpr int side = 64;
-  const BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), side, side));
+  const values::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), side, side));
   COLORREF colour = CLR_INVALID;
   {
-    const Selected selected(memory.get(), bitmap.get());
+    const values::Selected selected(memory.get(), bitmap.get());
     const RECT area{0, 0, side, side};
     FillRect(memory.get(), &area, GetSysColorBrush(COLOR_BTNFACE));
     if (DrawThemeBackground(theme, memory.get(), TABP_BODY, 0, &area, nullptr) == S_OK)
@@ -33,8 +33,8 @@ COLORREF tabPageColour(HWND window) {
 }
 
 // The brush of tab pages; made anew when the theme or the system's colours change.
-BrushHandle& tabPageBrush() {
-  static BrushHandle brush;
+values::BrushHandle& tabPageBrush() {
+  static values::BrushHandle brush;
   return brush;
 }
 

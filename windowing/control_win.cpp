@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 #include "windowing/screen_win.h"
 
 namespace windowing {
@@ -14,7 +14,7 @@ std::string Control::text() const {
   const auto copied = static_cast<std::size_t>(
       send(WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data())));
   // It has a text and hands none out: that is no empty one.
-  if (copied == 0 && length > 0) raiseOutOfMemory();
+  if (copied == 0 && length > 0) values::raiseOutOfMemory();
   text.resize(copied <= length ? copied : length);
   return text;
 }

@@ -4,14 +4,14 @@
 #include <string>
 #include <tuple>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 #include "windowing/screen_win.h"
 
 namespace windowing {
 
 HFONT font(const char* face, int points, bool bold) {
-  static std::map<std::tuple<std::string, int, bool>, FontHandle> made;
-  FontHandle& found = made[{face, points, bold}];
+  static std::map<std::tuple<std::string, int, bool>, values::FontHandle> made;
+  values::FontHandle& found = made[{face, points, bold}];
   if (!found) {
     constexpr int pointsPerInch = 72;
     found.reset(CreateFontA(-MulDiv(points, screenDpi(), pointsPerInch), 0, 0, 0,

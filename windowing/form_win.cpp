@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/screen_win.h"
-#include "windowing/system_error_win.h"
 
 namespace windowing {
 namespace {
@@ -52,7 +52,7 @@ constexpr KindDesign kindDesigns[] = {
 const KindDesign& kindDesign(ControlKind kind) {
   for (const KindDesign& design : kindDesigns)
     if (design.kind == kind) return design;
-  throw RuntimeError(ErrorNumber::invalidCall, "A control of an unknown kind");
+  throw values::RuntimeError(values::ErrorNumber::invalidCall, "A control of an unknown kind");
 }
 
 bool isClass(HWND window, const char* wanted) {
@@ -162,7 +162,7 @@ void Form::createControls(bool late) {
     if (late != isLate(design)) continue;
     const HWND container = design.container == 0 ? handle() : control(design.container).handle();
     const HWND made = createControl(design, container);
-    if (made == nullptr) raiseLastError();
+    if (made == nullptr) values::raiseLastError();
     controls_[design.id] = made;
     SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(formFont()), FALSE);
     const bool box =
@@ -256,8 +256,8 @@ Control Form::control(int id) const {
 Control Form::control(std::string_view name) const {
   for (const ControlDesign& design : design_.controls)
     if (design.name == name) return control(design.id);
-  throw RuntimeError(ErrorNumber::objectMissing,
-                     std::string(design_.name) + " has no control " + std::string(name));
+  throw values::RuntimeError(values::ErrorNumber::objectMissing,
+                             std::string(design_.name) + " has no control " + std::string(name));
 }
 
 RECT Form::outerPixels() const {

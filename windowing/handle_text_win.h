@@ -6,18 +6,18 @@
 #include <string>
 #include <string_view>
 
-#include "windowing/number_text.h"
+#include "values/number_text.h"
 
 namespace windowing {
 
 /// The decimal text of a window's handle.
 [[nodiscard]] inline std::string handleText(HWND window) {
-  return integerText(reinterpret_cast<LONG_PTR>(window));
+  return values::integerText(reinterpret_cast<LONG_PTR>(window));
 }
 
 /// The handle in `text`; raises type mismatch where it is no number, or overflow.
 [[nodiscard]] inline HWND handleOfText(std::string_view text) {
-  return reinterpret_cast<HWND>(static_cast<LONG_PTR>(toInteger32(text, '.')));
+  return reinterpret_cast<HWND>(static_cast<LONG_PTR>(values::toInteger32(text, '.')));
 }
 
 }  // namespace windowing

@@ -33,13 +33,13 @@ ImageListHandle listOf(HBITMAP strip, int size, int count) {
   return list;
 }
 
-BitmapHandle fadedCopy(const DIBSECTION& strip) {
+values::BitmapHandle fadedCopy(const DIBSECTION& strip) {
   BITMAPINFO info{};
   info.bmiHeader = strip.dsBmih;
   info.bmiHeader.biCompression = BI_RGB;
   info.bmiHeader.biClrUsed = 0;
   void* bits = nullptr;
-  BitmapHandle copy(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  values::BitmapHandle copy(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   if (!copy) return copy;
   const auto* from = static_cast<const Pixel*>(strip.dsBm.bmBits);
   auto* to = static_cast<Pixel*>(bits);
@@ -57,13 +57,13 @@ ImageList::ImageList(std::span<const ImageStrip> strips) {
     size_ = strip.size;
     resource = strip.resource;
   }
-  const BitmapHandle strip(loadPicture(programInstance(), resource, Alpha::straight));
+  const values::BitmapHandle strip(loadPicture(programInstance(), resource, Alpha::straight));
   DIBSECTION section{};
   if (!strip || size_ == 0 || GetObjectA(strip.get(), sizeof section, &section) != sizeof section ||
       section.dsBm.bmBitsPixel != 32)
     return;
   const int pictures = section.dsBm.bmWidth / size_;
-  const BitmapHandle pale = fadedCopy(section);
+  const values::BitmapHandle pale = fadedCopy(section);
   enabled_ = listOf(strip.get(), size_, pictures);
   disabled_ = listOf(pale.get(), size_, pictures);
 }

@@ -8,7 +8,7 @@
 
 #include <span>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace windowing {
 
@@ -17,7 +17,7 @@ struct ImageListTraits {
   static Type empty() { return nullptr; }
   static void free(Type handle) { ImageList_Destroy(handle); }
 };
-using ImageListHandle = UniqueHandle<ImageListTraits>;
+using ImageListHandle = values::UniqueHandle<ImageListTraits>;
 
 /// A strip of square pictures: their size in pixels and the bitmap resource that holds them
 /// side by side, with 32 bits a pixel and straight alpha.

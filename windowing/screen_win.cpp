@@ -1,34 +1,34 @@
 #include "windowing/screen_win.h"
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace windowing {
 
 int screenDpi() {
   static const int dpi = [] {
-    const WindowDc screen(nullptr);
+    const values::WindowDc screen(nullptr);
     const int reported = GetDeviceCaps(screen.get(), LOGPIXELSX);
-    return reported > 0 ? reported : designDpi;
+    return reported > 0 ? reported : values::designDpi;
   }();
   return dpi;
 }
 
-Twips screenWidth() {
-  return toTwips(Pixels{GetSystemMetrics(SM_CXSCREEN)}, screenDpi());
+values::Twips screenWidth() {
+  return values::toTwips(values::Pixels{GetSystemMetrics(SM_CXSCREEN)}, screenDpi());
 }
-Twips screenHeight() {
-  return toTwips(Pixels{GetSystemMetrics(SM_CYSCREEN)}, screenDpi());
+values::Twips screenHeight() {
+  return values::toTwips(values::Pixels{GetSystemMetrics(SM_CYSCREEN)}, screenDpi());
 }
 
 int screenPixels(double twips) {
-  return toPixels(Twips{twips}, screenDpi()).value;
+  return values::toPixels(values::Twips{twips}, screenDpi()).value;
 }
 double screenTwips(int pixels) {
-  return toTwips(Pixels{pixels}, screenDpi()).value;
+  return values::toTwips(values::Pixels{pixels}, screenDpi()).value;
 }
 
 int scaled(int pixelsAt96) {
-  return MulDiv(pixelsAt96, screenDpi(), designDpi);
+  return MulDiv(pixelsAt96, screenDpi(), values::designDpi);
 }
 
 }  // namespace windowing

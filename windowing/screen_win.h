@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include "windowing/units.h"
+#include "values/units.h"
 
 namespace windowing {
 
@@ -12,8 +12,8 @@ namespace windowing {
 [[nodiscard]] int screenDpi();
 
 /// Size of the primary screen, the taskbar's strip included.
-[[nodiscard]] Twips screenWidth();
-[[nodiscard]] Twips screenHeight();
+[[nodiscard]] values::Twips screenWidth();
+[[nodiscard]] values::Twips screenHeight();
 
 /// Nearest screen pixel of a length, and the exact length of pixels.
 [[nodiscard]] int screenPixels(double twips);

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "values/runtime_error.h"
 #include "windowing/modal_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/shell_win.h"
 
 namespace windowing {
@@ -50,8 +50,9 @@ std::optional<std::string> askForFile(HWND owner, const FileDialog& wanted) {
     return askForFile(owner, again);
   }
   if (error != 0)
-    throw RuntimeError(ErrorNumber::invalidCall,
-                       "The file dialog could not be opened (" + std::to_string(error) + ")");
+    throw values::RuntimeError(
+        values::ErrorNumber::invalidCall,
+        "The file dialog could not be opened (" + std::to_string(error) + ")");
   return std::nullopt;
 }
 

@@ -1,22 +1,23 @@
 #include "windowing/window_win.h"
 
+#include "values/runtime_error.h"
+#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/seams_win.h"
-#include "windowing/system_error_win.h"
 
 namespace windowing {
 namespace {
 
-std::string numbered(ErrorNumber number, const std::string& text) {
+std::string numbered(values::ErrorNumber number, const std::string& text) {
   return "Run-time error " + std::to_string(static_cast<int>(number)) + ":\r\n\r\n" + text;
 }
 
 std::string reportOf(const std::exception& error) {
-  if (const auto* known = dynamic_cast<const RuntimeError*>(&error))
+  if (const auto* known = dynamic_cast<const values::RuntimeError*>(&error))
     return numbered(known->number(), known->what());
-  return isOutOfMemory(error) ? numbered(ErrorNumber::outOfMemory, "Out of memory") : error.what();
+  return values::isOutOfMemory(error) ? numbered(values::ErrorNumber::outOfMemory, "Out of memory")
+                                      : error.what();
 }
 
 }  // namespace
@@ -41,13 +42,13 @@ void Window::create(const Creation& creation) {
     made.hIcon = LoadIconA(programInstance(), MAKEINTRESOURCEA(1));
     made.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     made.lpszClassName = creation.className;
-    if (!RegisterClassExA(&made)) raiseLastError();
+    if (!RegisterClassExA(&made)) values::raiseLastError();
   }
   const RECT& place = creation.place;
   CreateWindowExA(creation.exStyle, creation.className, creation.caption.c_str(), creation.style,
                   place.left, place.top, place.right - place.left, place.bottom - place.top,
                   creation.parent, creation.menu, programInstance(), this);
-  if (handle_ == nullptr) raiseLastError();
+  if (handle_ == nullptr) values::raiseLastError();
 }
 
 LRESULT Window::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -5,12 +5,12 @@
 #include "controls/menu_drawing_win.h"
 #include "library/images.h"
 #include "library/resource_ids.h"
+#include "values/runtime_error.h"
 #include "windowing/form_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
 
 using namespace controls;
-using windowing::MemoryDc;
+using values::MemoryDc;
 
 namespace {
 
@@ -94,10 +94,10 @@ TEST(IcoMnu, HighlightsCarryNumbers) {
 int marks(const MenuItemLook& look, UINT state, LONG left, LONG right) {
   const windowing::ImageList images(strips);
   const SIZE size = menuItemSize(look, &images);
-  const windowing::WindowDc screen(nullptr);
+  const values::WindowDc screen(nullptr);
   const MemoryDc dc(CreateCompatibleDC(screen.get()));
-  const windowing::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), size.cx, size.cy));
-  const windowing::Selected chosen(dc.get(), bitmap.get());
+  const values::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), size.cx, size.cy));
+  const values::Selected chosen(dc.get(), bitmap.get());
   drawMenuItem(dc.get(), {0, 0, size.cx, size.cy}, look, state, &images);
   int count = 0;
   for (int y = 0; y < size.cy; ++y)

@@ -6,8 +6,8 @@
 #include <cstring>
 
 #include "tests/controls/control_form_win.h"
+#include "values/user_locale_win.h"
 #include "windowing/seams_win.h"
-#include "windowing/user_locale_win.h"
 
 using namespace controls;
 using controls::test::ControlForm;
@@ -26,7 +26,7 @@ class Spin : public ::testing::Test {
 
   /// A text as this user's field shows it.
   static std::string shown(std::string text) {
-    std::replace(text.begin(), text.end(), '.', windowing::userDecimalSign());
+    std::replace(text.begin(), text.end(), '.', values::userDecimalSign());
     return text;
   }
   void retype(const char* text) const {

@@ -7,9 +7,9 @@
 
 #include "library/identifiers.h"
 #include "tests/support/scratch_registry_win.h"
+#include "values/handles_win.h"
 #include "windowing/application_win.h"
 #include "windowing/fonts_win.h"
-#include "windowing/handles_win.h"
 #include "windowing/seams_win.h"
 
 namespace dialogs {
@@ -50,13 +50,13 @@ TEST_F(AboutBox, NamesTheOwnersOfTheirOwnPlacesWithoutAccessKeys) {
 
 TEST_F(AboutBox, ShowsEveryTextWhole) {
   form_.load();
-  const windowing::WindowDc dc(form_.handle());
+  const values::WindowDc dc(form_.handle());
   for (int control = id::FRAMTITLE; control <= id::BTNCLOSE; ++control) {
     const windowing::Control label = form_.control(control);
     const auto font = reinterpret_cast<HFONT>(label.send(WM_GETFONT));
     const std::string shown = label.text();
     if (shown.empty()) continue;
-    const windowing::Selected selected(dc.get(), font);
+    const values::Selected selected(dc.get(), font);
     RECT area{};
     GetClientRect(label.handle(), &area);
     RECT needed = area;

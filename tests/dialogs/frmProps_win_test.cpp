@@ -9,14 +9,14 @@
 
 #include "library/identifiers.h"
 #include "library/modLibrary_win.h"
+#include "paper/richtextbox_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
 #include "tests/support/short_memory_win.h"
-#include "windowing/richtextbox_win.h"
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 #include "windowing/seams_win.h"
 
 namespace dialogs {
@@ -88,7 +88,7 @@ bool americanUser() {
 
 TEST_F(Properties, GeneralFactsAreThoseOfTheDisk) {
   const std::string path = folder_.file("M\xFCller & Co.Tly");
-  const windowing::FileHandle file(
+  const values::FileHandle file(
       CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
   LARGE_INTEGER end{};
   end.QuadPart = 5000000000;
@@ -237,9 +237,9 @@ TEST_F(Properties, FiguresOfTheDocumentsText) {
 
 TEST_F(Properties, PagesAreThosePrinted) {
   const TestPrinters printers;
-  form_.setPaper([] { return reportPaper(windowing::printer()); });
+  form_.setPaper([] { return reportPaper(paper::printer()); });
   form_.load();
-  windowing::RichTextBox report("RTF1");
+  paper::RichTextBox report("RTF1");
   report.create(form_.handle(), 1, {0, 0, 9, 9});
   form_.setDocumentText([&] { return report.text(); });
   const auto expectPages = [&](int count, const std::string& line) {
@@ -254,7 +254,7 @@ TEST_F(Properties, PagesAreThosePrinted) {
   };
   for (const char* name : {TestPrinters::a4, TestPrinters::letter}) {
     SCOPED_TRACE(name);
-    windowing::printer().select(name);
+    paper::printer().select(name);
     int highest = 0;
     for (int count = 50; count < 70; ++count) highest = std::max(highest, expectPages(count, "x"));
     EXPECT_EQ(highest, 2);
@@ -266,7 +266,7 @@ TEST_F(Properties, PagesAreThosePrinted) {
 
 TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
   form_.setPaper([]() -> ReportPaper {
-    throw windowing::RuntimeError(windowing::ErrorNumber::printer, "No printer");
+    throw values::RuntimeError(values::ErrorNumber::printer, "No printer");
   });
   form_.setDocumentText([] { return std::string("one\r\ntwo three"); });
   show("", "UNTITLED");
@@ -284,7 +284,7 @@ TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
     EXPECT_EQ(figures(), "||14|3|");
   }
   form_.setDocumentText([]() -> std::string {
-    throw windowing::RuntimeError(windowing::ErrorNumber::objectMissing, "No contact");
+    throw values::RuntimeError(values::ErrorNumber::objectMissing, "No contact");
   });
   form_.UPDATEINFO();
   EXPECT_EQ(figures(), "||||");

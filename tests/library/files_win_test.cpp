@@ -9,7 +9,7 @@
 #include "tests/support/dialog_driver_win.h"
 #include "tests/support/plain_form_win.h"
 #include "tests/support/scratch_folder_win.h"
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 #include "windowing/seams_win.h"
 
 namespace library {
@@ -116,7 +116,7 @@ TEST(Files, BrowsingHandsTheFolderOnAndOutlivesABrokenForm) {
    protected:
     void onLoad() override {
       EXPECT_EQ(modLibrary().folderBrowseFolder, "C:\\Data");
-      windowing::raiseOverflow();
+      values::raiseOverflow();
     }
   };
   PlainForm form;
@@ -152,7 +152,7 @@ TEST(Files, AddressesAreHandedToTheShellWithoutQuotesOrFailInSilence) {
     LIBRARY().INTERNETACCESS("66", "mailto:", row.address);
     EXPECT_EQ(handed, "Open mailto:" + row.handed);
   }
-  EXPECT_THROW(LIBRARY().INTERNETACCESS("none", "mailto:", "a"), windowing::RuntimeError);
+  EXPECT_THROW(LIBRARY().INTERNETACCESS("none", "mailto:", "a"), values::RuntimeError);
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ TEST(LibraryMenus, CreatesItemsWithPictureAndState) {
   EXPECT_EQ(GetMenuItemCount(form.menus.popup(title)), 4);
   LIBRARY().ICOMNUSETUP(form, form, 23, "EXIT");
   EXPECT_EQ(form.menus.ItemIcon(23), imageIndex("EXIT"));
-  EXPECT_THROW(LIBRARY().ICOMNUSETUP(form, form, 23, "NO SUCH KEY"), windowing::RuntimeError);
+  EXPECT_THROW(LIBRARY().ICOMNUSETUP(form, form, 23, "NO SUCH KEY"), values::RuntimeError);
 }
 
 TEST(LibraryMenus, DescribesTheItemOfTheFormWithTheText) {
@@ -58,7 +58,7 @@ TEST(LibraryMenus, DescribesTheItemOfTheFormWithTheText) {
   EXPECT_EQ(described(main, main, 21), "Create a new tellary.");
   EXPECT_EQ(described(main, main, 24), "Create a new tellary.") << "unknown: nothing new";
   EXPECT_EQ(described(main, main, 21, true), "") << "the flag clears";
-  EXPECT_THROW(described(main, main, 99), windowing::RuntimeError);
+  EXPECT_THROW(described(main, main, 99), values::RuntimeError);
   for (MenuForm* form : {&preview, &popup, &other}) form->menus.CAPTION(21, "&Add");
   EXPECT_EQ(described(preview, main, 21), "Create a new tellary.");
   EXPECT_EQ(described(popup, main, 21), "Create a new tellary.");

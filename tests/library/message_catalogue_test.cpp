@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 using namespace library;
 
@@ -36,7 +36,7 @@ TEST(MessageCatalogue, PluralsFollowTheirNumber) {
     for (const char* many : {"0", "-1", "1.5"})
       EXPECT_TRUE(text(many).ends_with(" times.")) << many;
     for (const char* bad : {"", "one", "1 time"})
-      EXPECT_THROW((void)text(bad), windowing::RuntimeError) << bad;
+      EXPECT_THROW((void)text(bad), values::RuntimeError) << bad;
   }
   EXPECT_EQ(composeMessage(12, counted("none")).flags, 48U) << "others do not ask for a number";
 }

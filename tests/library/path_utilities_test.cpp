@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 using namespace library;
 
@@ -30,7 +30,7 @@ TEST(PathUtilities, Folders) {
   EXPECT_EQ(lastBackslash("\x95", japanese), std::string::npos);
   // The counter has sixteen bits.
   EXPECT_EQ(folderPath("abc\\" + std::string(32766, 'x')), "abc");
-  EXPECT_THROW((void)folderPath("abc\\" + std::string(32767, 'x')), windowing::RuntimeError);
+  EXPECT_THROW((void)folderPath("abc\\" + std::string(32767, 'x')), values::RuntimeError);
 }
 
 TEST(PathUtilities, BackslashesAndExtensionsWhereTheyAreDue) {

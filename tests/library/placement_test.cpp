@@ -4,12 +4,12 @@
 
 #include <sstream>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 using namespace library;
-using windowing::ErrorNumber;
-using windowing::Pixels;
-using windowing::Twips;
+using values::ErrorNumber;
+using values::Pixels;
+using values::Twips;
 
 namespace {
 
@@ -67,11 +67,11 @@ TEST(Placement, WhatCannotBeReadRaises) {
   for (const auto& row : rows) try {
       (void)loaded(row.stored);
       ADD_FAILURE();
-    } catch (const windowing::RuntimeError& error) {
+    } catch (const values::RuntimeError& error) {
       EXPECT_EQ(error.number(), row.number);
     }
   // A screen more than 65,535 twips wider than the form, though a place is stored.
-  EXPECT_THROW((void)loaded({{}, "0", "0", {}, {}}, false, 9000 + 65536), windowing::RuntimeError);
+  EXPECT_THROW((void)loaded({{}, "0", "0", {}, {}}, false, 9000 + 65536), values::RuntimeError);
   EXPECT_EQ(loaded({{}, "0", "0", {}, {}}, false, 9000 + 65534).left, Twips{0});
 }
 
@@ -88,12 +88,12 @@ TEST(Placement, WhatIsStoredOnClosing) {
 TEST(Placement, AWindowAtTheScreensEdgeStaysThereAtEveryResolution) {
   for (const int dpi : {96, 120, 144, 168, 192})
     for (int width = 300; width < 340; ++width) {
-      const auto twips = [&](int pixels) { return windowing::toTwips(Pixels{pixels}, dpi); };
+      const auto twips = [&](int pixels) { return values::toTwips(Pixels{pixels}, dpi); };
       const FormPlacement form{WindowState::normal, twips(1920 - width), twips(0), twips(width),
                                twips(400)};
       const std::vector<StoredValue> stored = placementToStore(form, true, ',');
       const StoredPlacement texts{{}, stored[1].text, {}, stored[3].text, {}};
       const FormPlacement again = loadPlacement(texts, form, {twips(1920), twips(1080)}, true, ',');
-      ASSERT_EQ(windowing::toPixels(again.left, dpi), Pixels{1920 - width}) << dpi;
+      ASSERT_EQ(values::toPixels(again.left, dpi), Pixels{1920 - width}) << dpi;
     }
 }

@@ -53,7 +53,7 @@ TEST_F(PlacementTest, FormsComeBackWhereTheyWereWithoutDrifting) {
     expectPlace(form, place);
   }
   EXPECT_EQ(stored("Window State"), "0");
-  if (windowing::screenDpi() == windowing::designDpi) {
+  if (windowing::screenDpi() == values::designDpi) {
     EXPECT_EQ(stored("Left"), "555");
     EXPECT_EQ(stored("Height"), "5250");
   }

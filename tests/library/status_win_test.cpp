@@ -7,8 +7,8 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "tests/support/plain_form_win.h"
+#include "values/runtime_error.h"
 #include "windowing/handle_text_win.h"
-#include "windowing/runtime_error.h"
 
 namespace library {
 namespace {
@@ -29,7 +29,7 @@ TEST(StatusBar, CaptionsEndInOneFullStop) {
   LIBRARY().SYSTEMMENUDESC(form, SC_MINIMIZE);
   EXPECT_EQ(bar.panel(), "Reduce the window to an icon.");
   PlainForm none("frmNone", std::span(test_support::plainFormControls).first(1));
-  EXPECT_THROW(LIBRARY().STATUSBARCAPTION(none, "x", false), windowing::RuntimeError);
+  EXPECT_THROW(LIBRARY().STATUSBARCAPTION(none, "x", false), values::RuntimeError);
 }
 
 // Whole rows that the open list shows.
@@ -60,7 +60,7 @@ TEST(Combos, OpenTallEnoughAndStayClosedAsTheyWere) {
   EXPECT_EQ(combo.pixels().right, after.right + 40);
   for (const char* count : {"", "many", "99999999999"})
     EXPECT_THROW(LIBRARY().COMBOINIT(handleText(combo.handle()), count, combo, false),
-                 windowing::RuntimeError);
+                 values::RuntimeError);
 }
 
 TEST(Combos, FlatHelpersOutliveTheirWindow) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 using namespace library;
 
@@ -23,7 +23,7 @@ TEST(TextUtilities, TokensAndPieces) {
     EXPECT_EQ(piece(row.text, ';', row.number), row.value) << row.text << " " << row.number;
   const std::string longText = std::string(32765, ' ') + ";7";
   EXPECT_EQ(piece(longText, ';', 2), 7);
-  EXPECT_THROW((void)piece(longText + "1", ';', 2), windowing::RuntimeError);
+  EXPECT_THROW((void)piece(longText + "1", ';', 2), values::RuntimeError);
 }
 
 TEST(TextUtilities, NumberFormats) {
@@ -79,7 +79,7 @@ TEST(TextUtilities, AmountKeysAndComboHeights) {
   EXPECT_EQ(currencyKey("1.5", '.'), 0);
   for (const int key : {44, 45, 97, 47, 58, 13}) EXPECT_EQ(currencyKey("15", key), 0) << key;
   EXPECT_EQ(comboListHeight("15", 13), 221);
-  EXPECT_THROW((void)comboListHeight("many", 13), windowing::RuntimeError);
+  EXPECT_THROW((void)comboListHeight("many", 13), values::RuntimeError);
 }
 
 TEST(TextUtilities, WebAddresses) {

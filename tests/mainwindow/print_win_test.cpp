@@ -7,12 +7,12 @@
 #include <optional>
 
 #include "library/identifiers.h"
+#include "paper/print_dialog_win.h"
+#include "paper/printer_win.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/short_memory_win.h"
-#include "windowing/print_dialog_win.h"
-#include "windowing/printer_win.h"
 
 namespace {
 
@@ -22,8 +22,8 @@ using test_support::TestPrinters;
 class PrintingContacts : public test_support::MainWindowTest {
  protected:
   PrintingContacts() {
-    windowing::printer().select(TestPrinters::a4);
-    windowing::printer().select(TestPrinters::letter);
+    paper::printer().select(TestPrinters::a4);
+    paper::printer().select(TestPrinters::letter);
   }
   void press(int button) {
     TestPrinters::clearJobs();
@@ -44,7 +44,7 @@ class PrintingContacts : public test_support::MainWindowTest {
 
   std::optional<TestPrinters> printers_{std::in_place};
   int asked_ = 0;
-  windowing::Replaced<std::function<BOOL(PRINTDLGA&)>> dialog_{windowing::printDialogSeam(),
+  windowing::Replaced<std::function<BOOL(PRINTDLGA&)>> dialog_{paper::printDialogSeam(),
                                                                [this](PRINTDLGA&) -> BOOL {
                                                                  ++asked_;
                                                                  return TRUE;

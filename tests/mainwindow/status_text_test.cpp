@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 using namespace mainwindow;
 
@@ -27,5 +27,5 @@ TEST(StatusText, HeightOfWhatIsShown) {
   EXPECT_EQ(innerHeight({{0.25}, {100}, {1000}, {0.25}}), 1190);
   EXPECT_EQ(innerHeight({{0.5}, {101}, {1000}, {0}}), 1192);
   EXPECT_EQ(windowHeight({{0}, {0}, {31977}, {0}}), 32767);
-  EXPECT_THROW((void)windowHeight({{0}, {0}, {31978}, {0}}), windowing::RuntimeError);
+  EXPECT_THROW((void)windowHeight({{0}, {0}, {31978}, {0}}), values::RuntimeError);
 }

@@ -10,10 +10,10 @@
 
 #include "library/identifiers.h"
 #include "library/modLibrary_win.h"
+#include "paper/printer_win.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/printers_win.h"
 #include "windowing/modal_win.h"
-#include "windowing/printer_win.h"
 
 namespace pagesetup {
 namespace {
@@ -56,8 +56,8 @@ class PageSetupCommands : public test_support::MainWindowTest {
 
 TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
   const TestPrinters printers;
-  windowing::printer().select(TestPrinters::a4);
-  windowing::printer().select(TestPrinters::letter);
+  paper::printer().select(TestPrinters::a4);
+  paper::printer().select(TestPrinters::letter);
   for (const auto& [command, tab] : {std::pair{id::PAGESETUP, 0}, {id::HEADERFOOTER, 1}}) {
     std::string whileLoading;
     HCURSOR pointer = nullptr;
@@ -86,7 +86,7 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
 }
 
 TEST_F(PageSetupCommands, WithoutAPrinterTheUserIsToldAndTheMarginsCanBeSet) {
-  ASSERT_TRUE(windowing::printerNames().empty());
+  ASSERT_TRUE(paper::printerNames().empty());
   runAndLook(id::PAGESETUP, [](const windowing::Form& setup) {
     EXPECT_EQ(setup.control(id::psetup::CBOPRINTERS).send(CB_GETCOUNT), 0);
     EXPECT_EQ(setup.control(id::psetup::UDNLEFT).text(), "1.0");

@@ -13,18 +13,18 @@
 #include "library/modLibrary_win.h"
 #include "pagesetup/paper_table.h"
 #include "pagesetup/stored_options_win.h"
+#include "paper/printer_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/scratch_registry_win.h"
-#include "windowing/printer_win.h"
 #include "windowing/seams_win.h"
 
 namespace pagesetup {
 namespace {
 
+using paper::Orientation;
+using paper::printer;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
-using windowing::Orientation;
-using windowing::printer;
 namespace id = library::id::psetup;
 
 constexpr char marginKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items";
@@ -148,7 +148,7 @@ TEST_F(PageSetup, FirstLoadShowsThePrinterAndChoosesNothing) {
             "Tellary Report.|Ann Bee|Untitled|");
   EXPECT_EQ(texts({id::TXTHEADDATE, id::TXTHEADTIME}), "12/12/2002|12:00:00 pm|");
   EXPECT_FALSE(accepts());
-  EXPECT_EQ(printer().scaleMode(), windowing::PrinterScale::pixels);
+  EXPECT_EQ(printer().scaleMode(), paper::PrinterScale::pixels);
   EXPECT_EQ(remembered(), "1||");
   EXPECT_EQ(stored(), "-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|");
 }
@@ -353,7 +353,7 @@ TEST_F(PageSetup, BoxesLeadTheirItemsAndAllChangesEnableOK) {
   // Colour behind a text that takes no input.
   const auto colour = [this](int box) {
     const HWND text = form_.control(box).handle();
-    const windowing::WindowDc dc(text);
+    const values::WindowDc dc(text);
     SendMessageA(GetParent(text), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.get()),
                  reinterpret_cast<LPARAM>(text));
     return GetBkColor(dc.get());

@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace pagesetup {
 namespace {
@@ -124,8 +124,8 @@ TEST(HeaderAndFooter, OverflowInSixteenBits) {
     bool overflowed = false;
     try {
       (void)headerAndFooter(defaults(), page, isLeadByte);
-    } catch (const windowing::RuntimeError& error) {
-      overflowed = error.number() == windowing::ErrorNumber::overflow;
+    } catch (const values::RuntimeError& error) {
+      overflowed = error.number() == values::ErrorNumber::overflow;
     }
     EXPECT_EQ(overflowed, c.overflows) << &c - cases;
   }
@@ -138,7 +138,7 @@ TEST(HeaderAndFooter, OverflowInSixteenBits) {
   options = {};
   options[Option::footer] = "1";
   page.height = 32767 + 1441;
-  EXPECT_THROW((void)headerAndFooter(options, page, isLeadByte), windowing::RuntimeError)
+  EXPECT_THROW((void)headerAndFooter(options, page, isLeadByte), values::RuntimeError)
       << "the base itself has 16 bits";
 }
 

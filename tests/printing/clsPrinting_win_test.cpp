@@ -5,26 +5,26 @@
 #include <algorithm>
 
 #include "library/settings_text.h"
+#include "paper/printer_win.h"
 #include "printing/compose_report_win.h"
 #include "printing/frmPPrev_win.h"
 #include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/recording_win.h"
 #include "tests/support/scratch_registry_win.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
-#include "windowing/printer_win.h"
-#include "windowing/runtime_error.h"
 
 namespace printing {
 namespace {
 
+using paper::printer;
+using paper::RichTextBox;
 using test_support::JobPage;
 using test_support::pagesOf;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
-using windowing::printer;
 using windowing::Replaced;
-using windowing::RichTextBox;
 
 std::string lines(int last) {
   std::string text;
@@ -85,7 +85,7 @@ class Printing : public testing::Test {
   std::vector<JobPage> printAfter(std::function<BOOL(PRINTDLGA&)> answer,
                                   const RichTextBox* source = nullptr) {
     TestPrinters::clearJobs();
-    const Replaced dialog(windowing::printDialogSeam(), std::move(answer));
+    const Replaced dialog(paper::printDialogSeam(), std::move(answer));
     engine_.PRINTDOCUMENT(thePreview(), source != nullptr ? *source : RTF1_, false);
     return pagesOf(TestPrinters::letterJob());
   }
@@ -246,9 +246,9 @@ TEST_F(Printing, RecoversFromCancellingAndFromAPrinterThatFails) {
 
 TEST_F(Printing, GoesToThePrinterThatWasChosen) {
   RTF1_.setPlain(lines(112));
-  windowing::Printer other;
+  paper::Printer other;
   other.select(TestPrinters::a4);
-  other.setOrientation(windowing::Orientation::landscape);
+  other.setOrientation(paper::Orientation::landscape);
   EXPECT_EQ(print().size(), 2U);
   const std::vector<JobPage> onLetter = printAfter([&](PRINTDLGA& dialog) -> BOOL {
     printer().adopt(other.name(), *reinterpret_cast<const DEVMODEA*>(other.settings().data()));
@@ -331,7 +331,7 @@ TEST_F(Printing, ComposesTheReport) {
 }
 
 TEST(PrintingWithoutPrinter, IsSilent) {
-  ASSERT_TRUE(windowing::printerNames().empty());
+  ASSERT_TRUE(paper::printerNames().empty());
   clsPrinting engine(thePreview());
   const test_support::ScratchRegistry settings;
   EXPECT_NO_THROW(engine.PRINTDOCUMENT(thePreview(), thePreview().RTF3(), true));

@@ -6,24 +6,24 @@
 
 #include "library/identifiers.h"
 #include "library/settings_text.h"
+#include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
 #include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/recording_win.h"
 #include "tests/support/scratch_registry_win.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
-#include "windowing/printer_win.h"
-#include "windowing/runtime_error.h"
 #include "windowing/screen_win.h"
 
 namespace printing {
 namespace {
 
+using paper::printer;
 using test_support::JobPage;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 using windowing::ComboBox;
-using windowing::printer;
 using windowing::screenPixels;
 using windowing::screenTwips;
 namespace id = library::id::preview;
@@ -123,7 +123,7 @@ class Preview : public testing::Test {
   TestPrinters printers_;
   ScratchRegistry settings_;
   HWND window_ = nullptr;
-  windowing::RichTextBox RTF1_{"RTF1"};
+  paper::RichTextBox RTF1_{"RTF1"};
 };
 
 TEST_F(Preview, OpensAtTheFirstPageAndHalfSize) {
@@ -415,7 +415,7 @@ TEST_F(Preview, ShowsTheWordsWhereTheyArePrintedAtEveryZoom) {
     for (int zoom = id::ZOOM200; zoom <= id::ZOOMWP; ++zoom) {
       thePreview().runCommand(zoom);
       view.scrollTo({0, 0});
-      const windowing::WindowDc shown(view.handle());
+      const values::WindowDc shown(view.handle());
       const RECT page = view.pagePixels();
       const double scale = (page.bottom - page.top) / 6600.0;
       // Darkest of what is shown of a part of the page, from 0 black to 255 white.
@@ -446,7 +446,7 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
   preview([&] {
     frmPPrev& form = thePreview();
     int dialogs = 0;
-    const windowing::Replaced dialog(windowing::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
+    const windowing::Replaced dialog(paper::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
       ++dialogs;
       EXPECT_EQ(+asked.hwndOwner, form.handle());
       asked.Flags |= PD_PAGENUMS;
@@ -486,12 +486,12 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
 
 TEST_F(Preview, FollowsThePrinterThatIsChosenInTheDialog) {
   RTF1_.setPlain(lines(112));
-  windowing::Printer other;
+  paper::Printer other;
   other.select(TestPrinters::a4);
-  other.setOrientation(windowing::Orientation::landscape);
+  other.setOrientation(paper::Orientation::landscape);
   preview([&] {
     EXPECT_EQ(thePreview().CBOPGNO().count(), 2);
-    const windowing::Replaced dialog(windowing::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
+    const windowing::Replaced dialog(paper::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
       printer().adopt(other.name(), *reinterpret_cast<const DEVMODEA*>(other.settings().data()));
       GlobalFree(asked.hDevMode);
       asked.hDevMode = nullptr;
@@ -521,7 +521,7 @@ TEST_F(Preview, MarginsThatDoNotFitOpenNothing) {
   for (const auto& [value, margin] :
        {std::pair{"Page Margin 2", "23"}, {"Page Margin 2", "x"}, {"Page Margin 1", "-22"}}) {
     store(value, margin);
-    EXPECT_THROW(PRINTING().PRINTPREVIEW(), windowing::RuntimeError) << margin;
+    EXPECT_THROW(PRINTING().PRINTPREVIEW(), values::RuntimeError) << margin;
     EXPECT_FALSE(thePreview().loaded());
     EXPECT_EQ(thePreview().PICSTDPAGE().dc(), nullptr) << "no page is left half drawn";
     store(value, "1");
@@ -530,7 +530,7 @@ TEST_F(Preview, MarginsThatDoNotFitOpenNothing) {
 }
 
 TEST(PreviewWithoutPrinter, TellsTheUser) {
-  ASSERT_TRUE(windowing::printerNames().empty());
+  ASSERT_TRUE(paper::printerNames().empty());
   const ScratchRegistry settings;
   std::string told;
   const windowing::Replaced box(windowing::seams().messageBox,
@@ -538,7 +538,7 @@ TEST(PreviewWithoutPrinter, TellsTheUser) {
                                   told = text;
                                   return IDOK;
                                 });
-  const windowing::RichTextBox report("RTF1");
+  const paper::RichTextBox report("RTF1");
   PRINTING().setReport(report);
   PRINTING().PRINTPREVIEW();
   EXPECT_EQ(told.rfind("There is no printer installed.", 0), 0U) << told;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace printing {
 namespace {
@@ -47,7 +47,7 @@ TEST(PreviewLayout, PagesAtAPercentage) {
   }
   // Nothing is cut off without a word where lengths leave 32 bits.
   for (const double length : {1e10, 1e30})
-    EXPECT_THROW((void)placeAtPercent({1, length}, usual, 100), windowing::RuntimeError) << length;
+    EXPECT_THROW((void)placeAtPercent({1, length}, usual, 100), values::RuntimeError) << length;
   // Single precision, as pictures have their sizes.
   EXPECT_EQ(placeAtPercent({12241, 1}, usual, 75).across.length, 12241.0F / 100 * 75);
 }

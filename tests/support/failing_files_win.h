@@ -7,8 +7,8 @@
 #include <functional>
 #include <string>
 
+#include "files/file_calls_win.h"
 #include "tests/support/scratch_folder_win.h"
-#include "windowing/file_calls_win.h"
 
 namespace support {
 
@@ -20,7 +20,7 @@ struct Failure {
 };
 
 /// Passes everything to the system but what is told to fail.
-class FailingFiles : public windowing::FileCalls {
+class FailingFiles : public files::FileCalls {
  public:
   /// Lets the call number `call` (1, 2, ...) from here fail; 0 lets none.
   void failAt(int call, const Failure& failure = {}) {

@@ -6,14 +6,14 @@
 #include <optional>
 #include <string>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace test_support {
 
 /// All bytes of a file, though others have it open; nothing when there is none.
 [[nodiscard]] inline std::optional<std::string> readFile(const std::string& path) {
   constexpr DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const windowing::FileHandle file(
+  const values::FileHandle file(
       CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
   if (!file) return std::nullopt;
   std::string bytes(GetFileSize(file.get(), nullptr), '\0');
@@ -26,8 +26,8 @@ namespace test_support {
 /// Makes or replaces a file, whatever its attributes are. False where the disk took less.
 inline bool writeFile(const std::string& path, const std::string& bytes) {
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-  const windowing::FileHandle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr,
-                                               CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  const values::FileHandle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                            FILE_ATTRIBUTE_NORMAL, nullptr));
   DWORD done = 0;
   return file &&
          WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr) &&

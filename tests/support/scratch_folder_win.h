@@ -66,7 +66,7 @@ class ScratchFolder {
   [[nodiscard]] static std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> found;
     WIN32_FIND_DATAA data{};
-    const windowing::FindHandle search(FindFirstFileA((folder + "\\*").c_str(), &data));
+    const values::FindHandle search(FindFirstFileA((folder + "\\*").c_str(), &data));
     if (search) do {
         const std::string name = data.cFileName;
         if (name != "." && name != "..") found.push_back(name);

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 #include "windowing/seams_win.h"
 
 namespace test_support {
@@ -52,7 +52,7 @@ class ScratchRegistry {
     if (RegCreateKeyExA(root, key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &opened, nullptr) !=
         ERROR_SUCCESS)
       throw std::runtime_error("no scratch key " + key);
-    const windowing::RegistryKey owner(opened);
+    const values::RegistryKey owner(opened);
     if (RegSetValueExA(opened, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(bytes.data()),
                        static_cast<DWORD>(bytes.size())) != ERROR_SUCCESS)
       throw std::runtime_error("no scratch value " + name);
@@ -68,7 +68,7 @@ class ScratchRegistry {
     HKEY opened = nullptr;
     if (RegOpenKeyExA(root, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
       return std::nullopt;
-    const windowing::RegistryKey owner(opened);
+    const values::RegistryKey owner(opened);
     RawValue value;
     DWORD size = 0;
     if (RegQueryValueExA(opened, name.c_str(), nullptr, &value.type, nullptr, &size) !=
@@ -112,17 +112,17 @@ class ScratchRegistry {
     [[nodiscard]] LSTATUS result() const { return result_; }
 
    private:
-    windowing::RegistryKey key_;
+    values::RegistryKey key_;
     LSTATUS result_ = ERROR_SUCCESS;
   };
 
  private:
-  [[nodiscard]] windowing::RegistryKey make(const char* name) const {
+  [[nodiscard]] values::RegistryKey make(const char* name) const {
     HKEY key = nullptr;
     if (RegCreateKeyExA(HKEY_CURRENT_USER, (path_ + "\\" + name).c_str(), 0, nullptr, 0,
                         KEY_ALL_ACCESS, nullptr, &key, nullptr) != ERROR_SUCCESS)
       throw std::runtime_error("no scratch registry");
-    return windowing::RegistryKey(key);
+    return values::RegistryKey(key);
   }
   [[nodiscard]] HKEY mapped(HKEY root) const {
     if (root == HKEY_CLASSES_ROOT) return classes();
@@ -132,7 +132,7 @@ class ScratchRegistry {
   }
 
   std::string path_;
-  windowing::RegistryKey classes_, user_, machine_;
+  values::RegistryKey classes_, user_, machine_;
   std::optional<windowing::Replaced<std::function<HKEY(HKEY)>>> mapped_;
 };
 

@@ -8,9 +8,9 @@
 #include <utility>
 
 #include "tests/support/plain_form_win.h"
-#include "windowing/runtime_error.h"
+#include "values/runtime_error.h"
+#include "values/system_error_win.h"
 #include "windowing/seams_win.h"
-#include "windowing/system_error_win.h"
 
 namespace {
 
@@ -45,13 +45,13 @@ TEST_F(Forms, TheProgramEndsHoweverItsWindowIsClosed) {
 }
 
 TEST(Errors, AreReportedByNumberAndInWords) {
-  const windowing::ErrorNumber memory = windowing::ErrorNumber::outOfMemory;
+  const values::ErrorNumber memory = values::ErrorNumber::outOfMemory;
   const std::pair<std::shared_ptr<std::exception>, std::string> rows[] = {
       {std::make_shared<std::bad_alloc>(), "Run-time error 7:\r\n\r\nOut of memory"},
       {std::make_shared<std::length_error>("text"), "Run-time error 7:\r\n\r\nOut of memory"},
-      {std::make_shared<windowing::RuntimeError>(memory, "Out of memory here"),
+      {std::make_shared<values::RuntimeError>(memory, "Out of memory here"),
        "Run-time error 7:\r\n\r\nOut of memory here"},
-      {std::make_shared<windowing::RuntimeError>(windowing::systemError(ERROR_OUTOFMEMORY)),
+      {std::make_shared<values::RuntimeError>(values::systemError(ERROR_OUTOFMEMORY)),
        "Run-time error 7:\r\n\r\nOut of memory"},
       {std::make_shared<std::runtime_error>("text"), "text"}};
   for (const auto& [error, told] : rows) {
@@ -158,7 +158,7 @@ class TroubledForm : public windowing::Form {
 
  protected:
   HWND createCustom(const windowing::ControlDesign& design, HWND container, const RECT&) override {
-    if (troubled) throw windowing::RuntimeError(windowing::ErrorNumber::outOfMemory, "");
+    if (troubled) throw values::RuntimeError(values::ErrorNumber::outOfMemory, "");
     return CreateWindowA("STATIC", "", WS_CHILD, 0, 0, 9, 9, container,
                          reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)), nullptr,
                          nullptr);
@@ -177,10 +177,10 @@ TEST(FormInTrouble, HasAllOfItsControlsOrNone) {
   constexpr int page[] = {1};
   TroubledForm late(page), whole({});
   late.load();
-  EXPECT_THROW(late.makeLateControls(), windowing::RuntimeError);
+  EXPECT_THROW(late.makeLateControls(), values::RuntimeError);
   EXPECT_EQ(GetWindow(late.control(1).handle(), GW_CHILD), nullptr);
   EXPECT_EQ(late.control(2).handle(), nullptr);
-  EXPECT_THROW(whole.load(), windowing::RuntimeError);
+  EXPECT_THROW(whole.load(), values::RuntimeError);
   EXPECT_FALSE(whole.loaded());
   late.troubled = whole.troubled = false;
   late.makeLateControls();

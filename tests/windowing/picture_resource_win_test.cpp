@@ -6,7 +6,7 @@
 
 #include "library/images.h"
 #include "library/resource_ids.h"
-#include "windowing/handles_win.h"
+#include "values/handles_win.h"
 
 namespace windowing {
 namespace {
@@ -14,7 +14,8 @@ namespace {
 TEST(PictureResource, EveryResolutionHasAPictureForEachCommand) {
   const int ids[] = {IDB_TOOLBAR16, IDB_TOOLBAR20, IDB_TOOLBAR24, IDB_TOOLBAR32};
   for (std::size_t i = 0; i < library::imageSizes.size(); ++i) {
-    const BitmapHandle bitmap(loadPicture(GetModuleHandleA(nullptr), ids[i], Alpha::straight));
+    const values::BitmapHandle bitmap(
+        loadPicture(GetModuleHandleA(nullptr), ids[i], Alpha::straight));
     ASSERT_TRUE(bitmap);
     BITMAP facts{};
     GetObjectA(bitmap.get(), sizeof facts, &facts);

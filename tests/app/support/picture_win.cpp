@@ -14,12 +14,12 @@ std::string bytesOf(const T& value) {
 // Pixels of a part of the screen from the bottom row up, as bytes.
 std::string pixelsOf(const RECT& place, const BITMAPINFO& info) {
   const LONG width = info.bmiHeader.biWidth, height = info.bmiHeader.biHeight;
-  const windowing::WindowDc screen(nullptr);
-  const windowing::MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const values::WindowDc screen(nullptr);
+  const values::MemoryDc memory(CreateCompatibleDC(screen.get()));
   void* bits = nullptr;
-  const windowing::BitmapHandle bitmap(
+  const values::BitmapHandle bitmap(
       CreateDIBSection(memory.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-  const windowing::Selected selected(memory.get(), bitmap.get());
+  const values::Selected selected(memory.get(), bitmap.get());
   BitBlt(memory.get(), 0, 0, width, height, screen.get(), place.left, place.top, SRCCOPY);
   GdiFlush();
   return {static_cast<const char*>(bits),

@@ -1,0 +1,98 @@
+#include "files/save_target_win.h"
+
+#include "files/file_writing_win.h"
+#include "values/system_error_win.h"
+
+namespace files {
+namespace {
+
+// Empty where the code page lacks a letter of it.
+std::string inCodePage(const std::wstring& wide) {
+  const auto size = static_cast<int>(wide.size());
+  std::string text(4 * wide.size() + 1, '\0');
+  text.resize(static_cast<std::size_t>(WideCharToMultiByte(
+      CP_ACP, 0, wide.data(), size, text.data(), static_cast<int>(text.size()), nullptr, nullptr)));
+  std::wstring back(wide.size() + 1, L'\0');
+  back.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), back.data(),
+                          static_cast<int>(back.size()))));
+  return back == wide ? text : std::string();
+}
+
+bool isLink(const std::string& path, FileCalls& calls) {
+  const DWORD own = calls.attributes(path);
+  return own != INVALID_FILE_ATTRIBUTES && (own & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+void followLinks(HANDLE file, SaveTarget& target, FileCalls& calls) {
+  std::wstring name;
+  if (calls.finalName(file, name)) {
+    const std::string plain = plainName(name);
+    target.reachable = !plain.empty();
+    if (target.reachable) target.path = plain;
+  } else {
+    // Some drives know no such names. There, a file is where it says unless it is a link.
+    target.reachable = !isLink(target.path, calls);
+  }
+}
+
+void describe(HANDLE file, SaveTarget& target, FileCalls& calls) {
+  BY_HANDLE_FILE_INFORMATION facts{};
+  if (!calls.information(file, facts)) values::raiseLastError();
+  target.exists = true;
+  target.attributes = facts.dwFileAttributes;
+  target.links = facts.nNumberOfLinks;
+  target.lastWrite = facts.ftLastWriteTime;
+}
+
+// A new file, gone at once, tells where a link leads that has nothing at its end.
+void findMissing(SaveTarget& target, FileCalls& calls) {
+  const OpenFile probe(calls.probe(target.path), calls);
+  if (probe.valid()) {
+    followLinks(probe.handle(), target, calls);
+    // The folder's full name may have letters that the code page lacks; its short name serves.
+    target.reachable = target.reachable || !isLink(target.path, calls);
+    return;
+  }
+  if (GetLastError() != ERROR_FILE_EXISTS) return;
+  // Wine does not show such a link, and lets nothing new take its place, but follows it.
+  OpenFile file(calls.open(target.path, GENERIC_WRITE, OPEN_ALWAYS), calls);
+  if (!file.valid()) values::raiseLastError();
+  const bool made = GetLastError() != ERROR_ALREADY_EXISTS;
+  const std::string link = target.path;
+  followLinks(file.handle(), target, calls);
+  target.made = made && target.path != link;
+  Temporary undo(target.made ? target.path : std::string(), calls);
+  describe(file.handle(), target, calls);
+  file.close();
+  undo.keep();
+}
+
+}  // namespace
+
+std::string plainName(const std::wstring& name) {
+  constexpr std::wstring_view share = L"\\\\?\\UNC\\";
+  constexpr std::wstring_view drive = L"\\\\?\\";
+  std::string plain;
+  if (name.starts_with(share))
+    plain = inCodePage(L"\\\\" + name.substr(share.size()));
+  else if (name.starts_with(drive) && name.find(L':') == drive.size() + 1)
+    plain = inCodePage(name.substr(drive.size()));
+  return plain.size() < MAX_PATH ? plain : std::string();
+}
+
+SaveTarget findSaveTarget(const std::string& path, FileCalls& calls) {
+  SaveTarget target{path};
+  const OpenFile file(calls.open(path, FILE_READ_ATTRIBUTES, OPEN_EXISTING), calls);
+  if (file.valid()) {
+    describe(file.handle(), target, calls);
+    followLinks(file.handle(), target, calls);
+  } else if (GetLastError() == ERROR_FILE_NOT_FOUND) {
+    findMissing(target, calls);
+  } else {
+    values::raiseLastError();
+  }
+  return target;
+}
+
+}  // namespace files

@@ -1,0 +1,64 @@
+// The picture of a whole page, kept as a recording of what was drawn, so that it can be shown
+// sharp at any size.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+
+#include "paper/text_format.h"
+#include "values/handles_win.h"
+
+namespace paper {
+
+struct MetafileTraits {
+  using Type = HENHMETAFILE;
+  static Type empty() { return nullptr; }
+  static void free(Type handle) { DeleteEnhMetaFile(handle); }
+};
+using MetafileHandle = values::UniqueHandle<MetafileTraits>;
+
+class PixelSurface;
+
+class PagePicture {
+ public:
+  PagePicture();
+  PagePicture(const PagePicture&) = delete;
+  PagePicture& operator=(const PagePicture&) = delete;
+  ~PagePicture();
+
+  /// Size in twips. What was drawn before stays until the next `begin`.
+  void resize(double width, double height);
+  [[nodiscard]] double width() const { return width_; }
+  [[nodiscard]] double height() const { return height_; }
+
+  /// Begins with blank paper, in the device coordinates of `reference`; the origin is the
+  /// paper's corner. Raises when the system has no room for it.
+  void begin(HDC reference);
+  /// Device context to draw on, between `begin` and `finish`; null otherwise.
+  [[nodiscard]] HDC dc() const { return dc_; }
+  void finish();
+
+  /// Shows the picture, smoothly scaled, on white paper that fills `place`.
+  void draw(HDC device, const RECT& place) const;
+  /// The same, but only as much of it as lies in `part`.
+  void draw(HDC device, const RECT& place, const RECT& part) const;
+  /// What was drawn; null while nothing was.
+  [[nodiscard]] HENHMETAFILE recording() const { return recording_.get(); }
+
+  /// Format of texts that the program itself writes on the picture.
+  [[nodiscard]] const TextFormat& font() const { return font_; }
+  void setFont(const TextFormat& font) { font_ = font; }
+
+ private:
+  [[nodiscard]] PixelSurface* surface(const SIZE& size) const;
+
+  double width_ = 0;
+  double height_ = 0;
+  HDC dc_ = nullptr;
+  MetafileHandle recording_;
+  TextFormat font_;
+  mutable std::unique_ptr<PixelSurface> surface_;  ///< what drawing scales down from
+};
+
+}  // namespace paper
