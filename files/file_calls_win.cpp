@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "values/handles_win.h"
+#include "values/wine_win.h"
 
 namespace files {
 namespace {
@@ -14,12 +15,6 @@ std::vector<char> descriptorOf(const std::string& path, SECURITY_INFORMATION par
   if (needed == 0 || !GetFileSecurityA(path.c_str(), parts, descriptor.data(), needed, &needed))
     descriptor.clear();
   return descriptor;
-}
-
-bool isWine() {
-  static const bool wine =
-      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
-  return wine;
 }
 
 }  // namespace
@@ -117,7 +112,8 @@ std::string FileCalls::security(const std::string& path) {
 bool FileCalls::copySecurity(const std::string& from, const std::string& to) {
   std::vector<char> descriptor = descriptorOf(from, DACL_SECURITY_INFORMATION);
   if (descriptor.empty()) return false;
-  if (!isWine()) return SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data());
+  if (!values::onWine())
+    return SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data());
   // What an owner may do who is the user Wine gives to the host's group as well: 0600 would
   // become 0770. With an owner who is not, it is 0700, whoever really owns the file.
   PACL list = nullptr;
@@ -136,7 +132,7 @@ bool FileCalls::copySecurity(const std::string& from, const std::string& to) {
 }
 
 bool FileCalls::securityIsWhole() {
-  return !isWine();
+  return !values::onWine();
 }
 
 bool FileCalls::hasStreams(const std::string& path) {

@@ -9,6 +9,7 @@
 #include "library/text_utilities.h"
 #include "values/runtime_error.h"
 #include "values/system_error_win.h"
+#include "values/wine_win.h"
 #include "windowing/application_win.h"
 #include "windowing/handle_text_win.h"
 #include "windowing/modal_win.h"
@@ -28,10 +29,9 @@ DWORD attributesOf(const std::string& path) {
 // Path lengths are the shell's concern. But Wine's copies paths into buffers of this size, and a
 // longer one would end the program.
 bool shellSurvives(const std::string& path) {
-  static const bool isWine =
-      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
   const int bytes = static_cast<int>(path.size());
-  return !isWine || MultiByteToWideChar(CP_ACP, 0, path.data(), bytes, nullptr, 0) < MAX_PATH;
+  return !values::onWine() ||
+         MultiByteToWideChar(CP_ACP, 0, path.data(), bytes, nullptr, 0) < MAX_PATH;
 }
 
 // The only flag is the one for undoing, so the shell asks, shows its progress and reports itself;

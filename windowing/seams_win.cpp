@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "values/runtime_error.h"
+#include "values/wine_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/shell_win.h"
 
@@ -60,9 +61,7 @@ std::optional<std::string> askForFile(HWND owner, const FileDialog& wanted) {
 // fixed size, and a longer one would end the program.
 bool shellSurvives(const std::string& file) {
   constexpr std::size_t longest = 960;
-  static const bool isWine =
-      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
-  return !isWine || file.size() <= longest;
+  return !values::onWine() || file.size() <= longest;
 }
 
 Seams realSeams() {

@@ -1,0 +1,15 @@
+// Whether this is Wine: the few repairs that only Wine needs ask here.
+#pragma once
+
+#include <windows.h>
+
+namespace values {
+
+/// Wine is known by an export of its own.
+[[nodiscard]] inline bool onWine() {
+  static const bool wine =
+      GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+  return wine;
+}
+
+}  // namespace values
