@@ -12,7 +12,7 @@
 #include "paper/printer_win.h"
 #include "paper/richtextbox_win.h"
 #include "printing/compose_report_win.h"
-#include "printing/print_host_win.h"
+#include "printing/print_form_win.h"
 #include "tests/support/printers_win.h"
 
 namespace bench {
@@ -45,8 +45,8 @@ class Paper {
   Paper& operator=(const Paper&) = delete;
   ~Paper() { DestroyWindow(window_); }
 
-  void compose(const document::ContactRecord& contact, printing::PrintHost& host) {
-    printing::composeReport(contact, report, host.RTF3());
+  void compose(const document::ContactRecord& contact, printing::PrintForm& form) {
+    printing::composeReport(contact, report, form.RTF3());
   }
 
   paper::RichTextBox report{"RTF1"};

@@ -147,7 +147,7 @@ void drawWords(HDC dc, const RECT& place, const MenuItemLook& look, UINT state, 
   area.right -= scaled(rightMargin);
   constexpr UINT line = DT_SINGLELINE | DT_VCENTER;
   if ((state & noAccessKeys) != 0) {
-    // Not left to DT_HIDEPREFIX, which not every system obeys.
+    // Not left to DT_HIDEPREFIX: Wine underlines the letters all the same.
     const std::string bare = spokenText(words);
     DrawTextA(dc, bare.c_str(), -1, &area, line | DT_LEFT | DT_NOPREFIX);
   } else {

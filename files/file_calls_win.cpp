@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "files/wine/unix_permissions_win.h"
 #include "values/handles_win.h"
 #include "values/wine_win.h"
 
@@ -113,22 +114,8 @@ bool FileCalls::copySecurity(const std::string& from, const std::string& to) {
   std::vector<char> descriptor = descriptorOf(from, DACL_SECURITY_INFORMATION);
   if (descriptor.empty()) return false;
   if (!values::onWine())
-    return SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data());
-  // What an owner may do who is the user Wine gives to the host's group as well: 0600 would
-  // become 0770. With an owner who is not, it is 0700, whoever really owns the file.
-  PACL list = nullptr;
-  BOOL present = FALSE;
-  BOOL defaulted = FALSE;
-  GetSecurityDescriptorDacl(descriptor.data(), &present, &list, &defaulted);
-  char system[SECURITY_MAX_SID_SIZE] = {};
-  DWORD size = sizeof system;
-  SECURITY_DESCRIPTOR strict{};
-  return CreateWellKnownSid(WinLocalSystemSid, nullptr, system, &size) &&
-         InitializeSecurityDescriptor(&strict, SECURITY_DESCRIPTOR_REVISION) &&
-         SetSecurityDescriptorDacl(&strict, present, list, FALSE) &&
-         SetSecurityDescriptorOwner(&strict, system, FALSE) &&
-         SetFileSecurityA(to.c_str(), OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION,
-                          &strict);
+    return SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data()) != FALSE;
+  return wine::setAccessControl(to, descriptor.data());
 }
 
 bool FileCalls::securityIsWhole() {

@@ -36,11 +36,11 @@ class FileCalls {
   virtual bool close(HANDLE file);
   /// Owner and access control as bytes to compare; empty where the file system has neither.
   virtual std::string security(const std::string& path);
-  /// Gives `to` the access control of `from`. On Wine never more than that to the host's group,
+  /// Gives `to` the access control of `from`. On Wine never more than that to the Unix group,
   /// sometimes less.
   virtual bool copySecurity(const std::string& from, const std::string& to);
-  /// Whether `security` tells all. Wine makes it up from the permission bits of the host's file
-  /// and leaves out the group's, its owning group, and what else the host knows.
+  /// Whether `security` tells all. Wine makes it up from the permission bits of the Unix file and
+  /// leaves out the group's, its owning group, and what else Unix knows.
   virtual bool securityIsWhole();
   /// Whether the file has streams besides its content.
   virtual bool hasStreams(const std::string& path);

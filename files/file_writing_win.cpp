@@ -8,7 +8,7 @@ void OpenFile::write(std::string_view data) {
   const auto size = static_cast<DWORD>(data.size());
   DWORD done = 0;
   if (size != 0 && !calls_.write(file_, data.data(), size, done)) values::raiseLastError();
-  // A full disk may report success and a short count.
+  // On Wine a full disk reports success and a short count.
   if (done != size) throw values::systemError(ERROR_DISK_FULL);
 }
 

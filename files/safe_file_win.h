@@ -14,7 +14,7 @@ namespace files {
 /// step: whatever happens, the whole old or the whole new content stands under the name.
 ///
 /// Where more hangs on the old file than a new one can take over (other names, streams,
-/// encryption, an owner; on Wine the host's permissions) the old file is kept under a second
+/// encryption, an owner; on Wine the Unix permissions) the old file is kept under a second
 /// name meanwhile, is given the new content once that stands under the name, and replaces the
 /// temporary file in turn. Only where nothing can be put beside it, or it can have one name
 /// only, is it written in place, with a copy of the old bytes on the disk until that is done.

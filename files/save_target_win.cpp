@@ -45,17 +45,9 @@ void describe(HANDLE file, SaveTarget& target, FileCalls& calls) {
   target.lastWrite = facts.ftLastWriteTime;
 }
 
-// A new file, gone at once, tells where a link leads that has nothing at its end.
-void findMissing(SaveTarget& target, FileCalls& calls) {
-  const OpenFile probe(calls.probe(target.path), calls);
-  if (probe.valid()) {
-    followLinks(probe.handle(), target, calls);
-    // The folder's full name may have letters that the code page lacks; its short name serves.
-    target.reachable = target.reachable || !isLink(target.path, calls);
-    return;
-  }
-  if (GetLastError() != ERROR_FILE_EXISTS) return;
-  // Wine does not show such a link, and lets nothing new take its place, but follows it.
+// Wine does not show a link that has nothing at its end, and lets nothing new take its place, but
+// follows it: the file is made there.
+void findBehindLinkOnWine(SaveTarget& target, FileCalls& calls) {
   OpenFile file(calls.open(target.path, GENERIC_WRITE, OPEN_ALWAYS), calls);
   if (!file.valid()) values::raiseLastError();
   const bool made = GetLastError() != ERROR_ALREADY_EXISTS;
@@ -66,6 +58,18 @@ void findMissing(SaveTarget& target, FileCalls& calls) {
   describe(file.handle(), target, calls);
   file.close();
   undo.keep();
+}
+
+// A new file, gone at once, tells where a link leads that has nothing at its end.
+void findMissing(SaveTarget& target, FileCalls& calls) {
+  const OpenFile probe(calls.probe(target.path), calls);
+  if (probe.valid()) {
+    followLinks(probe.handle(), target, calls);
+    // The folder's full name may have letters that the code page lacks; its short name serves.
+    target.reachable = target.reachable || !isLink(target.path, calls);
+    return;
+  }
+  if (GetLastError() == ERROR_FILE_EXISTS) findBehindLinkOnWine(target, calls);
 }
 
 }  // namespace

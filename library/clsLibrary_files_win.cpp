@@ -9,12 +9,12 @@
 #include "library/text_utilities.h"
 #include "values/runtime_error.h"
 #include "values/system_error_win.h"
-#include "values/wine_win.h"
 #include "windowing/application_win.h"
 #include "windowing/handle_text_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/seams_win.h"
 #include "windowing/shell_win.h"
+#include "windowing/wine/shell_lengths_win.h"
 
 namespace library {
 namespace {
@@ -26,19 +26,11 @@ DWORD attributesOf(const std::string& path) {
   return plain ? GetFileAttributesA(path.c_str()) : INVALID_FILE_ATTRIBUTES;
 }
 
-// Path lengths are the shell's concern. But Wine's copies paths into buffers of this size, and a
-// longer one would end the program.
-bool shellSurvives(const std::string& path) {
-  const int bytes = static_cast<int>(path.size());
-  return !values::onWine() ||
-         MultiByteToWideChar(CP_ACP, 0, path.data(), bytes, nullptr, 0) < MAX_PATH;
-}
-
 // The only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
 // its result is not looked at.
 void shellOperation(UINT function, const std::string& from, const std::string& to) {
   const HWND owner = windowing::dialogOwner();
-  if (!shellSurvives(from) || !shellSurvives(to)) {
+  if (!windowing::wine::shellTakesPath(from) || !windowing::wine::shellTakesPath(to)) {
     windowing::seams().messageBox(owner, values::systemError(ERROR_FILENAME_EXCED_RANGE).what(),
                                   windowing::productName(), MB_OK | MB_ICONSTOP);
     return;

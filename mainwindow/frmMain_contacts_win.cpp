@@ -38,8 +38,8 @@ bool staysEmpty(const document::Field& field, const windowing::Control& box) {
   return true;
 }
 
-// Fills a box and keeps in `shown` what it gives back. False where it has not taken the text. It
-// may say that it has, and still show the one before.
+// Fills a box and keeps in `shown` what it gives back. False where it has not taken the text: on
+// Wine it says even then that it has, and shows the one before.
 bool fillBox(const windowing::Control& box, std::string_view text, std::string& shown) {
   try {
     const std::string wanted(text);

@@ -101,8 +101,8 @@ void frmMain::setDocumentPath(const std::string& path) {
   library::modLibrary().documentPath = path;
 }
 
-// A device, a file, a drive that is away or a path of nothing but dots would end the program inside
-// the system's dialog.
+// Only a folder that is there: the file dialogs of Wine end the program where they are to begin in a
+// device.
 std::string frmMain::rememberedFolder(const char* value) const {
   const std::string otherwise = LIBRARY().FILESLOCATION();
   const std::string stored = LIBRARY().REGSTRREAD(

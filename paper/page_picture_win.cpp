@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-#include "paper/smooth_shrink.h"
+#include "paper/wine/smooth_shrink.h"
 #include "values/system_error_win.h"
 #include "values/units.h"
 
@@ -13,8 +13,7 @@ namespace paper {
 namespace {
 
 // How many times finer than shown a picture is drawn before it is brought to its size: the
-// smaller it is, the more its letters need it. StretchBlt is no help: Wine leaves thin lines out
-// whatever its mode.
+// smaller it is, the more its letters need it.
 int fineness(const SIZE& shown) {
   constexpr std::int64_t mostPixels = 16'000'000;
   constexpr std::int64_t smallPage = 300'000;  // in pixels; letters are hardly more than dots
@@ -133,7 +132,7 @@ void PagePicture::draw(HDC device, const RECT& place, const RECT& part) const {
     OffsetRect(&page, (place.left - visible.left) * factor, (place.top - top) * factor);
     if (recording_) PlayEnhMetaFile(fine->dc(), recording_.get(), &page);
     GdiFlush();
-    shrinkSmoothly(fine->pixels(), fine->size().cx, coarse.pixels(), width, factor);
+    wine::shrinkSmoothly(fine->pixels(), fine->size().cx, coarse.pixels(), width, factor);
     BitBlt(device, visible.left, top, width, std::min<int>(rows, visible.bottom - top), coarse.dc(),
            0, 0, SRCCOPY);
   }

@@ -80,7 +80,7 @@ HWND RichTextBox::create(HWND container, int id, const RECT& place, DWORD style)
   if (window == nullptr) values::raiseLastError();
   windowing::Control::operator=(windowing::Control(window));
   SetWindowSubclass(window, watch, 0, reinterpret_cast<DWORD_PTR>(this));
-  installPageFormatter(window);
+  wine::installPageFormatter(window);
   constexpr LPARAM unlimited = 0x7FFFFFFE;
   send(EM_EXLIMITTEXT, 0, unlimited);
   send(EM_SETUNDOLIMIT, 0);

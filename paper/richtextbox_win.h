@@ -1,5 +1,5 @@
 // A rich text box: the system's rich edit control, whose text is formatted onto pages by the
-// message EM_FORMATRANGE, also where the system leaves that message unanswered.
+// message EM_FORMATRANGE, also on Wine, which leaves that message unanswered.
 #pragma once
 
 #include <windows.h>

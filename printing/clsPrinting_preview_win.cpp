@@ -65,17 +65,17 @@ void clsPrinting::PRINTPREVIEW() {
     preparePreview();
   } catch (...) {
     // Half a preview is none: the next one starts anew.
-    host_.discardPreview();
+    form_.discardPreview();
     throw;
   }
-  host_.showPreview();
+  form_.showPreview();
 }
 
 void clsPrinting::preparePreview() {
-  INITIALIZEPATH(host_, *report_);
+  INITIALIZEPATH(form_, *report_);
   GETMARGINS();
-  countPages(host_);
-  host_.ICONMENUS();
+  countPages(form_);
+  form_.ICONMENUS();
   fillLists();
   goToPage(1);
   ApplyZoomPercent(100);
@@ -85,18 +85,18 @@ void clsPrinting::preparePreview() {
   setZoom(zoomIndex(stored) ? std::string_view(stored) : defaultZoom);
   UpdatePageButtons();
   showPaperSize();
-  host_.restorePlace();
+  form_.restorePlace();
 }
 
 // A list shows nothing that is not in it: they are filled before anything is chosen.
 void clsPrinting::fillLists() {
-  const windowing::ComboBox pages = host_.CBOPGNO();
+  const windowing::ComboBox pages = form_.CBOPGNO();
   {
     const windowing::PaintingSuspended quiet(pages.handle());
     pages.clear();
     for (std::int32_t page = 1; page <= pageCount_; ++page) pages.add(std::to_string(page));
   }
-  const windowing::ComboBox zooms = host_.CBOPGZOOM();
+  const windowing::ComboBox zooms = form_.CBOPGZOOM();
   if (zooms.count() > 0) return;
   for (const ZoomLevel& level : zoomLevels) zooms.add(std::string(level.text));
 }
@@ -105,16 +105,16 @@ void clsPrinting::showPaperSize() {
   const auto inches = [](double twips) {
     return values::formatDecimals(twips / values::twipsPerInch, 0, 2, values::userDecimalSign());
   };
-  host_.setPaperSize(inches(printer().width()) + " x " + inches(printer().height()) + " inches");
+  form_.setPaperSize(inches(printer().width()) + " x " + inches(printer().height()) + " inches");
 }
 
 std::int32_t clsPrinting::shownPage() const {
-  return static_cast<std::int32_t>(values::leadingNumber(selectedText(host_.CBOPGNO())));
+  return static_cast<std::int32_t>(values::leadingNumber(selectedText(form_.CBOPGNO())));
 }
 
 void clsPrinting::goToPage(std::int32_t page) {
-  host_.CBOPGNO().select(page - 1);
-  PAGESEL(values::roundTo<std::int16_t>(page), host_.PICSTDPAGE());
+  form_.CBOPGNO().select(page - 1);
+  PAGESEL(values::roundTo<std::int16_t>(page), form_.PICSTDPAGE());
 }
 
 void clsPrinting::PAGESTART() {
@@ -137,9 +137,9 @@ void clsPrinting::PAGEPREVIOUS() {
 
 void clsPrinting::UpdatePageButtons() {
   const std::int32_t shown = shownPage();
-  for (const int command : {id::FIRST, id::PREVIOUS}) host_.setCommandEnabled(command, shown > 1);
+  for (const int command : {id::FIRST, id::PREVIOUS}) form_.setCommandEnabled(command, shown > 1);
   for (const int command : {id::NEXT, id::LAST})
-    host_.setCommandEnabled(command, shown < pageCount_);
+    form_.setCommandEnabled(command, shown < pageCount_);
 }
 
 // The pages that are known to begin where they do stay valid for one text on one paper with one
@@ -160,7 +160,7 @@ void clsPrinting::seekPage(std::int32_t page) {
   const auto known = static_cast<std::int32_t>(starts.size());
   currentPage_ = std::clamp(page, std::int32_t{1}, known);
   measuring_.chrg.cpMin = starts[static_cast<std::size_t>(currentPage_) - 1];
-  const paper::RichTextBox& text = host_.RTF3();
+  const paper::RichTextBox& text = form_.RTF3();
   while (currentPage_ < page && formatPage(text, measuring_)) {
     advance(measuring_);
     starts.push_back(next_);
@@ -171,15 +171,15 @@ void clsPrinting::seekPage(std::int32_t page) {
 void clsPrinting::PAGESEL(std::int16_t PAGENO, paper::PagePicture& PICTURE) {
   GETMARGINS();
   SetupPageLayout(wholeInches());
-  useText(host_.RTF3());
+  useText(form_.RTF3());
   seekPage(PAGENO);
   drawPage(PICTURE);
   UpdatePageButtons();
-  host_.PICWINDOW().showNewPicture();
+  form_.PICWINDOW().showNewPicture();
 }
 
 void clsPrinting::drawPage(paper::PagePicture& picture) {
-  const paper::RichTextBox& text = host_.RTF3();
+  const paper::RichTextBox& text = form_.RTF3();
   const BodyMargins margins = inTwips();
   const OpenPage open(picture, text);
   // Crossed as on the printer.
@@ -195,29 +195,29 @@ void clsPrinting::drawPage(paper::PagePicture& picture) {
 }
 
 void clsPrinting::setZoom(std::string_view text) {
-  host_.CBOPGZOOM().select(zoomIndex(text).value_or(0));
+  form_.CBOPGZOOM().select(zoomIndex(text).value_or(0));
   ZOOMSEL();
 }
 
 void clsPrinting::ZOOMIN() {
-  const std::string now = selectedText(host_.CBOPGZOOM());
+  const std::string now = selectedText(form_.CBOPGZOOM());
   const std::string_view next = zoomedIn(now);
   if (next != now) setZoom(next);  // brings the controls in step, too
 }
 
 void clsPrinting::ZOOMOUT() {
-  const std::string now = selectedText(host_.CBOPGZOOM());
+  const std::string now = selectedText(form_.CBOPGZOOM());
   const std::string_view next = zoomedOut(now);
   if (next != now) setZoom(next);  // brings the controls in step, too
 }
 
 void clsPrinting::ZOOMSEL() {
-  host_.placeView();
-  const std::string zoom = selectedText(host_.CBOPGZOOM());
-  const PageSize page = sizeOf(host_.PICSTDPAGE());
+  form_.placeView();
+  const std::string zoom = selectedText(form_.CBOPGZOOM());
+  const PageSize page = sizeOf(form_.PICSTDPAGE());
   // Before a page is drawn there is nothing to be zoomed.
   if (zoom.empty() || page.width <= 0) return;
-  PageView& view = host_.PICWINDOW();
+  PageView& view = form_.PICWINDOW();
   const double percent = values::leadingNumber(zoom);
   if (percent != 0) {
     ApplyZoomPercent(percent);
@@ -230,26 +230,26 @@ void clsPrinting::ZOOMSEL() {
 }
 
 void clsPrinting::ApplyZoomPercent(double percent) {
-  PageView& view = host_.PICWINDOW();
-  view.showPage(placeAtPercent(sizeOf(host_.PICSTDPAGE()), view.size(), percent));
+  PageView& view = form_.PICWINDOW();
+  view.showPage(placeAtPercent(sizeOf(form_.PICSTDPAGE()), view.size(), percent));
 }
 
 void clsPrinting::UpdateZoomControls() {
-  for (const ZoomLevel& level : zoomLevels) host_.setCommandChecked(level.command, false);
-  const auto index = zoomIndex(selectedText(host_.CBOPGZOOM()));
+  for (const ZoomLevel& level : zoomLevels) form_.setCommandChecked(level.command, false);
+  const auto index = zoomIndex(selectedText(form_.CBOPGZOOM()));
   if (!index) return;
   const ZoomLevel& level = zoomLevels[static_cast<std::size_t>(*index)];
-  host_.setCommandEnabled(id::ZOOMIN, level.canZoomIn);
-  host_.setCommandEnabled(id::ZOOMOUT, level.canZoomOut);
-  host_.setCommandChecked(level.command, true);
+  form_.setCommandEnabled(id::ZOOMIN, level.canZoomIn);
+  form_.setCommandEnabled(id::ZOOMOUT, level.canZoomOut);
+  form_.setCommandChecked(level.command, true);
 }
 
 void clsPrinting::refreshPreview() {
   const std::int32_t shown = shownPage();
   GETMARGINS();
   SetupPageLayout(wholeInches());
-  useText(host_.RTF3());
-  if (!pagesStillValid()) countPages(host_);
+  useText(form_.RTF3());
+  if (!pagesStillValid()) countPages(form_);
   fillLists();
   goToPage(std::clamp(shown, std::int32_t{1}, pageCount_));
   showPaperSize();

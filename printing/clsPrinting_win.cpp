@@ -65,7 +65,7 @@ void clsPrinting::SetupPageLayout(std::int16_t left, std::int16_t top, std::int1
   printer().setScaleMode(paper::PrinterScale::twips);
   const double width = printer().width();
   const double height = printer().height();
-  host_.PICSTDPAGE().resize(width, height);
+  form_.PICSTDPAGE().resize(width, height);
   const POINT offset = printer().physicalOffset();
   offsetX_ = roundTo<std::int16_t>(offset.x * printer().twipsPerPixelX());
   offsetY_ = roundTo<std::int16_t>(offset.y * printer().twipsPerPixelY());
@@ -84,7 +84,7 @@ void clsPrinting::INITIALIZEPATH(DialogForm& FORM, const RichTextBox& SOURCE) {
   const bool everything = SOURCE.selection().length == 0;
   dialogFlags_ = everyPrint | (everything ? PD_NOSELECTION : PD_SELECTION);
   FORM.CMD1().flags = dialogFlags_;
-  RichTextBox& text = host_.RTF3();
+  RichTextBox& text = form_.RTF3();
   text.setRichText(everything ? SOURCE.richText() : SOURCE.selectedRichText());
   useText(text);
   forgetPages();
@@ -112,7 +112,7 @@ void clsPrinting::release(const RichTextBox& box) const {
 std::int32_t clsPrinting::PAGECOUNT(DialogForm& FORM, int, std::int16_t LEFT, std::int16_t TOP,
                                     std::int16_t RIGHT, std::int16_t BOTTOM) {
   SetupPageLayout(LEFT, TOP, RIGHT, BOTTOM);
-  const RichTextBox& text = host_.RTF3();
+  const RichTextBox& text = form_.RTF3();
   // What was printed last may have been a part of this text.
   useText(text);
   forgetPages();
@@ -148,8 +148,8 @@ void clsPrinting::PRINTDOCUMENT(DialogForm& FORM, const RichTextBox& SOURCE, boo
   } catch (const std::exception&) {
     // Deliberately silent. What has reached the printing system is left to it.
     printer().abandonDocument();
-    release(host_.RTF2());
-    release(host_.RTF3());
+    release(form_.RTF2());
+    release(form_.RTF3());
   }
 }
 
@@ -184,8 +184,8 @@ void clsPrinting::askUser(DialogForm& form) {
 
 // Copies the text of the pages from..to of RTF3 into RTF2.
 void clsPrinting::takePages(std::int32_t from, std::int32_t to) {
-  RichTextBox& text = host_.RTF3();
-  RichTextBox& pages = host_.RTF2();
+  RichTextBox& text = form_.RTF3();
+  RichTextBox& pages = form_.RTF2();
   useText(text);
   std::int32_t page = 1;
   std::int32_t start = 0;
@@ -206,7 +206,7 @@ void clsPrinting::takePages(std::int32_t from, std::int32_t to) {
 }
 
 void clsPrinting::sendPages() {
-  const RichTextBox& text = host_.RTF2();
+  const RichTextBox& text = form_.RTF2();
   const BodyMargins margins = inTwips();
   printer().startOutput();
   for (std::int32_t page = 1;; ++page) {
@@ -220,7 +220,7 @@ void clsPrinting::sendPages() {
   }
   printer().endDocument();
   release(text);
-  release(host_.RTF3());
+  release(form_.RTF3());
 }
 
 clsPrinting& PRINTING() {

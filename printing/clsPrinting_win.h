@@ -10,13 +10,13 @@
 #include <string_view>
 #include <vector>
 
-#include "printing/print_host_win.h"
+#include "printing/print_form_win.h"
 
 namespace printing {
 
 class clsPrinting {
  public:
-  explicit clsPrinting(PrintHost& host) : host_(host) {}
+  explicit clsPrinting(PrintForm& form) : form_(form) {}
 
   /// Takes the text to be divided into pages from `SOURCE`: what is selected there, or else
   /// everything. Sets the dialog's flags to fit.
@@ -111,7 +111,7 @@ class clsPrinting {
   [[nodiscard]] bool pagesStillValid() const;
   void rememberPages();
 
-  PrintHost& host_;
+  PrintForm& form_;
   const paper::RichTextBox* report_ = nullptr;
   FORMATRANGE measuring_{};  ///< counting pages, finding a range, drawing the preview
   FORMATRANGE printing_{};   ///< sending pages to the printer

@@ -45,8 +45,8 @@ constexpr std::array controls{
 };
 // clang-format on
 
-// A popup, as modal windows are: where a window manager decides, it gives a plain window that
-// appears beside the active one no focus.
+// A popup, as modal windows are. Under Wine a window manager decides about the focus, and gives
+// none to a plain window that appears beside the active one.
 constexpr DWORD formStyle = WS_POPUP | (WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX);
 
 constexpr windowing::FormDesign form{"frmPPrev", "Preview",  formStyle, 0,

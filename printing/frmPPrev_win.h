@@ -7,12 +7,12 @@
 
 #include "library/command_form_win.h"
 #include "library/command_hints_win.h"
-#include "printing/print_host_win.h"
+#include "printing/print_form_win.h"
 #include "windowing/toolbar_win.h"
 
 namespace printing {
 
-class frmPPrev : public library::CommandForm, public PrintHost {
+class frmPPrev : public library::CommandForm, public PrintForm {
  public:
   frmPPrev();
   ~frmPPrev() override;

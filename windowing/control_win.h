@@ -20,7 +20,7 @@ class Control {
 
   /// Raises out of memory where the control has a text and cannot hand it out.
   [[nodiscard]] std::string text() const;
-  /// False where the control says that it could not take the text; not every system's says so.
+  /// False where the control says that it could not take the text; Wine's never says so.
   bool setText(const std::string& text) const;
 
   [[nodiscard]] bool enabled() const { return IsWindowEnabled(handle_) != FALSE; }

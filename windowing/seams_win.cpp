@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "values/runtime_error.h"
-#include "values/wine_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/shell_win.h"
+#include "windowing/wine/shell_lengths_win.h"
 
 namespace windowing {
 namespace {
@@ -57,13 +57,6 @@ std::optional<std::string> askForFile(HWND owner, const FileDialog& wanted) {
   return std::nullopt;
 }
 
-// How long an address may be is the shell's concern. But Wine's copies addresses into a buffer of
-// fixed size, and a longer one would end the program.
-bool shellSurvives(const std::string& file) {
-  constexpr std::size_t longest = 960;
-  return !values::onWine() || file.size() <= longest;
-}
-
 Seams realSeams() {
   Seams real;
   real.messageBox = [](HWND owner, const std::string& text, const std::string& title, UINT flags) {
@@ -74,7 +67,7 @@ Seams realSeams() {
   real.fileDialog = askForFile;
   real.shellOpen = [](HWND owner, const std::string& verb, const std::string& file,
                       const std::string& folder) {
-    if (!shellSurvives(file)) return;
+    if (!wine::shellTakesAddress(file)) return;
     prepareShell();
     ShellExecuteA(owner, verb.c_str(), file.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL);
   };

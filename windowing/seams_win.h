@@ -30,7 +30,7 @@ struct Seams {
   /// Asks for a file; nothing when the user cancels. Raises what the dialog reports otherwise.
   std::function<std::optional<std::string>(HWND owner, const FileDialog&)> fileDialog;
   /// Opens a file or an address with the program registered for it; the result is not known.
-  /// Nothing where the address is longer than the shell of this host survives.
+  /// Does nothing where the address is longer than the shell of Wine survives.
   std::function<void(HWND owner, const std::string& verb, const std::string& file,
                      const std::string& folder)>
       shellOpen;

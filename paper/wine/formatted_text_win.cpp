@@ -7,7 +7,7 @@
 
 #include "values/units.h"
 
-namespace paper {
+namespace paper::wine {
 namespace {
 
 constexpr UINT wideText = 1200;  // code page number of UTF-16
@@ -133,4 +133,4 @@ int DeviceMeasure::advance(int position) {
   return run.advances[character] = static_cast<int>(size.cx);
 }
 
-}  // namespace paper
+}  // namespace paper::wine

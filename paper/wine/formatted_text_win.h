@@ -1,5 +1,5 @@
-// The text of a rich edit control with its formats, as page formatting needs it: characters
-// and runs, and their measures on one device.
+// The text of a rich edit control with its formats, as formatting pages on Wine needs it:
+// characters and runs, and their measures on one device.
 #pragma once
 
 #include <windows.h>
@@ -13,7 +13,7 @@
 #include "paper/wine/page_layout.h"
 #include "values/handles_win.h"
 
-namespace paper {
+namespace paper::wine {
 
 /// Characters in one format, from `first` up to the next run.
 struct TextRun {
@@ -64,4 +64,4 @@ class DeviceMeasure final : public TextMeasure {
   std::vector<RunMeasure> runs_;
 };
 
-}  // namespace paper
+}  // namespace paper::wine

@@ -11,7 +11,7 @@
 #include "paper/wine/page_layout.h"
 #include "values/units.h"
 
-namespace paper {
+namespace paper::wine {
 namespace {
 
 constexpr int tabStopTwips = 720;  // half an inch, as the control's own default
@@ -224,4 +224,4 @@ void installPageFormatter(HWND control) {
     (void)formatter.release();  // now the control's
 }
 
-}  // namespace paper
+}  // namespace paper::wine

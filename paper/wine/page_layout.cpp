@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace paper {
+namespace paper::wine {
 namespace {
 
 constexpr char16_t formFeed = 0x0C;
@@ -72,4 +72,4 @@ PageLayout layOutPage(TextMeasure& measure, int first, int last, const PageArea&
   return page;
 }
 
-}  // namespace paper
+}  // namespace paper::wine

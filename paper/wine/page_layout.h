@@ -1,11 +1,11 @@
-// Breaking text into the lines of one page: the arithmetic of page formatting, over measures
-// that a device gives. Lengths are whole device units of the measuring device.
+// Breaking text into the lines of one page: the arithmetic of formatting pages on Wine, over
+// measures that a device gives. Lengths are whole device units of the measuring device.
 #pragma once
 
 #include <string_view>
 #include <vector>
 
-namespace paper {
+namespace paper::wine {
 
 struct LineHeight {
   int ascent = 0;
@@ -57,4 +57,4 @@ struct PageLayout {
 /// Width of a tab that begins at `x`.
 [[nodiscard]] int tabAdvance(int x, int tabStop);
 
-}  // namespace paper
+}  // namespace paper::wine

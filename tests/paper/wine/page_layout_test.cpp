@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace paper {
+namespace paper::wine {
 namespace {
 
 // Every character is 10 wide; lines are 8 + 2 high, and those with a '#' 18 + 4.
@@ -85,4 +85,4 @@ TEST(PageLayout, LastPageCostsNoMoreThanTheFirst) {
 }
 
 }  // namespace
-}  // namespace paper
+}  // namespace paper::wine

@@ -1,5 +1,5 @@
-// What the print engine works with but does not own: the preview window has it, and loads,
-// hidden, when any of it is used.
+// The form that has what the print engine works with: the preview window, which loads, hidden, when
+// any of it is used.
 #pragma once
 
 #include <string>
@@ -23,7 +23,8 @@ class DialogForm {
   [[nodiscard]] virtual paper::PrintDialog& CMD1() = 0;
 };
 
-class PrintHost : public DialogForm {
+/// A form that owns what the print engine works with.
+class PrintForm : public DialogForm {
  public:
   /// The pages that are being printed.
   [[nodiscard]] virtual paper::RichTextBox& RTF2() = 0;

@@ -1,8 +1,8 @@
-#include "paper/smooth_shrink.h"
+#include "paper/wine/smooth_shrink.h"
 
 #include <cstddef>
 
-namespace paper {
+namespace paper::wine {
 
 // Red and blue are summed up in one number, sixteen bits apart: the sums of four times four pixels
 // need twelve.
@@ -32,4 +32,4 @@ void shrinkSmoothly(std::span<const std::uint32_t> large, int largeWidth,
   }
 }
 
-}  // namespace paper
+}  // namespace paper::wine
