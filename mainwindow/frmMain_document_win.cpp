@@ -101,8 +101,8 @@ void frmMain::setDocumentPath(const std::string& path) {
   library::modLibrary().documentPath = path;
 }
 
-// Only a folder that is there: the file dialogs of Wine end the program where they are to begin in a
-// device.
+// Only a folder that is there: the file dialogs of Wine end the program where they are to begin in
+// a device.
 std::string frmMain::rememberedFolder(const char* value) const {
   const std::string otherwise = LIBRARY().FILESLOCATION();
   const std::string stored = LIBRARY().REGSTRREAD(

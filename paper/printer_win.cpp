@@ -212,7 +212,7 @@ void Printer::setPaperSize(int code) {
   mode().dmFields |= DM_PAPERSIZE;
   applyMode();
   change.taken();
-  codeAlone();  // drivers are known to report the form of the paper before
+  codeAlone();  // Wine's driver reports the form of the paper before
 }
 
 Orientation Printer::orientation() {

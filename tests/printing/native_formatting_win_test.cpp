@@ -83,8 +83,8 @@ class NativePages : public testing::Test {
     pages.ranges = rangesOf(report);
     engine_.INITIALIZEPATH(thePreview(), report);
     pages.count = engine_.PAGECOUNT(thePreview(), 1, 1, 1, 1, 1);
-    for (std::int16_t page = 1; page <= pages.count; ++page) {
-      engine_.PAGESEL(page, thePreview().PICSTDPAGE());
+    for (std::int32_t page = 1; page <= pages.count; ++page) {
+      engine_.PAGESEL(static_cast<std::int16_t>(page), thePreview().PICSTDPAGE());
       pages.previewed.push_back(
           placed(test_support::drawingOf(thePreview().PICSTDPAGE().recording()).texts));
     }
