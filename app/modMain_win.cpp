@@ -6,23 +6,12 @@
 #include "app/startup_path_win.h"
 #include "library/modLibrary_win.h"
 #include "mainwindow/frmMain_win.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 #include "windowing/window_win.h"
 
 namespace app {
-namespace {
-
-// Runs a step of the start; what fails is skipped, and the next step runs.
-template <typename Step>
-void ignoringErrors(Step step) {
-  try {
-    step();
-  } catch (const std::exception&) {
-    // Nothing is told while the program starts: the window shows what came of it.
-  }
-}
-
-}  // namespace
+using values::ignoringErrors;
 
 int Main() {
   static mainwindow::frmMain form;

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "bench/paper_win.h"
-#include "library/own_keys_win.h"
 #include "paper/page_picture_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_win.h"

@@ -7,6 +7,7 @@
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/proper_case_win.h"
+#include "library/settings.h"
 #include "library/text_utilities.h"
 #include "paper/text_format.h"
 #include "values/runtime_error.h"
@@ -20,12 +21,10 @@ namespace dialogs {
 
 using library::LIBRARY;
 using library::modLibrary;
+using values::ignoringErrors;
 namespace id = library::id::props;
 
 namespace {
-
-// The dialog's place is kept under the name that it has in all of the maker's products.
-constexpr char placeName[] = "GLOBAL";
 
 /// The pages by their tabs.
 struct Page {
@@ -45,16 +44,6 @@ constexpr int documentFacts[] = {id::TXTDOCPATH, id::TXTDOCPAGES, id::TXTDOCLINE
                                  id::TXTWORDS};
 constexpr int pictureFacts[] = {id::TXTPICTYPE, id::TXTPICPIXELDEPTH, id::TXTPICWIDTH,
                                 id::TXTPICHEIGHT};
-
-// Works one figure out; one that cannot be worked out leaves only itself empty.
-template <typename Figure>
-void ignoringErrors(Figure figure) {
-  try {
-    figure();
-  } catch (const std::exception&) {
-    // Its box stays empty.
-  }
-}
 
 std::string fileNameOf(const std::string& path) {
   const std::size_t folder = library::folderWithBackslash(path, values::isLeadByte).size();
@@ -81,7 +70,7 @@ void frmProps::onLoad() {
   }
   control(id::TXTDOCUMENT).setFont(windowing::font(paper::documentTypeface, paper::documentPoints));
   try {
-    LIBRARY().FORMLOAD(placeName, *this, false);
+    LIBRARY().FORMLOAD(library::sharedPlace, *this, false);
   } catch (const values::RuntimeError&) {
     // A stored place that is none: the dialog stays where its design put it.
   }
@@ -91,7 +80,7 @@ void frmProps::onLoad() {
 }
 
 void frmProps::onUnload() {
-  LIBRARY().FORMSAVE(placeName, *this, false);
+  LIBRARY().FORMSAVE(library::sharedPlace, *this, false);
 }
 
 void frmProps::UPDATEINFO() {

@@ -2,29 +2,12 @@
 
 #include <windows.h>
 
-#include "library/clsLibrary_win.h"
-#include "library/own_keys_win.h"
+#include "library/stored_settings_win.h"
 #include "paper/text_format.h"
 #include "values/handles_win.h"
-#include "values/number_text.h"
 #include "values/units.h"
-#include "values/user_locale_win.h"
 
 namespace dialogs {
-namespace {
-
-// Margins are shared by all of the maker's products. The first of them is looked for where it is
-// never written: the name of its key lacks a letter, deliberately, so it is an inch wide.
-constexpr char firstMarginSection[] = "\\GLOBAL\\tems";
-constexpr char marginSection[] = "\\GLOBAL\\frmpprev\\Items";
-
-double margin(const char* section, const char* value) {
-  const std::string text = library::LIBRARY().REGSTRREAD(library::currentUserRoot,
-                                                         library::familyKey(section), value, "1");
-  return values::storedNumber(text, values::userDecimalSign());
-}
-
-}  // namespace
 
 ReportPaper reportPaper(paper::Printer& printer) {
   const HDC dc = printer.dc();
@@ -41,12 +24,10 @@ ReportPaper reportPaper(paper::Printer& printer) {
 }
 
 ReportMargins reportMargins() {
-  ReportMargins margins;
-  margins.left = margin(firstMarginSection, "Page Margin 0");
-  margins.right = margin(marginSection, "Page Margin 1");
-  margins.top = margin(marginSection, "Page Margin 2");
-  margins.bottom = margin(marginSection, "Page Margin 3");
-  return margins;
+  using library::readNumber;
+  using library::Setting;
+  return {readNumber(Setting::propertiesLeftMargin), readNumber(Setting::rightMargin),
+          readNumber(Setting::topMargin), readNumber(Setting::bottomMargin)};
 }
 
 }  // namespace dialogs

@@ -3,7 +3,7 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/placement.h"
-#include "library/settings_text.h"
+#include "library/stored_settings_win.h"
 #include "values/runtime_error.h"
 #include "values/user_locale_win.h"
 #include "windowing/application_win.h"
@@ -16,10 +16,6 @@ using values::Twips;
 using windowing::screenPixels;
 using windowing::screenTwips;
 
-std::string placementKey(const std::string& formName) {
-  return windowKey(windowing::companyName(), windowing::productName(), formName);
-}
-
 FormPlacement placementOf(const windowing::Form& form) {
   const RECT outer = form.outerPixels();
   return {static_cast<WindowState>(form.windowState()), Twips{screenTwips(outer.left)},
@@ -27,18 +23,16 @@ FormPlacement placementOf(const windowing::Form& form) {
           Twips{screenTwips(outer.bottom - outer.top)}};
 }
 
-StoredPlacement storedPlacement(clsLibrary& library, const std::string& formName) {
+StoredPlacement storedPlacement(const std::string& formName) {
   // A default that is no number and stands for a value that is not there.
   const std::string missing(1, '\0');
-  const std::string key = placementKey(formName);
-  const auto read = [&](std::string_view name) -> std::optional<std::string> {
-    std::string text = library.REGSTRREAD(currentUserRoot, key, std::string(name), missing);
+  const auto read = [&](Setting setting) -> std::optional<std::string> {
+    std::string text = readText(setting, missing, formName);
     if (text == missing) return std::nullopt;
     return text;
   };
-  namespace value = placement_value;
-  return {read(value::state), read(value::left), read(value::top), read(value::width),
-          read(value::height)};
+  return {read(Setting::windowState), read(Setting::windowLeft), read(Setting::windowTop),
+          read(Setting::windowWidth), read(Setting::windowHeight)};
 }
 
 void placeForm(windowing::Form& form, const FormPlacement& placed) {
@@ -59,7 +53,7 @@ void placeLeft(const windowing::Control& button, Twips left) {
 }  // namespace
 
 void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTFORM, bool RESIZE) {
-  StoredPlacement stored = storedPlacement(*this, FORMNAME);
+  StoredPlacement stored = storedPlacement(FORMNAME);
   const auto load = [&] {
     return loadPlacement(stored, placementOf(CURRENTFORM),
                          {windowing::screenWidth(), windowing::screenHeight()}, RESIZE,
@@ -80,10 +74,9 @@ void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTF
 }
 
 void clsLibrary::FORMSAVE(const std::string& FORMNAME, windowing::Form& CURRENTFORM, bool RESIZE) {
-  const std::string key = placementKey(FORMNAME);
   for (const StoredValue& value :
        placementToStore(placementOf(CURRENTFORM), RESIZE, values::userDecimalSign()))
-    REGSTRWRITE(currentUserRoot, key, std::string(value.name), value.text);
+    writeText(value.setting, value.text, FORMNAME);
 }
 
 void clsLibrary::RESIZEBTNCLOSE(windowing::Form& CURRENTFORM) {

@@ -2,9 +2,9 @@
 #include <array>
 
 #include "library/clsLibrary_win.h"
-#include "library/own_keys_win.h"
 #include "library/path_utilities.h"
 #include "library/settings_text.h"
+#include "library/stored_settings_win.h"
 #include "values/handles_win.h"
 #include "values/runtime_error.h"
 #include "values/user_locale_win.h"
@@ -15,9 +15,6 @@ namespace library {
 namespace {
 
 using values::RegistryKey;
-
-constexpr char windowsVersionKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
-constexpr char filesLocation[] = "Files Location";
 
 HKEY rootKey(std::int32_t number) {
   return windowing::seams().settingsRoot(reinterpret_cast<HKEY>(static_cast<LONG_PTR>(number)));
@@ -100,8 +97,8 @@ bool clsLibrary::REGBINARYREAD(const std::string& hKey, const std::string& SUBKE
 
 void clsLibrary::REGBINARYWRITE() {
   // Nothing in this program calls this; it is there for the other products.
-  REGBINARYREAD(currentUserRoot, toolbarKey(windowing::productName()), "Buttons",
-                {100, 0, 0, 0, 101});
+  const SettingRow& buttons = settingRow(Setting::toolbarButtons);
+  REGBINARYREAD(currentUserRoot, keyOf(buttons.setting), buttons.name, {100, 0, 0, 0, 101});
 }
 
 std::int32_t clsLibrary::REGDWORDREAD(std::int32_t hKey, const std::string& SUBKEY,
@@ -117,13 +114,11 @@ std::int32_t clsLibrary::REGDWORDREAD(std::int32_t hKey, const std::string& SUBK
 
 std::string clsLibrary::FILESLOCATION() {
   const std::string own = FILENAMELENCHK(windowing::programFolder());
-  std::string folder =
-      FILENAMELENCHK(REGSTRREAD(currentUserRoot, ownKey("\\frmPrefs\\Items"), filesLocation, own));
+  std::string folder = FILENAMELENCHK(readText(Setting::filesLocation, own));
   if (!FOLDEREXIST(folder)) {
     folder = own;
-    // Another key than the one read, deliberately: the fall-back is a note to the other
-    // products, and a folder that comes back is found again.
-    REGSTRWRITE(currentUserRoot, familyKey("\\GLOBAL\\frmPPrev\\Items"), filesLocation, folder);
+    // Not where it was read: a folder that comes back is found again.
+    writeText(Setting::missingFilesLocation, folder);
   }
   return folder;
 }
@@ -133,12 +128,11 @@ std::string clsLibrary::FILENAMELENCHK(const std::string& PATHSTR) {
 }
 
 std::string clsLibrary::GETCOMPANYNAME() {
-  return REGSTRREAD(localMachineRoot, windowsVersionKey, "RegisteredOwner", "");
+  return readText(Setting::registeredOwner);
 }
 
 std::string clsLibrary::GETCOMPANYREG() {
-  // The organization is looked for under the user, unlike the owner. Deliberate.
-  return REGSTRREAD(currentUserRoot, windowsVersionKey, "RegisteredOrganization", "");
+  return readText(Setting::registeredOrganization);
 }
 
 std::string clsLibrary::GETAPPNUMBER() {

@@ -73,17 +73,18 @@ FormPlacement loadPlacement(const StoredPlacement& stored, const FormPlacement& 
 
 std::vector<StoredValue> placementToStore(const FormPlacement& current, bool sizable,
                                           char decimalSign) {
-  namespace value = placement_value;
-  const auto length = [&](std::string_view name, Twips twips) {
-    return StoredValue{name, values::singleText(twips.value, decimalSign)};
+  const auto length = [&](Setting setting, Twips twips) {
+    return StoredValue{setting, values::singleText(twips.value, decimalSign)};
   };
   if (current.state == WindowState::minimized) return {};
-  if (!sizable) return {length(value::left, current.left), length(value::top, current.top)};
-  const StoredValue state{value::state,
+  if (!sizable)
+    return {length(Setting::windowLeft, current.left), length(Setting::windowTop, current.top)};
+  const StoredValue state{Setting::windowState,
                           values::integerText(static_cast<std::int16_t>(current.state))};
   if (current.state == WindowState::maximized) return {state};
-  return {state, length(value::left, current.left), length(value::top, current.top),
-          length(value::width, current.width), length(value::height, current.height)};
+  return {state, length(Setting::windowLeft, current.left), length(Setting::windowTop, current.top),
+          length(Setting::windowWidth, current.width),
+          length(Setting::windowHeight, current.height)};
 }
 
 Twips closeButtonLeft(Twips innerWidth, Twips buttonWidth) {

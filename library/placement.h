@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "library/settings.h"
 #include "values/units.h"
 
 namespace library {
@@ -24,12 +24,6 @@ struct ScreenSize {
   values::Twips width, height;
 };
 
-/// Value names of a stored placement.
-namespace placement_value {
-constexpr std::string_view state = "Window State", left = "Left", top = "Top", width = "Width",
-                           height = "Height";
-}
-
 /// Texts of a stored placement; each may be missing.
 struct StoredPlacement {
   std::optional<std::string> state, left, top, width, height;
@@ -46,7 +40,7 @@ struct StoredPlacement {
                                           bool sizable, char decimalSign);
 
 struct StoredValue {
-  std::string_view name;
+  Setting setting;
   std::string text;
 };
 

@@ -5,32 +5,6 @@
 #include "values/number_text.h"
 
 namespace library {
-namespace {
-
-constexpr std::string_view software = "SOFTWARE\\";
-
-}  // namespace
-
-std::string productKey(std::string_view company, std::string_view product,
-                       std::string_view section) {
-  return std::string(software) + std::string(company) + '\\' + std::string(product) +
-         std::string(section);
-}
-
-std::string sharedKey(std::string_view company, std::string_view section) {
-  return std::string(software) + std::string(company) + std::string(section);
-}
-
-std::string windowKey(std::string_view company, std::string_view product,
-                      std::string_view formName) {
-  return productKey(company, product, '\\' + std::string(formName) + "\\Window");
-}
-
-std::string toolbarKey(std::string_view product) {
-  // The company's name is literal here and nowhere else; deliberate.
-  return productKey("Zandor Software Development", product, "\\frmMain\\Toolbar\\Standard");
-}
-
 std::string rootText(std::int32_t root) {
   return values::integerText(root);
 }

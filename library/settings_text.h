@@ -1,5 +1,4 @@
-// Keys of the settings store as texts, and what a value read from it means. Company and
-// product are always arguments: they come from the running program's version information.
+// Root keys of the settings store as texts, and what a value read from it means.
 #pragma once
 
 #include <cstdint>
@@ -7,20 +6,6 @@
 #include <string_view>
 
 namespace library {
-
-/// Key of a section of one product's own settings; `section` begins with "\".
-[[nodiscard]] std::string productKey(std::string_view company, std::string_view product,
-                                     std::string_view section);
-
-/// Key of a section that all products of the maker share; `section` begins with "\GLOBAL\".
-[[nodiscard]] std::string sharedKey(std::string_view company, std::string_view section);
-
-/// Key of the stored place of the window of form `formName`.
-[[nodiscard]] std::string windowKey(std::string_view company, std::string_view product,
-                                    std::string_view formName);
-
-/// Key of the toolbar's stored buttons, which alone names the company literally.
-[[nodiscard]] std::string toolbarKey(std::string_view product);
 
 /// Root keys as the text they travel as: HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE.
 constexpr char currentUserRoot[] = "-2147483647";

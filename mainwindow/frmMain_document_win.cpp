@@ -9,8 +9,8 @@
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
-#include "library/own_keys_win.h"
 #include "library/path_utilities.h"
+#include "library/stored_settings_win.h"
 #include "mainwindow/document_file_win.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
@@ -47,9 +47,6 @@ bool isFree(const std::string& path, files::FileCalls& calls) {
   return calls.attributes(path) == INVALID_FILE_ATTRIBUTES &&
          GetLastError() == ERROR_FILE_NOT_FOUND;
 }
-
-constexpr char openFolderValue[] = "CMD Open Folder";
-constexpr char saveFolderValue[] = "CMD Save Folder";
 
 }  // namespace
 
@@ -103,25 +100,23 @@ void frmMain::setDocumentPath(const std::string& path) {
 
 // Only a folder that is there: the file dialogs of Wine end the program where they are to begin in
 // a device.
-std::string frmMain::rememberedFolder(const char* value) const {
+std::string frmMain::rememberedFolder(library::Setting setting) const {
   const std::string otherwise = LIBRARY().FILESLOCATION();
-  const std::string stored = LIBRARY().REGSTRREAD(
-      library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value, otherwise);
+  const std::string stored = library::readText(setting, otherwise);
   for (const std::string& folder : {library::bareDriveToRoot(stored), otherwise})
     if (isFolder(folder)) return fullPathOf(folder);
   return {};
 }
 
-void frmMain::rememberFolder(const char* value, const std::string& file) {
-  LIBRARY().REGSTRWRITE(library::currentUserRoot, library::ownKey("\\frmMain\\Items"), value,
-                        LIBRARY().GETFOLDERPATH(file));
+void frmMain::rememberFolder(library::Setting setting, const std::string& file) {
+  library::writeText(setting, LIBRARY().GETFOLDERPATH(file));
 }
 
 // The steps that opening from a dialog and from the command line share. Raises what the file
 // could not be read for, after everything else was brought in step.
 void frmMain::openPath(const std::string& path) {
   setDocumentPath(path);
-  rememberFolder(openFolderValue, path);
+  rememberFolder(library::Setting::openFolder, path);
   std::exception_ptr failure;
   try {
     FILELOAD(path);
@@ -180,7 +175,7 @@ void frmMain::openDocument() {
   windowing::FileDialog dialog;
   dialog.title = "Open";
   dialog.filter = filter;
-  dialog.folder = rememberedFolder(openFolderValue);
+  dialog.folder = rememberedFolder(library::Setting::openFolder);
   dialog.extension = extension;  // of a name typed without one
   dialog.flags = openFlags;
   std::optional<std::string> chosen;
@@ -239,7 +234,7 @@ bool frmMain::saveAs() {
     dialog.save = true;
     dialog.title = "Save As";
     dialog.filter = filter;
-    dialog.folder = rememberedFolder(saveFolderValue);
+    dialog.folder = rememberedFolder(library::Setting::saveFolder);
     dialog.fileName = fileNameOf(CMD1.fileName);
     dialog.extension = extension;
     dialog.flags = openFlags;
@@ -251,7 +246,7 @@ bool frmMain::saveAs() {
     if (!answer) return false;
     chosen =
         library::withDefaultExtension(*answer, std::string(".") + extension, values::isLeadByte);
-    rememberFolder(saveFolderValue, chosen);
+    rememberFolder(library::Setting::saveFolder, chosen);
     if (!readWhole_ && sameFile(chosen, CMD1.fileName) && !isFree(chosen, *fileCalls_)) {
       windowing::seams().messageBox(windowing::dialogOwner(),
                                     "The document '" + chosen +

@@ -8,8 +8,8 @@
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
 #include "library/modLibrary_win.h"
-#include "library/own_keys_win.h"
 #include "library/resource_ids.h"
+#include "library/stored_settings_win.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
@@ -30,30 +30,9 @@ namespace {
 
 constexpr windowing::ImageStrip imageStrips[] = {
     {16, IDB_TOOLBAR16}, {20, IDB_TOOLBAR20}, {24, IDB_TOOLBAR24}, {32, IDB_TOOLBAR32}};
-constexpr char standardToolbarValue[] = "Standard Toolbar";
-constexpr char statusBarValue[] = "Status Bar";
 
 // Toolbar buttons that begin a new group.
 constexpr int groupStarts[] = {id::PRINT, id::ADD, id::HEADERFOOTER, id::FIRST};
-
-std::string viewKey() {
-  return library::ownKey("\\frmMain\\View");
-}
-
-// A stored text that is no truth value must not keep the window from loading: both bars are
-// shown then, as on the first start.
-bool storedView(const char* value) {
-  const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot, viewKey(), value, "True");
-  try {
-    return values::booleanOfText(text);
-  } catch (const values::RuntimeError&) {
-    return true;
-  }
-}
-
-void storeView(const char* value, bool shown) {
-  LIBRARY().REGSTRWRITE(library::currentUserRoot, viewKey(), value, values::textOfBoolean(shown));
-}
 
 }  // namespace
 
@@ -138,10 +117,10 @@ void frmMain::buildToolbar() {
 }
 
 void frmMain::applyView() {
-  const bool toolbar = storedView(standardToolbarValue);
+  const bool toolbar = library::readTruth(library::Setting::standardToolbar);
   setCommandChecked(id::STANDARDBAR, toolbar);
   control(id::PICMAINTBAR).setVisible(toolbar);
-  const bool statusBar = storedView(statusBarValue);
+  const bool statusBar = library::readTruth(library::Setting::statusBar);
   SBMAIN().setVisible(statusBar);
   setCommandChecked(id::STATUSBAR, statusBar);
 }
@@ -155,8 +134,8 @@ void frmMain::toggleBar(int command) {
   } else {
     SBMAIN().setVisible(shown);
   }
-  storeView(standardToolbarValue, commandChecked(id::STANDARDBAR));
-  storeView(statusBarValue, commandChecked(id::STATUSBAR));
+  library::writeTruth(library::Setting::standardToolbar, commandChecked(id::STANDARDBAR));
+  library::writeTruth(library::Setting::statusBar, commandChecked(id::STATUSBAR));
   layOut();
 }
 

@@ -12,6 +12,7 @@
 #include "files/file_calls_win.h"
 #include "library/command_form_win.h"
 #include "library/command_hints_win.h"
+#include "library/settings.h"
 #include "mainwindow/document_file_win.h"
 #include "paper/richtextbox_win.h"
 #include "windowing/form_win.h"
@@ -129,8 +130,8 @@ class frmMain : public library::CommandForm {
   void openPath(const std::string& path);
   void setDocumentPath(const std::string& path);
   void tellUnread(const std::string& path, const values::RuntimeError& error);
-  [[nodiscard]] std::string rememberedFolder(const char* value) const;
-  void rememberFolder(const char* value, const std::string& file);
+  [[nodiscard]] std::string rememberedFolder(library::Setting setting) const;
+  void rememberFolder(library::Setting setting, const std::string& file);
 
   // Dialogs (frmMain_dialogs_win.cpp).
   /// The 28 texts as they stand in the boxes, edits included; a box that is not made yet, or

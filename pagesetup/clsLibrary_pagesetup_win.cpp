@@ -3,8 +3,8 @@
 
 #include "library/clsLibrary_win.h"
 #include "pagesetup/frmPSetup_win.h"
-#include "pagesetup/ignoring_errors.h"
 #include "paper/printer_win.h"
+#include "values/runtime_error.h"
 #include "values/units.h"
 #include "windowing/modal_win.h"
 
@@ -27,7 +27,7 @@ class Obtaining {
 
  private:
   static void tell(const std::string& text) {
-    pagesetup::ignoringErrors([&] {
+    values::ignoringErrors([&] {
       windowing::Form* const main = windowing::formOf(windowing::mainWindow());
       if (main == nullptr) return;
       LIBRARY().STATUSBARCAPTION(*main, text, false);

@@ -4,6 +4,7 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/settings_text.h"
+#include "library/stored_settings_win.h"
 #include "pagesetup/frmPSetup_design_win.h"
 #include "pagesetup/frmPSetup_win.h"
 #include "pagesetup/stored_options_win.h"
@@ -12,7 +13,6 @@
 
 namespace pagesetup {
 
-using library::LIBRARY;
 namespace id = library::id::psetup;
 
 namespace {
@@ -20,7 +20,7 @@ namespace {
 /// A box to tick, the group that it belongs to, and the item of the sample that it shows or
 /// hides; the boxes that switch a whole group have none.
 struct OptionBox {
-  Option option;
+  Setting option;
   int box;
   int master;
   int sample;
@@ -29,27 +29,27 @@ struct OptionBox {
 // that it finds the others as they are to be.
 // clang-format off
 constexpr OptionBox optionBoxes[] = {
-  {Option::field1,     id::CHKFOOTFIELD1, id::CHKFOOTER, id::TXTFOOTFIELD1},
-  {Option::field2,     id::CHKFOOTFIELD2, id::CHKFOOTER, id::TXTFOOTFIELD2},
-  {Option::footerRule, id::CHKFOOTLINE,   id::CHKFOOTER, id::LNFOOTLINE},
-  {Option::pageNumber, id::CHKFOOTPGNO,   id::CHKFOOTER, id::TXTFOOTPGNO},
-  {Option::footer,     id::CHKFOOTER,     id::CHKFOOTER, 0},
-  {Option::title,      id::CHKHEADTITLE,  id::CHKHEADER, id::TXTHEADTITLE},
-  {Option::headerRule, id::CHKHEADLINE,   id::CHKHEADER, id::LNHEADLINE},
-  {Option::date,       id::CHKHEADDATE,   id::CHKHEADER, id::TXTHEADDATE},
-  {Option::time,       id::CHKHEADTIME,   id::CHKHEADER, id::TXTHEADTIME},
-  {Option::header,     id::CHKHEADER,     id::CHKHEADER, 0},
+  {Setting::footerField1,     id::CHKFOOTFIELD1, id::CHKFOOTER, id::TXTFOOTFIELD1},
+  {Setting::footerField2,     id::CHKFOOTFIELD2, id::CHKFOOTER, id::TXTFOOTFIELD2},
+  {Setting::footerRule, id::CHKFOOTLINE,   id::CHKFOOTER, id::LNFOOTLINE},
+  {Setting::footerPageNumber, id::CHKFOOTPGNO,   id::CHKFOOTER, id::TXTFOOTPGNO},
+  {Setting::footer,     id::CHKFOOTER,     id::CHKFOOTER, 0},
+  {Setting::headerTitle,      id::CHKHEADTITLE,  id::CHKHEADER, id::TXTHEADTITLE},
+  {Setting::headerRule, id::CHKHEADLINE,   id::CHKHEADER, id::LNHEADLINE},
+  {Setting::headerDate,       id::CHKHEADDATE,   id::CHKHEADER, id::TXTHEADDATE},
+  {Setting::headerTime,       id::CHKHEADTIME,   id::CHKHEADER, id::TXTHEADTIME},
+  {Setting::header,     id::CHKHEADER,     id::CHKHEADER, 0},
 };
 
 struct OptionText {
-  Option option;
+  Setting option;
   int box;
   int master;
 };
 constexpr OptionText optionTexts[] = {
-  {Option::titleText,  id::TXTHEADTITLE,  id::CHKHEADER},
-  {Option::field1Text, id::TXTFOOTFIELD1, id::CHKFOOTER},
-  {Option::field2Text, id::TXTFOOTFIELD2, id::CHKFOOTER},
+  {Setting::headerTitleText,  id::TXTHEADTITLE,  id::CHKHEADER},
+  {Setting::footerField1Text, id::TXTFOOTFIELD1, id::CHKFOOTER},
+  {Setting::footerField2Text, id::TXTFOOTFIELD2, id::CHKFOOTER},
 };
 
 struct Sample {
@@ -63,10 +63,12 @@ constexpr Sample samples[] = {
 };
 // clang-format on
 
-constexpr Option saveOrder[] = {
-    Option::footerRule, Option::pageNumber, Option::field2,     Option::field1, Option::footer,
-    Option::title,      Option::headerRule, Option::date,       Option::time,   Option::header,
-    Option::titleText,  Option::field1Text, Option::field2Text,
+constexpr Setting saveOrder[] = {
+    Setting::footerRule,       Setting::footerPageNumber, Setting::footerField2,
+    Setting::footerField1,     Setting::footer,           Setting::headerTitle,
+    Setting::headerRule,       Setting::headerDate,       Setting::headerTime,
+    Setting::header,           Setting::headerTitleText,  Setting::footerField1Text,
+    Setting::footerField2Text,
 };
 static_assert(std::size(saveOrder) == optionCount &&
               std::size(optionBoxes) + std::size(optionTexts) == optionCount);
@@ -80,7 +82,7 @@ const OptionBox* findBox(int box) {
   return nullptr;
 }
 
-int boxOf(Option option) {
+int boxOf(Setting option) {
   for (const OptionBox& known : optionBoxes)
     if (known.option == option) return known.box;
   for (const OptionText& known : optionTexts)
@@ -110,13 +112,11 @@ void frmPSetup::loadHeaderFooter() {
 }
 
 void frmPSetup::saveHeaderFooter() const {
-  for (const Option option : saveOrder) {
-    const StoredOption& stored = storedOption(option);
+  for (const Setting option : saveOrder) {
     const int box = boxOf(option);
     const bool isSwitch = findBox(box) != nullptr;
-    LIBRARY().REGSTRWRITE(
-        library::currentUserRoot, keyOf(stored), stored.valueName,
-        isSwitch ? values::integerText(checkBox(box).state()) : control(box).text());
+    library::writeText(option,
+                       isSwitch ? values::integerText(checkBox(box).state()) : control(box).text());
   }
 }
 
@@ -130,7 +130,7 @@ void frmPSetup::setDefaultHeaderFooter() {
   tick(id::CHKFOOTER);
   const DefaultTexts texts = defaultTexts();
   for (const OptionText& text : optionTexts) {
-    const std::string usual = defaultText(storedOption(text.option).otherwise, texts);
+    const std::string usual = defaultText(text.option, texts);
     if (control(text.box).text() != usual) control(text.box).setText(usual);
   }
   for (const OptionBox& box : optionBoxes) tick(box.box);

@@ -4,14 +4,14 @@
 #include "controls/drawing_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
-#include "library/own_keys_win.h"
+#include "library/stored_settings_win.h"
 #include "pagesetup/frmPSetup_design_win.h"
 #include "pagesetup/frmPSetup_win.h"
-#include "pagesetup/ignoring_errors.h"
 #include "pagesetup/paper_table.h"
 #include "paper/printer_win.h"
 #include "values/checked.h"
 #include "values/number_text.h"
+#include "values/runtime_error.h"
 #include "values/user_locale_win.h"
 #include "windowing/screen_win.h"
 
@@ -19,22 +19,22 @@ namespace pagesetup {
 
 using library::LIBRARY;
 using library::modLibrary;
+using library::Setting;
 using paper::Orientation;
 using paper::printer;
+using values::ignoringErrors;
 namespace id = library::id::psetup;
 
 namespace {
 
-// Margins are shared by all of the maker's products.
 struct StoredMargin {
   int box;
-  const char* value;
+  Setting setting;
 };
-constexpr StoredMargin storedMargins[] = {{id::UDNLEFT, "Page Margin 0"},
-                                          {id::UDNRIGHT, "Page Margin 1"},
-                                          {id::UDNTOP, "Page Margin 2"},
-                                          {id::UDNBOTTOM, "Page Margin 3"}};
-constexpr char storedDefault[] = "1";
+constexpr StoredMargin storedMargins[] = {{id::UDNLEFT, Setting::leftMargin},
+                                          {id::UDNRIGHT, Setting::rightMargin},
+                                          {id::UDNTOP, Setting::topMargin},
+                                          {id::UDNBOTTOM, Setting::bottomMargin}};
 constexpr double defaultMargin = 1.0;
 
 // Margins are limited by this paper as long as no printer told of another.
@@ -45,10 +45,6 @@ constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF black = RGB(0, 0, 0);
 constexpr COLORREF textGrey = RGB(208, 208, 208);
 constexpr COLORREF areaGrey = RGB(128, 128, 128);
-
-std::string marginKey() {
-  return library::familyKey("\\GLOBAL\\frmPPrev\\Items");
-}
 
 // The number that a remembered text stands for; an empty one is 0, which no printer takes.
 std::int32_t number(const std::string& text) {
@@ -143,19 +139,17 @@ void frmPSetup::showPaper() const {
 void frmPSetup::loadMargins() const {
   const char sign = values::userDecimalSign();
   for (const StoredMargin& stored : storedMargins) {
-    const std::string text =
-        LIBRARY().REGSTRREAD(library::currentUserRoot, marginKey(), stored.value, storedDefault);
-    const std::optional<double> inches = values::parseStoredNumber(text, sign);
     // A text that is no number leaves the field as it was designed.
-    if (inches)
-      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(values::doubleText(*inches, sign)));
+    ignoringErrors([&] {
+      const double inches = library::readNumber(stored.setting);
+      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(values::doubleText(inches, sign)));
+    });
   }
 }
 
 void frmPSetup::saveMargins() const {
   for (const StoredMargin& stored : storedMargins)
-    LIBRARY().REGSTRWRITE(library::currentUserRoot, marginKey(), stored.value,
-                          margin(stored.box).text());
+    library::writeText(stored.setting, margin(stored.box).text());
 }
 
 void frmPSetup::setDefaultMargins() const {

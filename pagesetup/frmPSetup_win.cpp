@@ -5,7 +5,7 @@
 #include "controls/TXTSEP_win.h"
 #include "library/clsLibrary_win.h"
 #include "pagesetup/frmPSetup_design_win.h"
-#include "pagesetup/ignoring_errors.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/handle_text_win.h"
@@ -14,6 +14,7 @@ namespace pagesetup {
 
 using library::LIBRARY;
 namespace id = library::id::psetup;
+using values::ignoringErrors;
 
 namespace {
 

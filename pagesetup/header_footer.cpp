@@ -71,13 +71,13 @@ class Drawing {
 void drawHeader(Drawing& drawing, const HeaderFooterOptions& options, const Page& page) {
   const Margins& margins = page.margins;
   const auto line = [&] { return checkedSubtract(margins.top, headerTextRise); };
-  if (options.on(Option::headerRule)) drawing.rule(checkedSubtract(margins.top, headerRuleRise));
-  if (options.on(Option::date))
+  if (options.on(Setting::headerRule)) drawing.rule(checkedSubtract(margins.top, headerRuleRise));
+  if (options.on(Setting::headerDate))
     drawing.text(checkedAdd(margins.left, dateIndent), line(), page.date);
-  if (options.on(Option::time))
+  if (options.on(Setting::headerTime))
     drawing.text(checkedSubtract(page.width, timeFromRight), line(), page.time);
-  if (options.on(Option::title))
-    drawing.centred(offsetsOf(page.surface).title, line(), options[Option::titleText]);
+  if (options.on(Setting::headerTitle))
+    drawing.centred(offsetsOf(page.surface).title, line(), options[Setting::headerTitleText]);
 }
 
 void drawFooter(Drawing& drawing, const HeaderFooterOptions& options, const Page& page) {
@@ -85,13 +85,14 @@ void drawFooter(Drawing& drawing, const HeaderFooterOptions& options, const Page
   const auto base =
       checkedCast<std::int16_t>(checkedSubtract(page.height, std::int32_t{margins.bottom}));
   const auto line = [&] { return checkedAdd(base, footerTextDrop); };
-  if (options.on(Option::footerRule)) drawing.rule(checkedAdd(base, footerRuleDrop));
-  if (options.on(Option::field1))
-    drawing.text(checkedAdd(margins.left, field1Indent), line(), options[Option::field1Text]);
-  if (options.on(Option::field2))
+  if (options.on(Setting::footerRule)) drawing.rule(checkedAdd(base, footerRuleDrop));
+  if (options.on(Setting::footerField1))
+    drawing.text(checkedAdd(margins.left, field1Indent), line(),
+                 options[Setting::footerField1Text]);
+  if (options.on(Setting::footerField2))
     drawing.text(checkedSubtract(page.width, offsetsOf(page.surface).field2FromRight), line(),
-                 options[Option::field2Text]);
-  if (options.on(Option::pageNumber)) drawing.centred(0, line(), page.number);
+                 options[Setting::footerField2Text]);
+  if (options.on(Setting::footerPageNumber)) drawing.centred(0, line(), page.number);
 }
 
 std::string digits(int value, std::size_t count) {
@@ -102,25 +103,24 @@ std::string digits(int value, std::size_t count) {
 
 }  // namespace
 
-std::string defaultText(Default kind, const DefaultTexts& texts) {
-  switch (kind) {
-    case Default::reportTitle:
+std::string defaultText(Setting option, const DefaultTexts& texts) {
+  switch (option) {
+    case Setting::headerTitleText:
       return texts.product + " Report.";
-    case Default::owner:
+    case Setting::footerField1Text:
       return texts.owner;
-    case Default::documentName:
+    case Setting::footerField2Text:
       return texts.documentName.empty() ? "Untitled" : texts.documentName;
-    case Default::on:
-      break;
+    default:
+      return library::settingRow(option).otherwise;
   }
-  return "1";
 }
 
 std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options, const Page& page,
                                          library::LeadByteTest isLead) {
   Drawing drawing(page, isLead);
-  if (options.on(Option::header)) drawHeader(drawing, options, page);
-  if (options.on(Option::footer)) drawFooter(drawing, options, page);
+  if (options.on(Setting::header)) drawHeader(drawing, options, page);
+  if (options.on(Setting::footer)) drawFooter(drawing, options, page);
   return drawing.commands;
 }
 

@@ -5,76 +5,25 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "library/path_utilities.h"
+#include "library/settings.h"
 
 namespace pagesetup {
 
-/// The thirteen stored settings: what is drawn, and its texts.
-enum class Option : int {
-  header,
-  title,
-  headerRule,
-  date,
-  time,
-  titleText,
-  footer,
-  field1,
-  field2,
-  footerRule,
-  pageNumber,
-  field1Text,
-  field2Text,
-};
-constexpr std::size_t optionCount = 13;
+using library::Setting;
 
-/// What a setting is when nothing is stored.
-enum class Default { on, reportTitle, owner, documentName };
-
-struct StoredOption {
-  Option option;
-  const char* section;  ///< of the product's own settings
-  const char* valueName;
-  Default otherwise;
-};
-
-constexpr char headerSection[] = "\\frmPPrev\\Items\\Header";
-constexpr char footerSection[] = "\\frmPPrev\\Items\\Footer";
-
-// clang-format off
-constexpr std::array<StoredOption, optionCount> storedOptions{{
-  {Option::header,     headerSection, "Checked",   Default::on},
-  {Option::title,      headerSection, "chkTitle",  Default::on},
-  {Option::headerRule, headerSection, "chkHLine",  Default::on},
-  {Option::date,       headerSection, "chkDate",   Default::on},
-  {Option::time,       headerSection, "chkTime",   Default::on},
-  {Option::titleText,  headerSection, "txtTitle",  Default::reportTitle},
-  {Option::footer,     footerSection, "Checked",   Default::on},
-  {Option::field1,     footerSection, "chkField1", Default::on},
-  {Option::field2,     footerSection, "chkField2", Default::on},
-  {Option::footerRule, footerSection, "chkFLine",  Default::on},
-  {Option::pageNumber, footerSection, "chkPgNo",   Default::on},
-  {Option::field1Text, footerSection, "txtField1", Default::owner},
-  {Option::field2Text, footerSection, "txtField2", Default::documentName},
-}};
-// clang-format on
-
-/// Row of the table for `option`.
-[[nodiscard]] constexpr const StoredOption& storedOption(Option option) {
-  return storedOptions[static_cast<std::size_t>(option)];
+/// The settings of header and footer stand together in the table of settings.
+constexpr auto firstOption = static_cast<std::size_t>(Setting::header);
+constexpr std::size_t optionCount =
+    static_cast<std::size_t>(Setting::footerField2Text) - firstOption + 1;
+[[nodiscard]] constexpr std::span<const library::SettingRow, optionCount> optionRows() {
+  return std::span(library::settings).subspan<firstOption, optionCount>();
 }
-
-namespace detail {
-constexpr bool optionsAreInOrder() {
-  for (std::size_t i = 0; i < storedOptions.size(); ++i)
-    if (static_cast<std::size_t>(storedOptions[i].option) != i) return false;
-  return true;
-}
-}  // namespace detail
-static_assert(detail::optionsAreInOrder());
 
 /// What the defaults are made of.
 struct DefaultTexts {
@@ -84,19 +33,19 @@ struct DefaultTexts {
 };
 
 /// Text of a setting when nothing is stored: "1" for a switch.
-[[nodiscard]] std::string defaultText(Default kind, const DefaultTexts& texts);
+[[nodiscard]] std::string defaultText(Setting option, const DefaultTexts& texts);
 
 /// The settings as texts, by option.
 class HeaderFooterOptions {
  public:
-  [[nodiscard]] std::string& operator[](Option option) {
-    return values_[static_cast<std::size_t>(option)];
+  [[nodiscard]] std::string& operator[](Setting option) {
+    return values_[static_cast<std::size_t>(option) - firstOption];
   }
-  [[nodiscard]] const std::string& operator[](Option option) const {
-    return values_[static_cast<std::size_t>(option)];
+  [[nodiscard]] const std::string& operator[](Setting option) const {
+    return values_[static_cast<std::size_t>(option) - firstOption];
   }
   /// Whether a switch is on: only exactly "1" is.
-  [[nodiscard]] bool on(Option option) const { return (*this)[option] == "1"; }
+  [[nodiscard]] bool on(Setting option) const { return (*this)[option] == "1"; }
 
  private:
   std::array<std::string, optionCount> values_;

@@ -3,15 +3,11 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
-#include "library/settings_text.h"
+#include "library/stored_settings_win.h"
 #include "values/user_locale_win.h"
 #include "windowing/application_win.h"
 
 namespace pagesetup {
-
-std::string keyOf(const StoredOption& stored) {
-  return library::productKey(windowing::companyName(), windowing::productName(), stored.section);
-}
 
 DefaultTexts defaultTexts() {
   const std::string& path = library::modLibrary().documentPath;
@@ -23,10 +19,8 @@ DefaultTexts defaultTexts() {
 HeaderFooterOptions readOptions() {
   const DefaultTexts texts = defaultTexts();
   HeaderFooterOptions options;
-  for (const StoredOption& stored : storedOptions)
-    options[stored.option] =
-        library::LIBRARY().REGSTRREAD(library::currentUserRoot, keyOf(stored), stored.valueName,
-                                      defaultText(stored.otherwise, texts));
+  for (const library::SettingRow& row : optionRows())
+    options[row.setting] = library::readText(row.setting, defaultText(row.setting, texts));
   return options;
 }
 

@@ -1,14 +1,9 @@
 // The header and footer settings as the settings store has them at the moment.
 #pragma once
 
-#include <string>
-
 #include "pagesetup/header_footer.h"
 
 namespace pagesetup {
-
-/// Key of a setting below the user's root.
-[[nodiscard]] std::string keyOf(const StoredOption& stored);
 
 /// What the defaults are made of: the product, the registered owner, the open document.
 [[nodiscard]] DefaultTexts defaultTexts();

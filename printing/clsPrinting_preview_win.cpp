@@ -4,10 +4,9 @@
 #include <string>
 
 #include "library/clsLibrary_win.h"
-#include "library/own_keys_win.h"
+#include "library/stored_settings_win.h"
 #include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
-#include "printing/preview_settings.h"
 #include "printing/printer_ready_win.h"
 #include "printing/zoom.h"
 #include "values/checked.h"
@@ -79,9 +78,7 @@ void clsPrinting::preparePreview() {
   fillLists();
   goToPage(1);
   ApplyZoomPercent(100);
-  const std::string stored =
-      LIBRARY().REGSTRREAD(library::currentUserRoot, library::familyKey(previewSection), zoomValue,
-                           std::string(defaultZoom));
+  const std::string stored = library::readText(library::Setting::previewZoom);
   setZoom(zoomIndex(stored) ? std::string_view(stored) : defaultZoom);
   UpdatePageButtons();
   showPaperSize();

@@ -6,14 +6,11 @@
 
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
-#include "library/settings_text.h"
+#include "library/stored_settings_win.h"
 #include "paper/printer_win.h"
 #include "printing/frmPPrev_win.h"
 #include "values/checked.h"
-#include "values/number_text.h"
 #include "values/units.h"
-#include "values/user_locale_win.h"
-#include "windowing/application_win.h"
 
 namespace printing {
 namespace {
@@ -28,13 +25,6 @@ using values::twipsPerInch;
 
 constexpr DWORD everyPrint = PD_COLLATE | PD_RETURNDC | PD_HIDEPRINTTOFILE;
 
-double readMargin(const char* valueName) {
-  const std::string key = library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items");
-  return values::storedNumber(
-      library::LIBRARY().REGSTRREAD(library::currentUserRoot, key, valueName, "1"),
-      values::userDecimalSign());
-}
-
 // Whole inches in twips; more than 22 inches do not fit.
 std::int16_t inchTwips(std::int16_t inches) {
   return checkedMultiply(inches, std::int16_t{twipsPerInch});
@@ -43,10 +33,12 @@ std::int16_t inchTwips(std::int16_t inches) {
 }  // namespace
 
 void clsPrinting::GETMARGINS() {
-  left_ = readMargin("Page Margin 0");
-  right_ = readMargin("Page Margin 1");
-  top_ = readMargin("Page Margin 2");
-  bottom_ = readMargin("Page Margin 3");
+  using library::readNumber;
+  using library::Setting;
+  left_ = readNumber(Setting::leftMargin);
+  right_ = readNumber(Setting::rightMargin);
+  top_ = readNumber(Setting::topMargin);
+  bottom_ = readNumber(Setting::bottomMargin);
 }
 
 clsPrinting::BodyMargins clsPrinting::wholeInches() const {

@@ -7,12 +7,11 @@
 #include "controls/TXTSEP_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
-#include "library/own_keys_win.h"
 #include "library/resource_ids.h"
+#include "library/stored_settings_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_design_win.h"
 #include "printing/preview_commands.h"
-#include "printing/preview_settings.h"
 #include "values/number_text.h"
 #include "values/runtime_error.h"
 #include "windowing/handle_text_win.h"
@@ -33,22 +32,6 @@ constexpr int groupStarts[] = {id::FIRST, id::ZOOMOUT};
 
 // The document noun that descriptions insert.
 constexpr char documentNoun[] = "tellary";
-
-// A stored text that is no truth value must not keep the window from loading: the bar is shown
-// then, as on the first start.
-bool storedBar(const char* value) {
-  const std::string text = LIBRARY().REGSTRREAD(library::currentUserRoot,
-                                                library::familyKey(previewSection), value, "True");
-  try {
-    return values::booleanOfText(text);
-  } catch (const values::RuntimeError&) {
-    return true;
-  }
-}
-
-void storeItem(const char* value, const std::string& text) {
-  LIBRARY().REGSTRWRITE(library::currentUserRoot, library::familyKey(previewSection), value, text);
-}
 
 void prepareList(const windowing::ComboBox& list, const char* rows) {
   LIBRARY().COMBOINIT(windowing::handleText(list.handle()), rows, list, true);
@@ -159,10 +142,10 @@ void frmPPrev::arrangeStrip() {
 }
 
 void frmPPrev::applyView() {
-  const bool toolbar = storedBar(toolbarValue);
+  const bool toolbar = library::readTruth(library::Setting::previewToolbar);
   control(id::PICTBAR).setVisible(toolbar);
   setCommandChecked(id::TOOLBAR, toolbar);
-  const bool statusBar = storedBar(statusBarValue);
+  const bool statusBar = library::readTruth(library::Setting::previewStatusBar);
   SBMAIN().setVisible(statusBar);
   setCommandChecked(id::STATUSBAR, statusBar);
 }
@@ -211,7 +194,7 @@ void frmPPrev::setPaperSize(const std::string& text) {
 
 void frmPPrev::restorePlace() {
   try {
-    LIBRARY().FORMLOAD(previewPlaceName, *this, true);
+    LIBRARY().FORMLOAD(library::sharedPlace, *this, true);
   } catch (const values::RuntimeError&) {
     // A stored place that is none: the window stays where its design put it.
   }
@@ -232,11 +215,11 @@ void frmPPrev::onUnload() {
 }
 
 void frmPPrev::store() {
-  LIBRARY().FORMSAVE(previewPlaceName, *this, true);
+  LIBRARY().FORMSAVE(library::sharedPlace, *this, true);
   const windowing::ComboBox zooms = CBOPGZOOM();
-  storeItem(zoomValue, zooms.entry(zooms.selected()));
-  storeItem(statusBarValue, values::textOfBoolean(SBMAIN().visible()));
-  storeItem(toolbarValue, values::textOfBoolean(control(id::PICTBAR).visible()));
+  library::writeText(library::Setting::previewZoom, zooms.entry(zooms.selected()));
+  library::writeTruth(library::Setting::previewStatusBar, SBMAIN().visible());
+  library::writeTruth(library::Setting::previewToolbar, control(id::PICTBAR).visible());
 }
 
 frmPPrev& thePreview() {

@@ -63,4 +63,14 @@ class RuntimeError : public std::runtime_error {
          dynamic_cast<const std::length_error*>(&error) != nullptr;
 }
 
+/// Runs a step that the rest can do without: whatever error ends it, the caller goes on.
+template <typename Step>
+void ignoringErrors(Step step) {
+  try {
+    step();
+  } catch (const std::exception&) {
+    // What the step would have shown or done stays as it was.
+  }
+}
+
 }  // namespace values

@@ -7,6 +7,7 @@
 #include <random>
 #include <string_view>
 
+#include "library/settings.h"
 #include "tests/app/support/fixture_win.h"
 #include "tests/support/printers_win.h"
 
@@ -16,27 +17,8 @@ using namespace std::string_view_literals;
 using test_support::RawValue;
 namespace id = library::id;
 
-const std::string maker = "SOFTWARE\\Zandor Software Development\\";
-const std::vector<const char*> place = {"Window State", "Left", "Top", "Width", "Height"};
-
-const struct {
-  const char* key;
-  std::vector<const char*> values;
-} settings[] = {
-    {"Tellary\\frmMain\\Window", place},
-    {"Tellary\\frmPSetup\\Window", place},
-    {"Tellary\\GLOBAL\\Window", place},
-    {"Tellary\\frmMain\\View", {"Standard Toolbar", "Status Bar"}},
-    {"Tellary\\frmMain\\Items", {"CMD Open Folder", "CMD Save Folder"}},
-    {"Tellary\\frmPrefs\\Items", {"Files Location"}},
-    {"Tellary\\frmPPrev\\Items\\Header",
-     {"Checked", "chkTitle", "chkHLine", "chkDate", "chkTime", "txtTitle"}},
-    {"Tellary\\frmPPrev\\Items\\Footer",
-     {"Checked", "chkField1", "chkField2", "chkFLine", "chkPgNo", "txtField1", "txtField2"}},
-    {"GLOBAL\\tems", {"Page Margin 0"}},
-    {"GLOBAL\\frmPPrev\\Items",
-     {"Page Margin 0", "Page Margin 1", "Page Margin 2", "Page Margin 3", "Zoom", "Toolbar",
-      "Status Bar"}}};
+// Names that places of windows are kept under.
+constexpr const char* placeNames[] = {"frmMain", "frmPSetup", library::sharedPlace};
 
 // One kind a round: where everything is nonsense, what stands behind a number is not reached.
 enum Kind : std::size_t { nonsense, numbers, smallNumbers };
@@ -72,11 +54,15 @@ class HostileSettings : public drive::AppTest {
 
   void spoilSettings() {
     const std::size_t kind = random_() % std::size(texts);
-    for (const auto& section : settings)
-      for (const char* name : section.values) {
+    for (const library::SettingRow& row : library::settings) {
+      if (row.scope == library::Scope::machine) continue;  // not the user's
+      for (const char* form : placeNames) {
         const RawValue value = garbage(kind);
-        Registry::put(HKEY_CURRENT_USER, maker + section.key, name, value.type, value.bytes);
+        Registry::put(HKEY_CURRENT_USER,
+                      library::settingKey(row, "Zandor Software Development", "Tellary", form),
+                      row.name, value.type, value.bytes);
       }
+    }
   }
 
   /// Whether enough of the window's title bar is on the screen to take hold of it.

@@ -22,7 +22,7 @@ FormPlacement loaded(const StoredPlacement& stored, bool sizable = true, double 
 std::string written(const FormPlacement& form, bool sizable) {
   std::string all;
   for (const StoredValue& value : placementToStore(form, sizable, ','))
-    all += std::string(value.name) + "=" + value.text + ";";
+    all += std::string(settingRow(value.setting).name) + "=" + value.text + ";";
   return all;
 }
 

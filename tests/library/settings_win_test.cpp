@@ -1,13 +1,16 @@
 #include <gtest/gtest.h>
 
 #include "library/clsLibrary_win.h"
+#include "library/stored_settings_win.h"
 #include "tests/support/scratch_folder_win.h"
 #include "tests/support/scratch_registry_win.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 
 namespace library {
 namespace {
 
+using test_support::RawValue;
 using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
 
@@ -69,6 +72,37 @@ TEST_F(Settings, WhatCannotBeReadIsTheDefault) {
     EXPECT_FALSE(LIBRARY().REGBINARYREAD(userRoot, key, "v", {1}));
   }
   EXPECT_EQ(read("v"), "secret");
+}
+
+// Whatever lies there, a reader answers as the kind of the setting has it.
+TEST_F(Settings, HostileValuesFallBack) {
+  struct Hostile {
+    RawValue value;
+    std::string asText;  ///< "default" where it is not read as a text at all
+    double asNumber;     ///< 0 where it is none
+  };
+  const Hostile hostile[] = {{{REG_DWORD, "\1\2\3\4"}, "default", 1},
+                             {{REG_BINARY, "7"}, "default", 1},
+                             {{REG_SZ, std::string(70000, '9')}, "default", 1},
+                             {{REG_SZ, std::string(1, '\0')}, "", 0},
+                             {{REG_SZ, std::string("banana\0", 7)}, "banana", 0},
+                             {{REG_SZ, std::string("-1440\0", 6)}, "-1440", -1440},
+                             {{REG_SZ, std::string("99999\0", 6)}, "99999", 99999}};
+  for (const SettingRow& row : settings)
+    for (const Hostile& stored : hostile) {
+      SCOPED_TRACE(std::string(row.name) + " " + stored.asText);
+      ScratchRegistry::put(registry.rootOf(row.setting), keyOf(row.setting), row.name,
+                           stored.value.type, stored.value.bytes);
+      EXPECT_EQ(readText(row.setting, "default"), stored.asText);
+      if (row.kind == SettingKind::truth) {
+        EXPECT_TRUE(readTruth(row.setting));
+      }
+      if (row.kind != SettingKind::inches) continue;
+      if (stored.asNumber != 0)
+        EXPECT_EQ(readNumber(row.setting), stored.asNumber);
+      else
+        EXPECT_THROW((void)readNumber(row.setting), values::RuntimeError);
+    }
 }
 
 TEST_F(Settings, HandlesStayOpenOnlyAfterAFailedWrite) {

@@ -6,13 +6,13 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/identifiers.h"
-#include "library/own_keys_win.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/short_memory_win.h"
 
 namespace {
 
 namespace id = library::id;
+using library::Setting;
 using test_support::MainWindowTest;
 using test_support::Names;
 
@@ -106,7 +106,6 @@ TEST_F(Document, WhatCannotBeReadLeavesAllInStep) {
 
 // The system's dialog does not survive a device, and nobody is helped by a folder that is gone.
 TEST_F(Document, OnlyAFolderThatIsThereIsHandedToADialog) {
-  const std::string key = library::ownKey("\\frmMain\\Items");
   const std::string fallBack = library::LIBRARY().FILESLOCATION();
   const std::string file = scratch.file("file.tly", "");
   const struct {
@@ -128,19 +127,18 @@ TEST_F(Document, OnlyAFolderThatIsThereIsHandedToADialog) {
               {scratch / "gone", fallBack},
               {std::string(200, 'x'), fallBack},
               {scratch / std::string(100, '.'), scratch.path() + "\\"}};
-  const std::pair<int, const char*> commands[] = {{id::OPEN, "CMD Open Folder"},
-                                                  {id::SAVEAS, "CMD Save Folder"}};
+  const std::pair<int, Setting> commands[] = {{id::OPEN, Setting::openFolder},
+                                              {id::SAVEAS, Setting::saveFolder}};
   for (const auto& [stored, handed] : rows) {
-    for (const auto& [command, value] : commands) {
-      test_support::ScratchRegistry::putText(registry.user(), key, value, stored);
+    for (const auto& [command, setting] : commands) {
+      registry.store(setting, stored);
       run(command);
       EXPECT_EQ(dialogs.back().folder, handed) << stored;
     }
   }
   // Not even that may be one.
-  test_support::ScratchRegistry::putText(registry.user(), key, "CMD Open Folder", "con");
-  test_support::ScratchRegistry::putText(registry.user(), library::ownKey("\\frmPrefs\\Items"),
-                                         "Files Location", R"(\\.\C:\)");
+  registry.store(Setting::openFolder, "con");
+  registry.store(Setting::filesLocation, R"(\\.\C:\)");
   run(id::OPEN);
   EXPECT_EQ(dialogs.back().folder, "");
 }

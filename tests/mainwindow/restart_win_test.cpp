@@ -2,14 +2,18 @@
 #include <gtest/gtest.h>
 
 #include "controls/ICOMNU_win.h"
+#include "dialogs/frmAbout_win.h"
+#include "dialogs/frmProps_win.h"
 #include "library/identifiers.h"
-#include "library/own_keys_win.h"
+#include "pagesetup/frmPSetup_win.h"
+#include "printing/frmPPrev_win.h"
 #include "tests/support/main_window_win.h"
+#include "tests/support/printers_win.h"
 
 namespace {
 
 namespace id = library::id;
-using test_support::ScratchRegistry;
+using library::Setting;
 
 class Restart : public test_support::MainWindowTest {
  protected:
@@ -42,18 +46,35 @@ TEST_F(Restart, EachBarComesBackAsItWasLeft) {
   EXPECT_EQ(bars(), "status");
 }
 
-TEST_F(Restart, ABarWhoseSettingIsNoTruthValueIsShown) {
-  for (const char* bar : {"Status Bar", "Standard Toolbar"})
-    ScratchRegistry::putText(registry.user(), library::ownKey("\\frmMain\\View"), bar, "banana");
-  restart();
-  EXPECT_EQ(bars(), "toolbar status");
+TEST_F(Restart, EveryFormOpensWhateverTheSettingsAre) {
+  const test_support::TestPrinters printers;
+  const test_support::RawValue hostile[] = {{REG_DWORD, "\1\2\3\4"},
+                                            {REG_SZ, std::string(70000, '9')},
+                                            {REG_SZ, std::string(1, '\0')},
+                                            {REG_SZ, std::string("banana\0", 7)},
+                                            {REG_SZ, std::string("-1440\0", 6)},
+                                            {REG_SZ, std::string("99999\0", 6)}};
+  for (const test_support::RawValue& value : hostile) {
+    for (const library::SettingRow& row : library::settings)
+      for (const char* place : {"frmMain", "frmPSetup", library::sharedPlace})
+        test_support::ScratchRegistry::put(registry.rootOf(row.setting),
+                                           library::keyOf(row.setting, place), row.name, value.type,
+                                           value.bytes);
+    restart();
+    EXPECT_EQ(bars(), "toolbar status");
+    EXPECT_NO_THROW(pagesetup::frmPSetup().load());
+    EXPECT_NO_THROW(dialogs::frmProps().load());
+    EXPECT_NO_THROW(dialogs::frmAbout().load());
+    EXPECT_NO_THROW(printing::thePreview().load());
+    EXPECT_NO_THROW(printing::thePreview().restorePlace());
+    EXPECT_TRUE(printing::thePreview().unload());
+  }
 }
 
 TEST_F(Restart, ThePlaceIsStoredWhenTheSessionEndsAndNotBefore) {
   for (const bool ends : {false, true}) {
     SendMessageA(form.handle(), WM_ENDSESSION, ends, 0);
-    const std::string left =
-        ScratchRegistry::text(registry.user(), library::ownKey("\\frmMain\\Window"), "Left");
+    const std::string left = registry.stored(Setting::windowLeft, "frmMain");
     EXPECT_NE(left == "(none)", ends) << left;
   }
 }

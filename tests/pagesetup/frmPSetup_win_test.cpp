@@ -21,17 +21,15 @@
 namespace pagesetup {
 namespace {
 
+using library::Setting;
 using paper::Orientation;
 using paper::printer;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 namespace id = library::id::psetup;
 
-constexpr char marginKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items";
-constexpr char placeKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\frmPSetup\\Window";
-constexpr char ownerKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
-constexpr const char* edges[] = {"Page Margin 0", "Page Margin 1", "Page Margin 2",
-                                 "Page Margin 3"};
+constexpr Setting edges[] = {Setting::leftMargin, Setting::rightMargin, Setting::topMargin,
+                             Setting::bottomMargin};
 constexpr int marginBoxes[] = {id::UDNLEFT, id::UDNRIGHT, id::UDNTOP, id::UDNBOTTOM};
 constexpr int masters[] = {id::CHKHEADER, id::CHKFOOTER};
 constexpr int items[] = {id::CHKHEADTITLE,  id::CHKHEADDATE,   id::CHKHEADTIME, id::CHKHEADLINE,
@@ -46,7 +44,7 @@ class PageSetup : public testing::Test {
     printer().select(TestPrinters::a4);
     printer().select(TestPrinters::letter);
     forget();
-    ScratchRegistry::putText(settings_.machine(), ownerKey, "RegisteredOwner", "Ann Bee");
+    settings_.store(Setting::registeredOwner, "Ann Bee");
   }
   ~PageSetup() override {
     form_.unload();
@@ -95,21 +93,15 @@ class PageSetup : public testing::Test {
     for (const int box : items) all += std::to_string(state(box));
     return all;
   }
-  void storeMargin(const char* edge, const std::string& inches) const {
-    ScratchRegistry::putText(settings_.user(), marginKey, edge, inches);
-  }
-  void storeOption(const StoredOption& option, const std::string& value) const {
-    ScratchRegistry::putText(settings_.user(), keyOf(option), option.valueName, value);
-  }
   /// What is stored: the margins and the options, "-" where there is nothing.
   [[nodiscard]] std::string stored() const {
     std::string all;
-    const auto add = [&](const std::string& key, const char* name) {
-      const std::string text = ScratchRegistry::text(settings_.user(), key, name);
+    const auto add = [&](Setting setting) {
+      const std::string text = settings_.stored(setting);
       all += (text == "(none)" ? "-" : text) + "|";
     };
-    for (const char* edge : edges) add(marginKey, edge);
-    for (const StoredOption& option : storedOptions) add(keyOf(option), option.valueName);
+    for (const Setting edge : edges) add(edge);
+    for (const library::SettingRow& option : optionRows()) add(option.setting);
     return all;
   }
   [[nodiscard]] static std::string remembered() {
@@ -261,9 +253,9 @@ TEST_F(PageSetup, CancelWritesNothingButChoicesStay) {
 }
 
 TEST_F(PageSetup, DefaultsShowAndStoreNothing) {
-  for (const char* edge : edges) storeMargin(edge, "2.5");
-  for (const StoredOption& option : storedOptions)
-    storeOption(option, option.otherwise == Default::on ? "0" : "mine");
+  for (const Setting edge : edges) settings_.store(edge, "2.5");
+  for (const library::SettingRow& option : optionRows())
+    settings_.store(option.setting, option.kind == library::SettingKind::tick ? "0" : "mine");
   const std::string before = stored();
   library::modLibrary().documentPath = "C:\\Book.tly";
   form_.load();
@@ -285,19 +277,20 @@ TEST_F(PageSetup, DefaultsShowAndStoreNothing) {
 }
 
 TEST_F(PageSetup, StoredMarginsOfEveryKind) {
-  ScratchRegistry::putText(settings_.user(), placeKey, "Left", "far");  // nor is a place needed
+  settings_.store(Setting::windowLeft, "far", "frmPSetup");  // nor is a place needed
   const std::pair<const char*, const char*> cases[] = {
       {"0.75", "0.8"},  {"0,75", "0.8"}, {" .5 ", "0.5"}, {"0", "0.0"},  {"3.8", "3.7"},
       {"1e300", "3.7"}, {"abc", "1.0"},  {"", "1.0"},     {"-2", "1.0"}, {"1,000", "1.0"}};
   for (const auto& [inStore, shown] : cases) {
-    storeMargin(edges[0], inStore);
+    settings_.store(edges[0], inStore);
     reload();
     EXPECT_EQ(text(id::UDNLEFT), shown) << inStore;
     EXPECT_FALSE(accepts()) << inStore;
     EXPECT_EQ(stored().substr(0, stored().find('|')), inStore);
   }
-  ScratchRegistry::put(settings_.user(), marginKey, edges[3], REG_DWORD, "\2\1\1");
-  storeMargin(edges[2], std::string(300, '2'));
+  ScratchRegistry::put(settings_.user(), library::keyOf(edges[3]),
+                       library::settingRow(edges[3]).name, REG_DWORD, "\2\1\1");
+  settings_.store(edges[2], std::string(300, '2'));
   reload();
   EXPECT_EQ(texts({id::UDNTOP, id::UDNBOTTOM}), "1.0|1.0|");
   EXPECT_TRUE(boxes_.empty());
@@ -309,8 +302,8 @@ TEST_F(PageSetup, StoredStatesOfEveryKind) {
                                                {"True", 0}, {"1.5", 0}, {"1,0", 1}};
   for (const auto& [inStore, shown] : cases) {
     SCOPED_TRACE(inStore);
-    storeOption(storedOption(Option::date), inStore);
-    storeOption(storedOption(Option::footer), inStore);
+    settings_.store(Setting::headerDate, inStore);
+    settings_.store(Setting::footer, inStore);
     form_.load();
     EXPECT_EQ(state(id::CHKHEADDATE), shown);
     EXPECT_EQ(state(id::CHKFOOTER), shown);
@@ -327,7 +320,7 @@ TEST_F(PageSetup, StoredStatesOfEveryKind) {
     EXPECT_EQ(printer().paperSize(), 1);
   }
   // The first click ends the third state for good.
-  storeOption(storedOption(Option::title), "2");
+  settings_.store(Setting::headerTitle, "2");
   form_.load();
   for (const int expected : {0, 1, 0}) {
     click(id::CHKHEADTITLE);

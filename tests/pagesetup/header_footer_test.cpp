@@ -11,8 +11,8 @@ namespace {
 
 HeaderFooterOptions defaults() {
   HeaderFooterOptions options;
-  for (const StoredOption& stored : storedOptions)
-    options[stored.option] = defaultText(stored.otherwise, {"Tellary", "Ann Bee", ""});
+  for (const library::SettingRow& row : optionRows())
+    options[row.setting] = defaultText(row.setting, {"Tellary", "Ann Bee", ""});
   return options;
 }
 
@@ -56,17 +56,18 @@ TEST(HeaderAndFooter, StandWhereTheFamilyPutsThem) {
 
 TEST(HeaderAndFooter, CentreByTheNumberOfCharacters) {
   HeaderFooterOptions options;
-  options[Option::header] = options[Option::title] = "1";
-  options[Option::footer] = options[Option::pageNumber] = "1";
-  options[Option::titleText] = std::string(254, 'x');
+  options[Setting::header] = options[Setting::headerTitle] = "1";
+  options[Setting::footer] = options[Setting::footerPageNumber] = "1";
+  options[Setting::headerTitleText] = std::string(254, 'x');
   Page page = letterPage();
   page.number = "10";
-  EXPECT_EQ(drawn(options, page), "-15070,740 " + options[Option::titleText] + "|5950,14760 10|");
+  EXPECT_EQ(drawn(options, page),
+            "-15070,740 " + options[Setting::headerTitleText] + "|5950,14760 10|");
   // Bytes of two that are one character count once, and so does a first one that stands alone.
   const std::pair<std::string, const char*> titles[] = {{"\x83\x5C\x95\x5C", "6350,740 "},
                                                         {"a\x83\x5Cz\x83", "6180,740 "}};
   for (const auto& [title, place] : titles) {
-    options[Option::titleText] = title;
+    options[Setting::headerTitleText] = title;
     EXPECT_EQ(drawn(options, page), place + title + "|5950,14760 10|");
   }
   page.surface = Surface::preview;
@@ -86,16 +87,16 @@ TEST(HeaderAndFooter, TakeTheMarginsCrossedAndUnclamped) {
 TEST(HeaderAndFooter, SwitchesAreOnOnlyWhenExactlyOne) {
   for (const char* off : {"0", "2", "", "True", "01", " 1", "1.0"}) {
     HeaderFooterOptions options = defaults();
-    options[Option::header] = off;
+    options[Setting::header] = off;
     EXPECT_EQ(headerAndFooter(options, letterPage(), isLeadByte).size(), 4U) << off;
-    options[Option::footer] = off;
+    options[Setting::footer] = off;
     EXPECT_EQ(drawn(options, letterPage()), "") << off;
   }
   const std::string all = drawn(defaults(), letterPage());
   std::size_t start = 0;
-  for (const Option item :
-       {Option::headerRule, Option::date, Option::time, Option::title, Option::footerRule,
-        Option::field1, Option::field2, Option::pageNumber}) {
+  for (const Setting item : {Setting::headerRule, Setting::headerDate, Setting::headerTime,
+                             Setting::headerTitle, Setting::footerRule, Setting::footerField1,
+                             Setting::footerField2, Setting::footerPageNumber}) {
     HeaderFooterOptions options = defaults();
     options[item] = "0";
     const std::size_t end = all.find('|', start) + 1;
@@ -130,13 +131,13 @@ TEST(HeaderAndFooter, OverflowInSixteenBits) {
     EXPECT_EQ(overflowed, c.overflows) << &c - cases;
   }
   HeaderFooterOptions options = defaults();
-  options[Option::header] = "0";
+  options[Setting::header] = "0";
   Page page = letterPage();
   page.margins.top = -32768;
   EXPECT_NO_THROW((void)headerAndFooter(options, page, isLeadByte))
       << "what is off is not computed";
   options = {};
-  options[Option::footer] = "1";
+  options[Setting::footer] = "1";
   page.height = 32767 + 1441;
   EXPECT_THROW((void)headerAndFooter(options, page, isLeadByte), values::RuntimeError)
       << "the base itself has 16 bits";

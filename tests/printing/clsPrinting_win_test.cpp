@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "library/settings_text.h"
 #include "paper/printer_win.h"
 #include "printing/compose_report_win.h"
 #include "printing/frmPPrev_win.h"
@@ -18,6 +17,7 @@
 namespace printing {
 namespace {
 
+using library::Setting;
 using paper::printer;
 using paper::RichTextBox;
 using test_support::JobPage;
@@ -50,25 +50,16 @@ class Printing : public testing::Test {
     printer().select(TestPrinters::a4);
     printer().select(TestPrinters::letter);
     windowing::seams().localTime = [] { return SYSTEMTIME{2024, 2, 1, 5, 9, 5, 0, 0}; };
-    for (const char* edge : {"0", "1", "2", "3"}) setMargin(edge, "1");
-    setOption("Footer", "txtField1", "Ann Bee");
+    for (const Setting edge :
+         {Setting::leftMargin, Setting::rightMargin, Setting::topMargin, Setting::bottomMargin})
+      settings_.store(edge, "1");
+    settings_.store(Setting::footerField1Text, "Ann Bee");
   }
   ~Printing() override {
     windowing::seams() = real_;
     DestroyWindow(window_);
   }
 
-  void setMargin(const std::string& edge, const std::string& inches) {
-    ScratchRegistry::putText(
-        settings_.user(), library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items"),
-        "Page Margin " + edge, inches);
-  }
-  void setOption(const std::string& part, const std::string& name, const std::string& value) {
-    ScratchRegistry::putText(settings_.user(),
-                             library::productKey(windowing::companyName(), windowing::productName(),
-                                                 "\\frmPPrev\\Items\\" + part),
-                             name, value);
-  }
   // Prints as the toolbar does, without dialog.
   std::vector<JobPage> print() {
     TestPrinters::clearJobs();
@@ -156,16 +147,16 @@ TEST_F(Printing, RoundsBodyMarginsToWholeInchesAndHandsTheOthersOverCrossed) {
   };
   for (const Case& c :
        {Case{"0.4", 0, 576}, {"0.5", 0, 720}, {"2.5", 2880, 3600}, {"1.5", 2880, 2160}}) {
-    setMargin("0", c.inches);
+    settings_.store(Setting::leftMargin, c.inches);
     const JobPage page = print().at(0);
     EXPECT_NEAR(page.find("Body").x, (c.bodyTwips - 360) / 2.4, 0.6) << c.inches;
     EXPECT_NEAR(page.find("05/02").x, (c.dateTwips + 200) / 2.4, 0.6) << c.inches;
   }
   const int usual = print().at(0).find("Ann").y;
-  setMargin("1", "2");
+  settings_.store(Setting::rightMargin, "2");
   EXPECT_NEAR(usual - print().at(0).find("Ann").y, 1440 / 2.4, 1) << "the right margin lifts it";
-  setMargin("1", "1");
-  setMargin("3", "2");
+  settings_.store(Setting::rightMargin, "1");
+  settings_.store(Setting::bottomMargin, "2");
   EXPECT_EQ(print().at(0).find("Ann").y, usual);
   EXPECT_NEAR(print().at(0).rules.at(1).toX, (11400 - 2880) / 2.4, 1) << "it shortens the rules";
 }
@@ -173,20 +164,20 @@ TEST_F(Printing, RoundsBodyMarginsToWholeInchesAndHandsTheOthersOverCrossed) {
 TEST_F(Printing, EndsSilentlyWhereMarginsAreWrong) {
   RTF1_.setPlain("Body");
   for (const char* wrong : {"23", "x", "", "-23", "1e300"}) {
-    setMargin("2", wrong);
+    settings_.store(Setting::topMargin, wrong);
     EXPECT_TRUE(print().empty()) << wrong;
   }
   // So far above the page that the header's place overflows, with the job open by then.
-  setMargin("2", "-22.4");
+  settings_.store(Setting::topMargin, "-22.4");
   print();
   EXPECT_FALSE(printer().documentOpen());
   for (const char* odd : {"22", "-1", "0,5"}) {
-    setMargin("2", odd);
+    settings_.store(Setting::topMargin, odd);
     EXPECT_FALSE(print().empty()) << odd << " is no error, whatever room it leaves";
   }
-  setMargin("2", "1");
-  setMargin("0", "5");
-  setMargin("1", "5");
+  settings_.store(Setting::topMargin, "1");
+  settings_.store(Setting::leftMargin, "5");
+  settings_.store(Setting::rightMargin, "5");
   EXPECT_FALSE(print().empty()) << "no width";
 }
 
@@ -271,8 +262,8 @@ TEST_F(Printing, GivesAnEmptyTextOnePage) {
   thePreview().CMD1().toPage = 7;
   EXPECT_EQ(engine_.PAGECOUNT(thePreview(), 1, 1, 1, 1, 1), 1);
   EXPECT_EQ(thePreview().CMD1().toPage, 7) << "the dialog stays as it was";
-  setOption("Header", "Checked", "0");
-  setOption("Footer", "chkField2", "2");
+  settings_.store(Setting::header, "0");
+  settings_.store(Setting::footerField2, "2");
   const std::vector<JobPage> pages = print();
   ASSERT_EQ(pages.size(), 1U);
   EXPECT_EQ(pages[0].joined(), "Ann Bee|1|");
@@ -290,7 +281,7 @@ TEST_F(Printing, DrawsThePageOnShow) {
   EXPECT_NEAR(drawing.texts[6].y - printed.texts[6].y, 300, 1);
   EXPECT_NEAR(drawing.texts[2].x, ((12240 - 15 * 170) / 2.0 + 700) / 2.4, 0.6);
   EXPECT_NEAR(drawing.texts[4].x, (12240 - 5000) / 2.4, 0.6);
-  setMargin("1", "2");
+  settings_.store(Setting::rightMargin, "2");
   const test_support::DrawnLine rule = draw(1).lines.at(1);
   EXPECT_NEAR(rule.from.y, (15840 - 2880 + 200) / 2.4, 0.6) << "crossed as on paper";
   EXPECT_NEAR(rule.to.x, (12240 - 1440) / 2.4, 0.6);

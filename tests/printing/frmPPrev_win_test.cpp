@@ -5,7 +5,6 @@
 #include <functional>
 
 #include "library/identifiers.h"
-#include "library/settings_text.h"
 #include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
 #include "tests/support/print_job_win.h"
@@ -19,6 +18,7 @@
 namespace printing {
 namespace {
 
+using library::Setting;
 using paper::printer;
 using test_support::JobPage;
 using test_support::ScratchRegistry;
@@ -60,19 +60,6 @@ class Preview : public testing::Test {
   ~Preview() override {
     static_cast<void>(thePreview().unload());
     DestroyWindow(window_);
-  }
-
-  static std::string items() {
-    return library::sharedKey(windowing::companyName(), "\\GLOBAL\\frmPPrev\\Items");
-  }
-  static std::string place() {
-    return library::windowKey(windowing::companyName(), windowing::productName(), "GLOBAL");
-  }
-  void store(const std::string& name, const std::string& text) {
-    ScratchRegistry::putText(settings_.user(), items(), name, text);
-  }
-  std::string stored(const std::string& key, const std::string& name) {
-    return ScratchRegistry::text(settings_.user(), key, name);
   }
 
   // Shows the preview as the main window's command does and runs `test` meanwhile.
@@ -314,9 +301,10 @@ TEST_F(Preview, LaysOutAtEverySize) {
     RECT client{};
     GetClientRect(form.handle(), &client);
     EXPECT_EQ(edges(id::PICWINDOW).bottom, client.bottom);
-    EXPECT_EQ(stored(items(), "Toolbar"), "(none)") << "stored when it closes, not before";
+    EXPECT_EQ(settings_.stored(Setting::previewToolbar), "(none)")
+        << "stored when it closes, not before";
   });
-  EXPECT_EQ(stored(items(), "Toolbar"), "False");
+  EXPECT_EQ(settings_.stored(Setting::previewToolbar), "False");
 }
 
 TEST_F(Preview, KeepsItsSettings) {
@@ -325,11 +313,12 @@ TEST_F(Preview, KeepsItsSettings) {
     thePreview().runCommand(id::STATUSBAR);
     thePreview().moveOuter({30, 40, 730, 540});
   });
-  EXPECT_EQ(stored(items(), "Zoom"), "Whole Page");
-  EXPECT_EQ(stored(items(), "Status Bar"), "False");
-  EXPECT_EQ(stored(items(), "Toolbar"), "True");
-  EXPECT_EQ(stored(place(), "Window State"), "0");
-  EXPECT_EQ(stored(place(), "Width"), std::to_string(static_cast<int>(screenTwips(700))));
+  EXPECT_EQ(settings_.stored(Setting::previewZoom), "Whole Page");
+  EXPECT_EQ(settings_.stored(Setting::previewStatusBar), "False");
+  EXPECT_EQ(settings_.stored(Setting::previewToolbar), "True");
+  EXPECT_EQ(settings_.stored(Setting::windowState, library::sharedPlace), "0");
+  EXPECT_EQ(settings_.stored(Setting::windowWidth, library::sharedPlace),
+            std::to_string(static_cast<int>(screenTwips(700))));
   preview([&] {
     EXPECT_EQ(page() + "/" + zoom(), "1/Whole Page");
     EXPECT_EQ(thePreview().outerPixels().left, 30);
@@ -352,10 +341,10 @@ TEST_F(Preview, ReadsWhatOthersStored) {
                         {"page width", "maybe", "50 %", true},
                         {"Page Width", "-1", "Page Width", true},
                         {"0", "", "50 %", true}}) {
-    store("Zoom", c.zoom);
-    store("Toolbar", c.bar);
-    store("Status Bar", c.bar);
-    ScratchRegistry::putText(settings_.user(), place(), "Width", "wide");
+    settings_.store(Setting::previewZoom, c.zoom);
+    settings_.store(Setting::previewToolbar, c.bar);
+    settings_.store(Setting::previewStatusBar, c.bar);
+    settings_.store(Setting::windowWidth, "wide", library::sharedPlace);
     preview([&] {
       EXPECT_EQ(zoom(), c.expectedZoom) << c.zoom;
       EXPECT_EQ(thePreview().control(id::PICTBAR).visible(), c.expectedBar) << c.bar;
@@ -511,20 +500,21 @@ TEST_F(Preview, HiddenStoresNothing) {
   ASSERT_TRUE(thePreview().loaded());
   EXPECT_FALSE(IsWindowVisible(thePreview().handle()));
   EXPECT_TRUE(thePreview().unload());
-  EXPECT_EQ(stored(items(), "Zoom"), "(none)");
-  EXPECT_EQ(stored(place(), "Left"), "(none)");
+  EXPECT_EQ(settings_.stored(Setting::previewZoom), "(none)");
+  EXPECT_EQ(settings_.stored(Setting::windowLeft, library::sharedPlace), "(none)");
 }
 
 TEST_F(Preview, MarginsThatDoNotFitOpenNothing) {
   PRINTING().setReport(RTF1_);
   // The last one leaves room for the text, but none for the footer.
-  for (const auto& [value, margin] :
-       {std::pair{"Page Margin 2", "23"}, {"Page Margin 2", "x"}, {"Page Margin 1", "-22"}}) {
-    store(value, margin);
+  for (const auto& [edge, margin] : {std::pair{Setting::topMargin, "23"},
+                                     {Setting::topMargin, "x"},
+                                     {Setting::rightMargin, "-22"}}) {
+    settings_.store(edge, margin);
     EXPECT_THROW(PRINTING().PRINTPREVIEW(), values::RuntimeError) << margin;
     EXPECT_FALSE(thePreview().loaded());
     EXPECT_EQ(thePreview().PICSTDPAGE().dc(), nullptr) << "no page is left half drawn";
-    store(value, "1");
+    settings_.store(edge, "1");
   }
   preview([&] { EXPECT_EQ(thePreview().CBOPGNO().count(), 3); });
 }

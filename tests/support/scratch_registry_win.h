@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "library/stored_settings_win.h"
 #include "values/handles_win.h"
 #include "windowing/seams_win.h"
 
@@ -85,6 +86,18 @@ class ScratchRegistry {
     const std::optional<RawValue> value = get(root, key, name);
     if (!value || value->type != REG_SZ) return "(none)";
     return value->bytes.substr(0, value->bytes.find('\0'));
+  }
+
+  /// The same two for a setting of the program.
+  void store(library::Setting setting, const std::string& text, const std::string& form = {}) {
+    putText(rootOf(setting), library::keyOf(setting, form), library::settingRow(setting).name,
+            text);
+  }
+  [[nodiscard]] std::string stored(library::Setting setting, const std::string& form = {}) const {
+    return text(rootOf(setting), library::keyOf(setting, form), library::settingRow(setting).name);
+  }
+  [[nodiscard]] HKEY rootOf(library::Setting setting) const {
+    return library::settingRow(setting).scope == library::Scope::machine ? machine() : user();
   }
 
   /// Takes every right away from a key for the length of a scope.
