@@ -12,7 +12,7 @@
 
 namespace printing {
 
-class frmPPrev : public library::CommandForm, public PrintForm {
+class frmPPrev : public library::CommandForm, public PreviewWindow {
  public:
   frmPPrev();
   ~frmPPrev() override;

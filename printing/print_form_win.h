@@ -1,4 +1,4 @@
-// The form that has what the print engine works with: the preview window, which loads, hidden, when
+// What printing works with but does not own: the preview window has it, and loads, hidden, when
 // any of it is used.
 #pragma once
 
@@ -23,8 +23,8 @@ class DialogForm {
   [[nodiscard]] virtual paper::PrintDialog& CMD1() = 0;
 };
 
-/// A form that owns what the print engine works with.
-class PrintForm : public DialogForm {
+/// What the print engine fills.
+class PageBoxes : public DialogForm {
  public:
   /// The pages that are being printed.
   [[nodiscard]] virtual paper::RichTextBox& RTF2() = 0;
@@ -32,7 +32,11 @@ class PrintForm : public DialogForm {
   [[nodiscard]] virtual paper::RichTextBox& RTF3() = 0;
   /// The page on show, at full size.
   [[nodiscard]] virtual paper::PagePicture& PICSTDPAGE() = 0;
+};
 
+/// What the preview's controller shows its state on.
+class PreviewWindow : public PageBoxes {
+ public:
   /// The lists of pages and zooms. Their texts are the page and the zoom on show; choosing in
   /// them by program does nothing else.
   [[nodiscard]] virtual windowing::ComboBox CBOPGNO() = 0;

@@ -1,0 +1,298 @@
+#include "printing/print_engine_win.h"
+
+#include <algorithm>
+#include <string>
+
+#include "library/centred_dialog_win.h"
+#include "library/clsLibrary_win.h"
+#include "library/stored_settings_win.h"
+#include "paper/printer_win.h"
+#include "values/checked.h"
+#include "values/units.h"
+
+namespace printing {
+namespace {
+
+using paper::printer;
+using paper::RichTextBox;
+using values::checkedAdd;
+using values::checkedMultiply;
+using values::checkedSubtract;
+using values::roundTo;
+using values::twipsPerInch;
+
+constexpr DWORD everyPrint = PD_COLLATE | PD_RETURNDC | PD_HIDEPRINTTOFILE;
+
+// Whole inches in twips; more than 22 inches do not fit.
+std::int16_t inchTwips(std::int16_t inches) {
+  return checkedMultiply(inches, std::int16_t{twipsPerInch});
+}
+
+// Drops what the box keeps of the pages it has laid out.
+void release(const RichTextBox& box) {
+  box.send(EM_FORMATRANGE, FALSE, 0);
+}
+
+// To the page that begins at `next`; each may have a device context of its own.
+void advance(FORMATRANGE& range, std::int32_t next) {
+  range.chrg.cpMin = next;
+  range.hdc = range.hdcTarget = printer().dc();
+}
+
+bool same(const RECT& a, const RECT& b) {
+  return EqualRect(&a, &b) != FALSE;
+}
+
+// A page being drawn. Header and footer may raise: neither the picture nor what the box keeps for
+// its pages stays open then.
+class OpenPage {
+ public:
+  OpenPage(paper::PagePicture& picture, const RichTextBox& text) : picture_(picture), text_(text) {
+    picture_.begin(printer().dc());
+  }
+  OpenPage(const OpenPage&) = delete;
+  OpenPage& operator=(const OpenPage&) = delete;
+  ~OpenPage() {
+    picture_.finish();
+    release(text_);
+  }
+
+ private:
+  paper::PagePicture& picture_;
+  const RichTextBox& text_;
+};
+
+}  // namespace
+
+void PrintEngine::readMargins() {
+  using library::readNumber;
+  using library::Setting;
+  inches_.left = readNumber(Setting::leftMargin);
+  inches_.right = readNumber(Setting::rightMargin);
+  inches_.top = readNumber(Setting::topMargin);
+  inches_.bottom = readNumber(Setting::bottomMargin);
+}
+
+PageMargins PrintEngine::wholeInches() const {
+  return {roundTo<std::int16_t>(inches_.left), roundTo<std::int16_t>(inches_.top),
+          roundTo<std::int16_t>(inches_.right), roundTo<std::int16_t>(inches_.bottom)};
+}
+
+PageMargins PrintEngine::inTwips() const {
+  const auto twips = [](double inches) { return roundTo<std::int16_t>(inches * twipsPerInch); };
+  return {twips(inches_.left), twips(inches_.top), twips(inches_.right), twips(inches_.bottom)};
+}
+
+void PrintEngine::SetupPageLayout(std::int16_t left, std::int16_t top, std::int16_t right,
+                                  std::int16_t bottom) {
+  currentPage_ = 1;
+  printer().setScaleMode(paper::PrinterScale::twips);
+  const double width = printer().width();
+  const double height = printer().height();
+  boxes_.PICSTDPAGE().resize(width, height);
+  const POINT pixels = printer().physicalOffset();
+  const auto offsetX = roundTo<std::int16_t>(pixels.x * printer().twipsPerPixelX());
+  const auto offsetY = roundTo<std::int16_t>(pixels.y * printer().twipsPerPixelY());
+  layout_.offset = {offsetX, offsetY};
+  layout_.page = {0, 0, roundTo<std::int32_t>(printer().scaleWidth()),
+                  roundTo<std::int32_t>(printer().scaleHeight())};
+  layout_.body.left = checkedSubtract(inchTwips(left), offsetX);
+  layout_.body.top = checkedSubtract(inchTwips(top), offsetY);
+  // From the paper's far edges, not from those of the printable area.
+  layout_.body.right = roundTo<std::int32_t>(width - inchTwips(right) - offsetX);
+  layout_.body.bottom = roundTo<std::int32_t>(height - inchTwips(bottom) - offsetY);
+}
+
+void PrintEngine::layOut(const PageMargins& wholeInches) {
+  SetupPageLayout(wholeInches.left, wholeInches.top, wholeInches.right, wholeInches.bottom);
+}
+
+FORMATRANGE PrintEngine::firstPage() const {
+  return {printer().dc(), printer().dc(), layout_.body, layout_.page, {0, -1}};
+}
+
+// Formats one page of `box` from range.cpMin on; the first character after it.
+std::int32_t PrintEngine::formatPage(const RichTextBox& box, FORMATRANGE& range) const {
+  range.rc = layout_.body;  // the control changes it
+  range.rcPage = layout_.page;
+  return static_cast<std::int32_t>(
+      box.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&range)));
+}
+
+// Whether the text goes on after a page. One that takes nothing in ends the text: margins may
+// leave no room.
+bool PrintEngine::goesOn(std::int32_t next, const FORMATRANGE& range) const {
+  return next < textLength_ && next > range.chrg.cpMin;
+}
+
+void PrintEngine::takeText(DialogForm& form, const RichTextBox& source) {
+  const bool everything = source.selection().length == 0;
+  dialogFlags_ = everyPrint | (everything ? PD_NOSELECTION : PD_SELECTION);
+  form.CMD1().flags = dialogFlags_;
+  RichTextBox& text = boxes_.RTF3();
+  text.setRichText(everything ? source.richText() : source.selectedRichText());
+  useText(text);
+  laidOut_ = {};
+}
+
+std::int32_t PrintEngine::countPages(DialogForm& form, const PageMargins& wholeInches) {
+  layOut(wholeInches);
+  const RichTextBox& text = boxes_.RTF3();
+  // What was printed last may have been a part of this text.
+  useText(text);
+  laidOut_ = {};
+  rememberPages();
+  pageCount_ = 1;
+  FORMATRANGE range = firstPage();
+  std::int32_t next = formatPage(text, range);
+  // Nothing to format: the dialog stays as it is, deliberately.
+  if (next == 0) return pageCount_;
+  for (; goesOn(next, range); next = formatPage(text, range)) {
+    advance(range, next);
+    laidOut_.starts.push_back(next);
+    pageCount_ = checkedAdd(pageCount_, std::int32_t{1});
+  }
+  release(text);
+  paper::PrintDialog& dialog = form.CMD1();
+  dialog.fromPage = 1;
+  dialog.toPage = dialog.max = pageCount_;
+  dialog.copies = 1;
+  printer().setCopies(dialog.copies);
+  dialog.cancelError = true;
+  return pageCount_;
+}
+
+void PrintEngine::refresh(DialogForm& form) {
+  readMargins();
+  layOut(wholeInches());
+  useText(boxes_.RTF3());
+  if (!pagesStillValid()) countPages(form);
+}
+
+void PrintEngine::print(DialogForm& form, bool skipDialog) {
+  paper::PrintDialog& dialog = form.CMD1();
+  readMargins();
+  dialog.cancelError = true;
+  countPages(form);
+  if (!skipDialog) askUser(form);
+  layOut(wholeInches());
+  if (skipDialog) dialog.copies = 1;
+  printer().setCopies(dialog.copies);
+  takePages(dialog.fromPage, dialog.toPage);
+  sendPages();
+}
+
+void PrintEngine::abandon() {
+  printer().abandonDocument();
+  release(boxes_.RTF2());
+  release(boxes_.RTF3());
+}
+
+// Another printer or paper may have been chosen: its pages are what the range is about.
+void PrintEngine::askUser(DialogForm& form) {
+  paper::PrintDialog& dialog = form.CMD1();
+  dialog.flags = dialogFlags_;  // an earlier choice of pages does not stick
+  {
+    const library::CentredDialog centred;
+    dialog.show();
+  }
+  const paper::PrintDialog chosen = dialog;
+  const std::int32_t count = countPages(form);
+  dialog.copies = chosen.copies;
+  if (!chosen.rangeChosen()) return;
+  dialog.fromPage = std::clamp(chosen.fromPage, 1, count);
+  dialog.toPage = std::clamp(chosen.toPage, dialog.fromPage, count);
+}
+
+// Copies the text of the pages from..to of RTF3 into RTF2.
+void PrintEngine::takePages(std::int32_t from, std::int32_t to) {
+  RichTextBox& text = boxes_.RTF3();
+  RichTextBox& pages = boxes_.RTF2();
+  useText(text);
+  FORMATRANGE range = firstPage();
+  std::int32_t start = 0;
+  std::int32_t end = 0;
+  for (std::int32_t page = 1;; ++page) {
+    if (page == from) start = range.chrg.cpMin;
+    const std::int32_t next = formatPage(text, range);
+    if (page == to) end = next;
+    if (!goesOn(next, range) || page == to) break;
+    advance(range, next);
+  }
+  pages.setPlain({});
+  text.select({start, std::max(0, end - start)});
+  pages.setRichText(text.selectedRichText());
+  useText(pages);
+  release(text);
+}
+
+void PrintEngine::sendPages() {
+  const RichTextBox& text = boxes_.RTF2();
+  const PageMargins margins = inTwips();
+  FORMATRANGE range = firstPage();
+  printer().startOutput();
+  for (std::int32_t page = 1;; ++page) {
+    // The page routine takes the bottom margin before the right one and gets them the other way
+    // round. That crossing is deliberate; it shows only where the two differ.
+    library::LIBRARY().PAGEHEADERFOOTERINFO(std::to_string(page), margins.left, margins.top,
+                                            margins.right, margins.bottom);
+    const std::int32_t next = formatPage(text, range);
+    if (!goesOn(next, range)) break;
+    printer().newPage();
+    advance(range, next);
+  }
+  printer().endDocument();
+  release(text);
+  release(boxes_.RTF3());
+}
+
+bool PrintEngine::pagesStillValid() const {
+  return same(laidOut_.body, layout_.body) && same(laidOut_.page, layout_.page) &&
+         laidOut_.target == printer().dc() && laidOut_.length == textLength_;
+}
+
+void PrintEngine::rememberPages() {
+  if (!pagesStillValid()) laidOut_ = {layout_.body, layout_.page, printer().dc(), textLength_, {0}};
+}
+
+// The range that begins page `page`, or the last page if there are fewer.
+FORMATRANGE PrintEngine::seekPage(std::int32_t page) {
+  rememberPages();
+  std::vector<std::int32_t>& starts = laidOut_.starts;
+  const auto known = static_cast<std::int32_t>(starts.size());
+  currentPage_ = std::clamp(page, std::int32_t{1}, known);
+  FORMATRANGE range = firstPage();
+  range.chrg.cpMin = starts[static_cast<std::size_t>(currentPage_) - 1];
+  for (; currentPage_ < page; ++currentPage_) {
+    const std::int32_t next = formatPage(boxes_.RTF3(), range);
+    if (!goesOn(next, range)) break;
+    advance(range, next);
+    starts.push_back(next);
+  }
+  return range;
+}
+
+void PrintEngine::drawPage(std::int32_t page, paper::PagePicture& picture) {
+  readMargins();
+  layOut(wholeInches());
+  useText(boxes_.RTF3());
+  drawAt(seekPage(page), picture);
+}
+
+void PrintEngine::drawAt(const FORMATRANGE& start, paper::PagePicture& picture) {
+  const RichTextBox& text = boxes_.RTF3();
+  const PageMargins margins = inTwips();
+  const OpenPage open(picture, text);
+  // Crossed as on the printer.
+  library::LIBRARY().PAGEHEADERFOOTERINFOPREVIEW(picture, std::to_string(currentPage_),
+                                                 margins.left, margins.top, margins.right,
+                                                 margins.bottom);
+  FORMATRANGE shown = start;
+  shown.hdc = picture.dc();
+  // The picture is the whole paper; places on the printer count from its printable corner.
+  shown.rc = layout_.body;
+  OffsetRect(&shown.rc, layout_.offset.x, layout_.offset.y);
+  text.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&shown));
+}
+
+}  // namespace printing
