@@ -48,7 +48,7 @@ bool sameName(const std::string& a, const std::string& b) {
 
 // The name that the shell shows, with the extension that Explorer may be set to hide. A
 // translated name, or any other that is not the disk's, would open nothing or another file.
-std::string fileNameOf(const std::string& shown, const std::string& onDisk) {
+std::string completeName(const std::string& shown, const std::string& onDisk) {
   if (sameName(shown, onDisk)) return shown;
   const std::size_t dot = onDisk.find_last_of('.');
   const std::string complete = dot == std::string::npos ? shown : shown + onDisk.substr(dot);
@@ -60,12 +60,11 @@ std::string fileNameOf(const std::string& shown, const std::string& onDisk) {
 std::string documentPathOf(const std::string& tail) {
   const std::string path = fullPathOf(tail);
   const std::string folder = folderOf(path);
-  const std::string typed =
-      path.substr(library::folderWithBackslash(path, values::isLeadByte).size());
+  const std::string typed = library::fileNameOf(path, values::isLeadByte);
   // A wildcard would find another file than the one that was named.
   if (typed.empty() || library::hasWildcards(path)) return folder + typed;
   const std::string onDisk = library::PROPERCASEPATH(folder + typed).substr(folder.size());
-  return folder + fileNameOf(shellDisplayName(path), onDisk);
+  return folder + completeName(shellDisplayName(path), onDisk);
 }
 
 }  // namespace app

@@ -45,10 +45,10 @@ constexpr int documentFacts[] = {id::TXTDOCPATH, id::TXTDOCPAGES, id::TXTDOCLINE
 constexpr int pictureFacts[] = {id::TXTPICTYPE, id::TXTPICPIXELDEPTH, id::TXTPICWIDTH,
                                 id::TXTPICHEIGHT};
 
-std::string fileNameOf(const std::string& path) {
-  const std::size_t folder = library::folderWithBackslash(path, values::isLeadByte).size();
-  // A drive's root has no name but itself.
-  return folder == path.size() ? path : path.substr(folder);
+// A drive's root has no name but itself.
+std::string shownName(const std::string& path) {
+  const std::string name = library::fileNameOf(path, values::isLeadByte);
+  return name.empty() ? path : name;
 }
 
 }  // namespace
@@ -131,10 +131,10 @@ void frmProps::fillGeneral() {
     control(id::TXTFILENAME).setText(LIBRARY().FILECHK(document));
     return;
   }
-  control(id::TXTFILENAME).setText(fileNameOf(document));
+  control(id::TXTFILENAME).setText(shownName(document));
   try {
     const std::string path = PROPERCASEPATH(fullPath(document));
-    const std::string name = fileNameOf(path);
+    const std::string name = shownName(path);
     control(id::TXTFILENAME).setText(name);
     facts_ = fileFacts(path);
     path_ = path;

@@ -4,6 +4,7 @@
 #include <shellapi.h>
 
 #include "library/clsLibrary_win.h"
+#include "library/message_numbers.h"
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/text_utilities.h"
@@ -95,7 +96,7 @@ void clsLibrary::FILERENAME(const std::string& CURRENTFILENAME, const std::strin
 
 bool clsLibrary::OVERWRITECHK(const std::string& CURRENTFILENAME) {
   if (!LIBRARY().FILEEXISTS(CURRENTFILENAME)) return true;
-  return LIBRARY().MESSAGEBOXFCN(3, CURRENTFILENAME, "", "", "") == IDYES;
+  return LIBRARY().MESSAGEBOXFCN(question::overwrite, CURRENTFILENAME, "", "", "") == IDYES;
 }
 
 void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& CURRENTFLDRLOCATION,

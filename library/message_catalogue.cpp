@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "library/message_numbers.h"
 #include "values/number_text.h"
 
 namespace library {
@@ -21,55 +22,65 @@ struct Entry {
   bool beep = false;
 };
 
-constexpr unsigned stop = 16, question = 32, exclamation = 48, information = 64;
+constexpr unsigned stop = 16, asking = 32, exclamation = 48, information = 64;
 constexpr unsigned yesNoCancel = 3, yesNo = 4, secondIsDefault = 256;
 
 // Spelling, quotes and blanks are as users of the family know them ("loose", "have all been").
 constexpr Entry messages[] = {
-    {1, "Spell Checker has now finished checking your document.", Title::fixed, "Spell Checker",
+    {message::spellingChecked, "Spell Checker has now finished checking your document.",
+     Title::fixed, "Spell Checker", information},
+    {message::textFound, "The text '%1' has been found '%2' time%b.", Title::fixed, "Find",
      information},
-    {3, "The text '%1' has been found '%2' time%b.", Title::fixed, "Find", information},
     // The plural follows the third text, not the second.
-    {6, "The text '%1' have all been replaced by '%2' %3 time%c.", Title::fixed, "Replace",
-     information},
-    {9, "The line number entered is larger than the current %1 lines available.", Title::fixed,
-     "Go To", exclamation},
-    {10, "There is a problem saving the document '%1'. This is possibly a read-only document.",
+    {message::textReplaced, "The text '%1' have all been replaced by '%2' %3 time%c.", Title::fixed,
+     "Replace", information},
+    {message::noSuchLine, "The line number entered is larger than the current %1 lines available.",
+     Title::fixed, "Go To", exclamation},
+    {message::problemSaving,
+     "There is a problem saving the document '%1'. This is possibly a read-only document.",
      Title::fixed, "Save", exclamation},
-    {12, "You cannot enter a value which leaves you with no room to print.", Title::fixed,
-     "Page Setup", exclamation},
+    {message::noRoomToPrint, "You cannot enter a value which leaves you with no room to print.",
+     Title::fixed, "Page Setup", exclamation},
     // The program's folder as title is deliberate.
-    {13, "There is no printer installed. You will not be able to use the printer functions.",
+    {message::noPrinter,
+     "There is no printer installed. You will not be able to use the printer functions.",
      Title::programFolder, "", stop, true},
-    {14, "There are problems reading %1 so the details will be only partly available.",
-     Title::fixed, "Properties", exclamation},
-    {15,
+    {message::problemsReading,
+     "There are problems reading %1 so the details will be only partly available.", Title::fixed,
+     "Properties", exclamation},
+    {message::invalidImage,
      "%1 is either an invalid format or the document is corrupt. \r\n Try re-saving the image to "
      "a different name from within a paint package and trying again.",
      Title::product, "", stop, true},
-    {19, "The document '%1' cannot be reopened. The document may no longer exist.", Title::fixed,
+    {message::cannotReopen,
+     "The document '%1' cannot be reopened. The document may no longer exist.", Title::fixed,
      "ReOpen", exclamation},
-    {22, "There is a problem with reading TGA 16 bit format, please try another format.",
-     Title::fixed, "Picture", exclamation},
+    {message::unreadableTga,
+     "There is a problem with reading TGA 16 bit format, please try another format.", Title::fixed,
+     "Picture", exclamation},
     // Names another product of the family, whichever shows it; deliberate.
-    {24,
+    {message::tooManyDocuments,
      "You have reached the limit of documents that can be opened in a session, sorry.\r\nYou "
      "could always close Pressling and re-launch it.",
      Title::product, "", stop, true},
-    {25, "The document %1 is no longer available and will now be removed from the list.",
+    {message::goneFromList,
+     "The document %1 is no longer available and will now be removed from the list.",
      Title::product, "", exclamation},
 };
 
 constexpr Entry questions[] = {
-    {2, "Are you really sure you want to delete '%1' to the Recycle Bin ?", Title::fixed,
-     "Clear Picture", yesNo | question | secondIsDefault},
-    {3, "The document '%1' already exists.\r\nDo you really want to overwrite this ?", Title::fixed,
-     "Save As", yesNo | question},
-    {5, "Continuing will loose any unsaved changes for the %1\r\nDo you want to continue ?",
-     Title::fixed, "ReOpen", yesNo | question},
-    {6, "Do you wish to save '%1' before you close ?", Title::product, "", yesNoCancel | question},
-    {8, "You have unsaved work, do you want to save first ?", Title::fixed, "New",
-     yesNoCancel | question},
+    {question::deletePicture, "Are you really sure you want to delete '%1' to the Recycle Bin ?",
+     Title::fixed, "Clear Picture", yesNo | asking | secondIsDefault},
+    {question::overwrite,
+     "The document '%1' already exists.\r\nDo you really want to overwrite this ?", Title::fixed,
+     "Save As", yesNo | asking},
+    {question::looseChanges,
+     "Continuing will loose any unsaved changes for the %1\r\nDo you want to continue ?",
+     Title::fixed, "ReOpen", yesNo | asking},
+    {question::saveBeforeClose, "Do you wish to save '%1' before you close ?", Title::product, "",
+     yesNoCancel | asking},
+    {question::saveFirst, "You have unsaved work, do you want to save first ?", Title::fixed, "New",
+     yesNoCancel | asking},
 };
 static_assert(std::size(messages) == 13 && std::size(questions) == 5);
 

@@ -49,6 +49,10 @@ std::string folderWithBackslash(std::string_view path, LeadByteTest isLead) {
   return std::string(path.substr(0, at == std::string_view::npos ? 0 : at + 1));
 }
 
+std::string fileNameOf(std::string_view path, LeadByteTest isLead) {
+  return std::string(path.substr(folderWithBackslash(path, isLead).size()));
+}
+
 std::string fileNameLengthCheck(std::string_view path, LeadByteTest isLead) {
   std::string result(path);
   if (path.size() > 3 && !endsInBackslash(path, isLead)) result += '\\';

@@ -26,6 +26,9 @@ using LeadByteTest = bool (*)(unsigned char);
 [[nodiscard]] std::string folderWithBackslash(std::string_view path,
                                               LeadByteTest isLead = noLeadBytes);
 
+/// The part of a path after its last "\"; all of it where there is none.
+[[nodiscard]] std::string fileNameOf(std::string_view path, LeadByteTest isLead = noLeadBytes);
+
 /// `path` with a "\" at its end, unless it has one or is three characters or shorter.
 [[nodiscard]] std::string fileNameLengthCheck(std::string_view path,
                                               LeadByteTest isLead = noLeadBytes);

@@ -90,9 +90,4 @@ std::string fullPathOf(const std::string& path) {
   return full;
 }
 
-std::string fileNameOf(const std::string& path) {
-  const std::size_t slash = library::lastBackslash(path, values::isLeadByte);
-  return slash == std::string::npos ? path : path.substr(slash + 1);
-}
-
 }  // namespace mainwindow

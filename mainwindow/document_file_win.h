@@ -39,7 +39,4 @@ struct FileContent {
 /// A path as the system understands it: from the drive on, without dots. Empty where it cannot.
 [[nodiscard]] std::string fullPathOf(const std::string& path);
 
-/// File name of a path, without its folder.
-[[nodiscard]] std::string fileNameOf(const std::string& path);
-
 }  // namespace mainwindow

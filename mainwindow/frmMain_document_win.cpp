@@ -8,6 +8,7 @@
 #include "files/safe_file_win.h"
 #include "library/centred_dialog_win.h"
 #include "library/clsLibrary_win.h"
+#include "library/message_numbers.h"
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/stored_settings_win.h"
@@ -39,8 +40,6 @@ constexpr char extension[] = "tly";
 constexpr DWORD openFlags = OFN_EXPLORER | OFN_LONGNAMES | OFN_HIDEREADONLY;
 static_assert(openFlags == 0x280004);
 constexpr int askSaveBeforeClose = 6;
-constexpr int askSaveFirst = 8;
-constexpr int problemSaving = 10;
 
 // Whether there is certainly no such file. A drive that does not answer may hold one.
 bool isFree(const std::string& path, files::FileCalls& calls) {
@@ -150,7 +149,7 @@ bool frmMain::mayDiscard(int question) {
 }
 
 void frmMain::newDocument() {
-  if (!mayDiscard(askSaveFirst)) return;
+  if (!mayDiscard(library::question::saveFirst)) return;
   startNewDocument();
   focusFirstField();
 }
@@ -171,7 +170,7 @@ void frmMain::startNewDocument() {
 }
 
 void frmMain::openDocument() {
-  if (!mayDiscard(askSaveFirst)) return;
+  if (!mayDiscard(library::question::saveFirst)) return;
   windowing::FileDialog dialog;
   dialog.title = "Open";
   dialog.filter = filter;
@@ -213,7 +212,7 @@ bool frmMain::saveTo(const std::string& path) {
     FILESAVEAS(path);
     return true;
   } catch (const std::exception&) {  // too little memory is no better reason
-    LIBRARY().MESSAGEBOX(problemSaving, path, "", "", "");
+    LIBRARY().MESSAGEBOX(library::message::problemSaving, path, "", "", "");
     return false;
   }
 }
@@ -235,7 +234,7 @@ bool frmMain::saveAs() {
     dialog.title = "Save As";
     dialog.filter = filter;
     dialog.folder = rememberedFolder(library::Setting::saveFolder);
-    dialog.fileName = fileNameOf(CMD1.fileName);
+    dialog.fileName = library::fileNameOf(CMD1.fileName, values::isLeadByte);
     dialog.extension = extension;
     dialog.flags = openFlags;
     std::optional<std::string> answer;

@@ -5,26 +5,11 @@
 #include "printing/compose_report_win.h"
 #include "printing/frmPPrev_win.h"
 #include "printing/printer_ready_win.h"
+#include "windowing/hourglass_win.h"
 
 namespace mainwindow {
 
 namespace id = library::id;
-
-namespace {
-
-// An hourglass for the length of a scope, errors included.
-class Hourglass {
- public:
-  Hourglass() : old_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {}
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-  ~Hourglass() { SetCursor(old_); }
-
- private:
-  HCURSOR old_;
-};
-
-}  // namespace
 
 // The box is made when something is printed for the first time: most sessions never do, and the
 // system's rich text library takes its time to load.
@@ -35,7 +20,7 @@ paper::RichTextBox& frmMain::RTF1() {
 
 // From what stands in the boxes: edits that are not stored yet are printed as they stand.
 void frmMain::ComposeContactReport() {
-  const Hourglass waiting;
+  const windowing::Hourglass waiting;
   const document::ContactRecord values = valuesOnScreen();
   try {
     printing::composeReport(values, RTF1(), printing::thePreview().RTF3());

@@ -2,10 +2,12 @@
 #include <windows.h>
 
 #include "library/clsLibrary_win.h"
+#include "library/message_numbers.h"
 #include "pagesetup/frmPSetup_win.h"
 #include "paper/printer_win.h"
 #include "values/runtime_error.h"
 #include "values/units.h"
+#include "windowing/hourglass_win.h"
 #include "windowing/modal_win.h"
 
 namespace library {
@@ -15,15 +17,10 @@ namespace {
 /// is an hourglass; both are gone at its end, also after a step that failed.
 class Obtaining {
  public:
-  Obtaining() : pointer_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {
-    tell("Obtaining settings...");
-  }
+  Obtaining() { tell("Obtaining settings..."); }
   Obtaining(const Obtaining&) = delete;
   Obtaining& operator=(const Obtaining&) = delete;
-  ~Obtaining() {
-    tell("");
-    SetCursor(pointer_);
-  }
+  ~Obtaining() { tell(""); }
 
  private:
   static void tell(const std::string& text) {
@@ -35,7 +32,7 @@ class Obtaining {
     });
   }
 
-  HCURSOR pointer_;
+  windowing::Hourglass waiting_;
 };
 
 // Without a printer the user is told so; margins, header and footer can be set all the same.
@@ -48,8 +45,7 @@ void showPageSetup(const char* tab) {
     form.load();
     form.selectTab(tab);
   }
-  constexpr int noPrinter = 13;
-  if (!printers) LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
+  if (!printers) LIBRARY().MESSAGEBOX(message::noPrinter, "", "", "", "");
   form.showModal();
 }
 

@@ -10,10 +10,8 @@
 namespace pagesetup {
 
 DefaultTexts defaultTexts() {
-  const std::string& path = library::modLibrary().documentPath;
-  const std::size_t slash = library::lastBackslash(path, values::isLeadByte);
   return {windowing::productName(), library::LIBRARY().GETCOMPANYNAME(),
-          slash == std::string::npos ? path : path.substr(slash + 1)};
+          library::fileNameOf(library::modLibrary().documentPath, values::isLeadByte)};
 }
 
 HeaderFooterOptions readOptions() {

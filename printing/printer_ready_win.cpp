@@ -5,6 +5,7 @@
 #include <string>
 
 #include "library/clsLibrary_win.h"
+#include "library/message_numbers.h"
 #include "paper/printer_win.h"
 #include "values/runtime_error.h"
 #include "windowing/application_win.h"
@@ -15,8 +16,7 @@ namespace printing {
 
 bool printerInstalled() {
   if (!paper::printerNames().empty()) return true;
-  constexpr int noPrinter = 13;
-  library::LIBRARY().MESSAGEBOX(noPrinter, "", "", "", "");
+  library::LIBRARY().MESSAGEBOX(library::message::noPrinter, "", "", "", "");
   return false;
 }
 

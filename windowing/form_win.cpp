@@ -211,7 +211,7 @@ void Form::showModal() {
   load();
   modalOwner_ = dialogOwner();
   if (modalOwner_ == handle()) modalOwner_ = nullptr;
-  SetWindowLongA(handle(), GWL_HWNDPARENT, reinterpret_cast<LONG>(modalOwner_));
+  SetWindowLongPtrA(handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(modalOwner_));
   disabled_ = std::make_unique<DisabledOthers>(handle());
   modal_ = true;
   appear();

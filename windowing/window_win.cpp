@@ -25,7 +25,7 @@ std::string reportOf(const std::exception& error) {
 Window::~Window() {
   if (handle_ == nullptr) return;
   // The object is going: its overrides must not be called any more.
-  SetWindowLongA(handle_, GWL_USERDATA, 0);
+  SetWindowLongPtrA(handle_, GWLP_USERDATA, 0);
   DestroyWindow(handle_);
 }
 
@@ -60,12 +60,12 @@ LRESULT CALLBACK Window::procedure(HWND window, UINT message, WPARAM wParam, LPA
     const auto* creation = reinterpret_cast<const CREATESTRUCTA*>(lParam);
     auto* self = static_cast<Window*>(creation->lpCreateParams);
     self->handle_ = window;
-    SetWindowLongA(window, GWL_USERDATA, reinterpret_cast<LONG>(self));
+    SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
   }
-  auto* self = reinterpret_cast<Window*>(GetWindowLongA(window, GWL_USERDATA));
+  auto* self = reinterpret_cast<Window*>(GetWindowLongPtrA(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcA(window, message, wParam, lParam);
   if (message == WM_NCDESTROY) {
-    SetWindowLongA(window, GWL_USERDATA, 0);
+    SetWindowLongPtrA(window, GWLP_USERDATA, 0);
     self->handle_ = nullptr;
     return DefWindowProcA(window, message, wParam, lParam);
   }

@@ -26,11 +26,11 @@ class RefusingBox {
     refused = message;
     answered = answer;
     standard = reinterpret_cast<WNDPROC>(
-        SetWindowLongA(box, GWL_WNDPROC, reinterpret_cast<LONG>(&RefusingBox::procedure)));
+        SetWindowLongPtrA(box, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RefusingBox::procedure)));
   }
   RefusingBox(const RefusingBox&) = delete;
   RefusingBox& operator=(const RefusingBox&) = delete;
-  ~RefusingBox() { SetWindowLongA(box_, GWL_WNDPROC, reinterpret_cast<LONG>(standard)); }
+  ~RefusingBox() { SetWindowLongPtrA(box_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(standard)); }
 
  private:
   static LRESULT CALLBACK procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
