@@ -45,8 +45,8 @@ class Paper {
   Paper& operator=(const Paper&) = delete;
   ~Paper() { DestroyWindow(window_); }
 
-  void compose(const document::ContactRecord& contact, printing::PageBoxes& host) {
-    printing::composeReport(contact, report, host.RTF3());
+  void compose(const document::ContactRecord& contact, printing::PageBoxes& form) {
+    printing::composeReport(contact, report, form.RTF3());
   }
 
   paper::RichTextBox report{"RTF1"};

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "bench/measuring.h"
 #include "document/reader.h"
@@ -25,7 +26,7 @@ constexpr int turns = 20;
 /// The main window's controls without anything behind them: boxes are the system's own.
 class BareForm : public windowing::Form {
  public:
-  BareForm() : Form(mainwindow::design::form) {}
+  BareForm() : Form(bareDesign()) {}
 
  protected:
   void onLoad() override {
@@ -33,13 +34,16 @@ class BareForm : public windowing::Form {
     SetWindowPos(control(id::FRAMGENERAL).handle(), HWND_TOP, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
-  HWND createCustom(const windowing::ControlDesign& design, HWND container,
-                    const RECT& place) override {
-    return CreateWindowExA(WS_EX_CLIENTEDGE, "EDIT", "",
-                           WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, place.left,
-                           place.top, place.right - place.left, place.bottom - place.top, container,
-                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
-                           GetModuleHandleA(nullptr), nullptr);
+
+ private:
+  static windowing::FormDesign bareDesign() {
+    windowing::FormDesign design = mainwindow::design::form;
+    static std::vector<windowing::ControlDesign> rows(design.controls.begin(),
+                                                      design.controls.end());
+    for (windowing::ControlDesign& row : rows)
+      if (row.kind.make == controls::linkBoxKind.make) row.kind = windowing::kind::textBox;
+    design.controls = rows;
+    return design;
   }
 };
 

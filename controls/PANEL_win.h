@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include "windowing/container_win.h"
-#include "windowing/control_win.h"
+#include "windowing/form_win.h"
 
 namespace controls {
 
@@ -19,5 +19,12 @@ class PANEL : public windowing::Control {
   static PANEL create(HWND container, int id, const RECT& place, Border border);
   void setSurface(windowing::Surface surface) const;
 };
+
+/// The kind of a form's strip of buttons.
+inline constexpr windowing::ControlKind panelKind{.make = [](windowing::Form&,
+                                                             const windowing::ControlDesign& design,
+                                                             HWND container, const RECT& place) {
+  return PANEL::create(container, design.id, place, PANEL::Border::none).handle();
+}};
 
 }  // namespace controls

@@ -75,8 +75,7 @@ class NumberInBox : public Subclass {
 };
 
 void NumberInBox::prepare() {
-  arrows_ = CreateWindowExA(0, UPDOWN_CLASSA, nullptr, WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, window(),
-                            nullptr, windowing::programInstance(), nullptr);
+  arrows_ = windowing::createChild({UPDOWN_CLASSA, WS_VISIBLE}, window(), 0, {});
   SendMessageA(arrows_, UDM_SETRANGE32, 0, 2);
   SendMessageA(arrows_, UDM_SETPOS32, 0, 1);
   placeArrows();
@@ -263,12 +262,9 @@ NumberInBox* numberOf(HWND box) {
 
 SPIN SPIN::create(HWND container, int id, const RECT& place) {
   constexpr WPARAM longestText = 8;
-  const HWND box = CreateWindowExA(
-      WS_EX_CLIENTEDGE, "EDIT", "",
-      WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDREN | ES_LEFT | ES_AUTOHSCROLL, place.left,
-      place.top, widthOf(place), heightOf(place), container,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), windowing::programInstance(), nullptr);
-  if (box == nullptr) values::raiseLastError();
+  const windowing::ControlKind& like = windowing::kind::textBox;
+  const HWND box = windowing::createChild(
+      {like.windowClass, like.style | WS_CLIPCHILDREN, like.exStyle}, container, id, place);
   SendMessageA(box, EM_SETLIMITTEXT, longestText, 0);
   Subclass::attach(box, std::make_unique<NumberInBox>());
   if (auto* number = numberOf(box)) number->prepare();

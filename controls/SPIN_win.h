@@ -6,7 +6,7 @@
 #include <string>
 
 #include "controls/spin_value.h"
-#include "windowing/control_win.h"
+#include "windowing/form_win.h"
 
 namespace controls {
 
@@ -39,5 +39,9 @@ class SPIN : public windowing::Control {
   /// Shows the value in place of a text that is being typed.
   void commit() const;
 };
+
+inline constexpr windowing::ControlKind spinKind{
+    .make = [](windowing::Form&, const windowing::ControlDesign& design, HWND container,
+               const RECT& place) { return SPIN::create(container, design.id, place).handle(); }};
 
 }  // namespace controls

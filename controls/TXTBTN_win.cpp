@@ -344,11 +344,9 @@ ButtonOfBox* buttonOf(HWND box) {
 }  // namespace
 
 TXTBTN TXTBTN::create(HWND container, int id, const RECT& place) {
-  const HWND box = CreateWindowExA(
-      WS_EX_CLIENTEDGE, "EDIT", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_LEFT | ES_AUTOHSCROLL,
-      place.left, place.top, widthOf(place), heightOf(place), container,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), windowing::programInstance(), nullptr);
-  if (box == nullptr) values::raiseLastError();
+  const windowing::ControlKind& like = windowing::kind::textBox;
+  const HWND box =
+      windowing::createChild({like.windowClass, like.style, like.exStyle}, container, id, place);
   TXTBTN made(box);
   made.setLimit(0);
   Subclass::attach(box, std::make_unique<ButtonOfBox>());

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "windowing/control_win.h"
+#include "windowing/form_win.h"
 #include "windowing/image_list_win.h"
 
 namespace controls {
@@ -37,5 +37,9 @@ class TXTBTN : public windowing::TextBox {
   /// Whether the button can be pressed.
   [[nodiscard]] bool buttonEnabled() const;
 };
+
+inline constexpr windowing::ControlKind linkBoxKind{
+    .make = [](windowing::Form&, const windowing::ControlDesign& design, HWND container,
+               const RECT& place) { return TXTBTN::create(container, design.id, place).handle(); }};
 
 }  // namespace controls

@@ -1,7 +1,6 @@
 #include "controls/TXTSEP_win.h"
 
 #include "controls/drawing_win.h"
-#include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/screen_win.h"
 
@@ -72,12 +71,7 @@ const char* lineClass() {
 }  // namespace
 
 TXTSEP TXTSEP::create(HWND container, int id, const RECT& place) {
-  const HWND line = CreateWindowExA(0, lineClass(), "", WS_CHILD | WS_VISIBLE, place.left,
-                                    place.top, widthOf(place), heightOf(place), container,
-                                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                    windowing::programInstance(), nullptr);
-  if (line == nullptr) values::raiseLastError();
-  return TXTSEP(line);
+  return TXTSEP(windowing::createChild({lineClass(), WS_VISIBLE}, container, id, place));
 }
 
 }  // namespace controls

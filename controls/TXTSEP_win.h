@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "windowing/control_win.h"
+#include "windowing/form_win.h"
 
 namespace controls {
 
@@ -15,5 +15,9 @@ class TXTSEP : public windowing::Control {
   /// Makes the line in `container` at `place` (pixels). Raises when Windows refuses.
   static TXTSEP create(HWND container, int id, const RECT& place);
 };
+
+inline constexpr windowing::ControlKind separatorKind{
+    .make = [](windowing::Form&, const windowing::ControlDesign& design, HWND container,
+               const RECT& place) { return TXTSEP::create(container, design.id, place).handle(); }};
 
 }  // namespace controls

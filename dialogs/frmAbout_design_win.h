@@ -2,6 +2,7 @@
 // inch. Captions that a text takes the place of at run time tell the designer which it is.
 #pragma once
 
+#include "controls/TXTSEP_win.h"
 #include "library/identifiers.h"
 #include "windowing/form_win.h"
 
@@ -9,6 +10,7 @@ namespace dialogs::about_design {
 
 using windowing::ControlDesign;
 using windowing::ControlKind;
+namespace kind = windowing::kind;
 namespace id = library::id::about;
 
 constexpr int formWidth = 6600;
@@ -27,29 +29,33 @@ constexpr int warningHeight = 5 * lineHeight;
 constexpr int buttonWidth = 1200;
 constexpr int buttonHeight = 375;
 
+constexpr ControlKind logoKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY};
+/// Never shown: it only holds the pointer that the logo takes.
+constexpr ControlKind pointerKind{"STATIC", SS_ICON};
+
 // clang-format off
 constexpr ControlDesign controls[] = {
-  {"FRAMTITLE",      id::FRAMTITLE,      ControlKind::container,  "", 0, 0, formWidth, titleHeight},
-  {"LBLPROGRAMNAME", id::LBLPROGRAMNAME, ControlKind::plainLabel, "Title", margin, 330, 2850, 600, id::FRAMTITLE},
-  {"IMGLOGO",        id::IMGLOGO,        ControlKind::custom,     "", formWidth - logoWidth - 150, 150, logoWidth, logoHeight, id::FRAMTITLE},
-  {"IMGCURSOR",      id::IMGCURSOR,      ControlKind::custom,     "", 0, 0, 480, 480, id::FRAMTITLE},
-  {"LNTITLE1",       id::LNTITLE1,       ControlKind::label,      "", 0, titleHeight, formWidth, line},
-  {"LNTITLE2",       id::LNTITLE2,       ControlKind::label,      "", 0, titleHeight + line, formWidth, line},
-  {"LBLVERS",        id::LBLVERS,        ControlKind::label,      "Version:", margin, 1425, valueLeft - margin, lineHeight},
-  {"LBLVERSNO",      id::LBLVERSNO,      ControlKind::plainLabel, "Number", valueLeft, 1425, valueWidth, lineHeight},
-  {"LBLREGISTERED",  id::LBLREGISTERED,  ControlKind::label,      "Registered to:", margin, 1680, valueLeft - margin, lineHeight},
-  {"LBLREGNAME",     id::LBLREGNAME,     ControlKind::plainLabel, "Name", valueLeft, 1680, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
-  {"LBLREGCO",       id::LBLREGCO,       ControlKind::plainLabel, "Company", valueLeft, 1905, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
-  {"LBLWRITTEN",     id::LBLWRITTEN,     ControlKind::plainLabel, "Written By", margin, 2220, textWidth, lineHeight},
-  {"LBLCOPYRIGHT",   id::LBLCOPYRIGHT,   ControlKind::plainLabel, "Copyright", margin, 2445, textWidth, lineHeight},
-  {"LBLTHANKS",      id::LBLTHANKS,      ControlKind::plainLabel,
+  {"FRAMTITLE",      id::FRAMTITLE,      kind::container,  "", 0, 0, formWidth, titleHeight},
+  {"LBLPROGRAMNAME", id::LBLPROGRAMNAME, kind::plainLabel, "Title", margin, 330, 2850, 600, id::FRAMTITLE},
+  {"IMGLOGO",        id::IMGLOGO,        logoKind,     "", formWidth - logoWidth - 150, 150, logoWidth, logoHeight, id::FRAMTITLE},
+  {"IMGCURSOR",      id::IMGCURSOR,      pointerKind,     "", 0, 0, 480, 480, id::FRAMTITLE},
+  {"LNTITLE1",       id::LNTITLE1,       kind::label,      "", 0, titleHeight, formWidth, line},
+  {"LNTITLE2",       id::LNTITLE2,       kind::label,      "", 0, titleHeight + line, formWidth, line},
+  {"LBLVERS",        id::LBLVERS,        kind::label,      "Version:", margin, 1425, valueLeft - margin, lineHeight},
+  {"LBLVERSNO",      id::LBLVERSNO,      kind::plainLabel, "Number", valueLeft, 1425, valueWidth, lineHeight},
+  {"LBLREGISTERED",  id::LBLREGISTERED,  kind::label,      "Registered to:", margin, 1680, valueLeft - margin, lineHeight},
+  {"LBLREGNAME",     id::LBLREGNAME,     kind::plainLabel, "Name", valueLeft, 1680, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
+  {"LBLREGCO",       id::LBLREGCO,       kind::plainLabel, "Company", valueLeft, 1905, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
+  {"LBLWRITTEN",     id::LBLWRITTEN,     kind::plainLabel, "Written By", margin, 2220, textWidth, lineHeight},
+  {"LBLCOPYRIGHT",   id::LBLCOPYRIGHT,   kind::plainLabel, "Copyright", margin, 2445, textWidth, lineHeight},
+  {"LBLTHANKS",      id::LBLTHANKS,      kind::plainLabel,
    "This program contains the runtime library of the GNU C++ compiler, written by the Free Software "
    "Foundation and its contributors and used under the GCC Runtime Library Exception, and start-up "
    "code of the MinGW-w64 project.",
    margin, 2775, textWidth, thanksHeight},
-  {"LBLWARNING",     id::LBLWARNING,     ControlKind::plainLabel, "", margin, 3510, textWidth, warningHeight},
-  {"TSEP2",          id::TSEP2,          ControlKind::custom,     "", 135, 4545, formWidth - 270, 2 * line},
-  {"BTNCLOSE",       id::BTNCLOSE,       ControlKind::defaultButton, "&Close", formWidth - 135 - buttonWidth, 4665, buttonWidth, buttonHeight},
+  {"LBLWARNING",     id::LBLWARNING,     kind::plainLabel, "", margin, 3510, textWidth, warningHeight},
+  {"TSEP2",          id::TSEP2,          controls::separatorKind,     "", 135, 4545, formWidth - 270, 2 * line},
+  {"BTNCLOSE",       id::BTNCLOSE,       kind::defaultButton, "&Close", formWidth - 135 - buttonWidth, 4665, buttonWidth, buttonHeight},
 };
 // clang-format on
 

@@ -56,36 +56,9 @@ void centreOnScreen(windowing::Form& form) {
   form.moveOuter(place);
 }
 
-HWND createStatic(const windowing::ControlDesign& design, HWND container, const RECT& place,
-                  DWORD style) {
-  return CreateWindowExA(0, "STATIC", "", WS_CHILD | style, place.left, place.top,
-                         place.right - place.left, place.bottom - place.top, container,
-                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
-                         windowing::programInstance(), nullptr);
-}
-
 }  // namespace
 
 frmAbout::frmAbout() : Form(about_design::form) {}
-
-HWND frmAbout::createCustom(const windowing::ControlDesign& design, HWND container,
-                            const RECT& place) {
-  switch (design.id) {
-    case id::IMGLOGO:
-      return createStatic(design, container, place, WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY);
-    case id::IMGCURSOR: {
-      // Never shown: it only holds the pointer that the logo takes.
-      const HWND holder = createStatic(design, container, place, SS_ICON);
-      SendMessageA(holder, STM_SETIMAGE, IMAGE_CURSOR,
-                   reinterpret_cast<LPARAM>(LoadCursorA(nullptr, IDC_HAND)));
-      return holder;
-    }
-    case id::TSEP2:
-      return controls::TXTSEP::create(container, design.id, place).handle();
-    default:
-      return nullptr;
-  }
-}
 
 void frmAbout::onLoad() {
   windowing::setSurface(control(id::FRAMTITLE).handle(), windowing::Surface::window);
@@ -99,7 +72,8 @@ void frmAbout::onLoad() {
   control(id::LBLREGCO).setText(LIBRARY().GETCOMPANYREG());
   control(id::LBLCOPYRIGHT).setText(windowing::legalCopyright());
   control(id::LBLWRITTEN).setText("Written and Developed by " + windowing::companyName());
-  logoPointer_ = reinterpret_cast<HCURSOR>(control(id::IMGCURSOR).send(STM_GETIMAGE, IMAGE_CURSOR));
+  logoPointer_ = LoadCursorA(nullptr, IDC_HAND);
+  control(id::IMGCURSOR).send(STM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(logoPointer_));
   control(id::LBLWARNING).setText(warning);
 }
 

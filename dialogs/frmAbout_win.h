@@ -16,8 +16,6 @@ class frmAbout : public windowing::Form {
   void onEnter() override { unload(); }
   void onEscape() override { unload(); }
   HBRUSH onColour(HDC dc, int id) override;
-  HWND createCustom(const windowing::ControlDesign& design, HWND container,
-                    const RECT& place) override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -3,8 +3,6 @@
 
 #include <commctrl.h>
 
-#include "controls/PANEL_win.h"
-#include "controls/TXTSEP_win.h"
 #include "dialogs/frmProps_design_win.h"
 #include "dialogs/frmProps_win.h"
 #include "library/resource_ids.h"
@@ -21,57 +19,7 @@ namespace {
 
 constexpr int tickCount = 3;
 
-struct CustomKind {
-  const char* windowClass;
-  DWORD style;
-};
-
-// Facts are read-only boxes without an edge: longer ones scroll, and all can be copied.
-constexpr CustomKind factKind{"EDIT", WS_VISIBLE | WS_TABSTOP | ES_READONLY | ES_AUTOHSCROLL};
-
-CustomKind customKind(int control) {
-  switch (control) {
-    case id::PICICON:
-      return {"STATIC", WS_VISIBLE | SS_ICON | SS_CENTERIMAGE};
-    case id::TXTDOCUMENT:
-      return {"EDIT", ES_MULTILINE | ES_AUTOVSCROLL};
-    case id::CHKATTR:
-      // Not one that ticks itself: it shows what the file says after the click.
-      return {"BUTTON", WS_VISIBLE | WS_TABSTOP | BS_CHECKBOX | BS_NOTIFY};
-    case id::CHKATTR + 1:
-    case id::CHKATTR + 2:
-      return {"BUTTON", WS_VISIBLE | WS_DISABLED | BS_CHECKBOX};
-    case id::LBLREAD:
-    case id::LBLHIDDEN:
-    case id::LBLARCHIVE:
-      return {"STATIC", WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY};
-    default:
-      return factKind;
-  }
-}
-
 }  // namespace
-
-HWND frmProps::createCustom(const windowing::ControlDesign& design, HWND container,
-                            const RECT& place) {
-  switch (design.id) {
-    case id::PANEL1:
-      return controls::PANEL::create(container, design.id, place, controls::PANEL::Border::none)
-          .handle();
-    case id::TXTSEP1:
-    case id::TXTSEP2:
-    case id::TXTSEP3:
-    case id::TXTSEP4:
-      return controls::TXTSEP::create(container, design.id, place).handle();
-    default:
-      break;
-  }
-  const CustomKind kind = customKind(design.id);
-  return CreateWindowExA(0, kind.windowClass, design.caption, WS_CHILD | kind.style, place.left,
-                         place.top, place.right - place.left, place.bottom - place.top, container,
-                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
-                         windowing::programInstance(), nullptr);
-}
 
 // A document without a file, or whose file is gone, has the icon of all documents.
 void frmProps::showIcon(HICON icon) const {

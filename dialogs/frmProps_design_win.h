@@ -2,6 +2,8 @@
 // per inch. The order of the rows is the order in which the user tabs.
 #pragma once
 
+#include "controls/PANEL_win.h"
+#include "controls/TXTSEP_win.h"
 #include "library/identifiers.h"
 #include "windowing/form_win.h"
 
@@ -9,6 +11,7 @@ namespace dialogs::props_design {
 
 using windowing::ControlDesign;
 using windowing::ControlKind;
+namespace kind = windowing::kind;
 namespace id = library::id::props;
 
 constexpr int formWidth = 5850;
@@ -45,27 +48,36 @@ constexpr int tickLabelWidth = 1350;
 constexpr int buttonWidth = 1200;
 constexpr int buttonHeight = 375;
 
+/// A fact is a read-only box without an edge: a longer one scrolls, and all can be copied.
+constexpr ControlKind factKind{"EDIT", WS_VISIBLE | WS_TABSTOP | ES_READONLY | ES_AUTOHSCROLL};
+constexpr ControlKind iconKind{"STATIC", WS_VISIBLE | SS_ICON | SS_CENTERIMAGE};
+constexpr ControlKind hiddenTextKind{"EDIT", ES_MULTILINE | ES_AUTOVSCROLL};
+/// Not a box that ticks itself: it shows what the file says after the click.
+constexpr ControlKind tickKind{"BUTTON", WS_VISIBLE | WS_TABSTOP | BS_CHECKBOX | BS_NOTIFY};
+constexpr ControlKind fixedTickKind{"BUTTON", WS_VISIBLE | WS_DISABLED | BS_CHECKBOX};
+constexpr ControlKind tickLabelKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY};
+
 constexpr int row(int number, int separators = 0) {
   return firstRow + number * pitch + separators * separatorPitch;
 }
 constexpr ControlDesign frame(const char* name, int frameId) {
-  return {name, frameId, ControlKind::container, "", pageLeft, pageTop, pageWidth, pageHeight};
+  return {name, frameId, kind::container, "", pageLeft, pageTop, pageWidth, pageHeight};
 }
 constexpr ControlDesign label(const char* name, int labelId, const char* caption, int top,
                               int frameId) {
-  return {name, labelId,    ControlKind::label, caption, labelLeft,
-          top,  labelWidth, factHeight,         frameId};
+  return {name, labelId, kind::label, caption, labelLeft, top, labelWidth, factHeight, frameId};
 }
 constexpr ControlDesign fact(const char* name, int factId, int top, int frameId) {
-  return {name, factId, ControlKind::custom, "", factLeft, top, factWidth, factHeight, frameId};
+  return {name, factId, factKind, "", factLeft, top, factWidth, factHeight, frameId};
 }
 constexpr ControlDesign separator(const char* name, int lineId, int top, int container) {
-  return {name, lineId, ControlKind::custom, "", labelLeft, top, lineWidth, lineHeight, container};
+  return {name,       lineId,   controls::separatorKind, "", labelLeft, top, lineWidth,
+          lineHeight, container};
 }
 constexpr ControlDesign tick(int index, const char* caption) {
   return {"CHKATTR",
           id::CHKATTR + index,
-          ControlKind::custom,
+          index == 0 ? tickKind : fixedTickKind,
           caption,
           labelLeft + index * tickPitch,
           tickTop,
@@ -76,7 +88,7 @@ constexpr ControlDesign tick(int index, const char* caption) {
 constexpr ControlDesign tickLabel(int index, const char* name, const char* caption) {
   return {name,
           id::LBLREAD + index,
-          ControlKind::custom,
+          tickLabelKind,
           caption,
           labelLeft + index * tickPitch + tickSize + 45,
           tickTop - 15,
@@ -87,10 +99,10 @@ constexpr ControlDesign tickLabel(int index, const char* name, const char* capti
 
 // clang-format off
 constexpr ControlDesign controls[] = {
-  {"TABPROPS",    id::TABPROPS,    ControlKind::tabStrip,  "", margin, margin, tabWidth, tabHeight},
-  {"PICBOX",      id::PICBOX,      ControlKind::container, "", pageLeft, margin + tabRow, pageWidth, headHeight},
-  {"PICICON",     id::PICICON,     ControlKind::custom,    "", labelLeft, 150, 480, 480, id::PICBOX},
-  {"TXTFILENAME", id::TXTFILENAME, ControlKind::custom,    "", factLeft, 285, factWidth, factHeight, id::PICBOX},
+  {"TABPROPS",    id::TABPROPS,    kind::tabStrip,  "", margin, margin, tabWidth, tabHeight},
+  {"PICBOX",      id::PICBOX,      kind::container, "", pageLeft, margin + tabRow, pageWidth, headHeight},
+  {"PICICON",     id::PICICON,     iconKind,    "", labelLeft, 150, 480, 480, id::PICBOX},
+  {"TXTFILENAME", id::TXTFILENAME, factKind,    "", factLeft, 285, factWidth, factHeight, id::PICBOX},
   separator("TXTSEP1", id::TXTSEP1, headHeight - lineHeight, id::PICBOX),
 
   frame("FRAMGENERAL", id::FRAMGENERAL),
@@ -123,7 +135,7 @@ constexpr ControlDesign controls[] = {
   fact("TXTDOCLEN",     id::TXTDOCLEN,                  row(3, 1), id::FRAMDOCUMENT),
   label("LBLWORDS",     id::LBLWORDS,    "Words:",      row(4, 1), id::FRAMDOCUMENT),
   fact("TXTWORDS",      id::TXTWORDS,                   row(4, 1), id::FRAMDOCUMENT),
-  {"TXTDOCUMENT", id::TXTDOCUMENT, ControlKind::custom, "", 0, 0, pageWidth, pageHeight, id::FRAMDOCUMENT},
+  {"TXTDOCUMENT", id::TXTDOCUMENT, hiddenTextKind, "", 0, 0, pageWidth, pageHeight, id::FRAMDOCUMENT},
 
   frame("FRAMPIC",          id::FRAMPIC),
   label("LBLFILETYPE",      id::LBLFILETYPE,   "File type:",      row(0), id::FRAMPIC),
@@ -135,8 +147,8 @@ constexpr ControlDesign controls[] = {
   label("LBLPICHEIGHT",     id::LBLPICHEIGHT,  "Picture height:", row(3), id::FRAMPIC),
   fact("TXTPICHEIGHT",      id::TXTPICHEIGHT,                     row(3), id::FRAMPIC),
 
-  {"PANEL1",   id::PANEL1,   ControlKind::custom,        "", 0, margin + tabHeight, formWidth, footHeight},
-  {"BTNCLOSE", id::BTNCLOSE, ControlKind::defaultButton, "&Close", 0, 0, buttonWidth, buttonHeight, id::PANEL1},
+  {"PANEL1",   id::PANEL1,   controls::panelKind,        "", 0, margin + tabHeight, formWidth, footHeight},
+  {"BTNCLOSE", id::BTNCLOSE, kind::defaultButton, "&Close", 0, 0, buttonWidth, buttonHeight, id::PANEL1},
 };
 // clang-format on
 static_assert(tickTop + tickSize < pageHeight && row(4, 1) + factHeight < pageHeight);

@@ -56,10 +56,10 @@ std::string shownName(const std::string& path) {
 frmProps::frmProps() : Form(props_design::form) {}
 
 windowing::TabStrip frmProps::TABPROPS() const {
-  return windowing::TabStrip(control(id::TABPROPS).handle());
+  return control<windowing::TabStrip>(id::TABPROPS);
 }
 windowing::CheckBox frmProps::CHKATTR(int index) const {
-  return windowing::CheckBox(control(id::CHKATTR + index).handle());
+  return control<windowing::CheckBox>(id::CHKATTR + index);
 }
 
 void frmProps::onLoad() {

@@ -40,8 +40,6 @@ class frmProps : public windowing::Form {
   void onTab(int id) override;
   void onEnter() override { unload(); }
   void onEscape() override { unload(); }
-  HWND createCustom(const windowing::ControlDesign& design, HWND container,
-                    const RECT& place) override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

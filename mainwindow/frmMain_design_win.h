@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 
+#include "controls/TXTBTN_win.h"
 #include "document/fields.h"
 #include "library/identifiers.h"
 #include "windowing/form_win.h"
@@ -14,6 +15,7 @@ namespace mainwindow::design {
 using document::Slot;
 using windowing::ControlDesign;
 using windowing::ControlKind;
+namespace kind = windowing::kind;
 namespace id = library::id;
 
 // Strips and the body.
@@ -156,14 +158,14 @@ constexpr int boxId(const document::Field& field) {
 }
 
 constexpr ControlKind boxKind(const document::Field& field) {
-  if (field.box != document::Box::TXTITEMS) return ControlKind::custom;
-  return field.slot == Slot::Comments ? ControlKind::multilineBox : ControlKind::textBox;
+  if (field.box != document::Box::TXTITEMS) return controls::linkBoxKind;
+  return field.slot == Slot::Comments ? kind::multilineBox : kind::textBox;
 }
 
 constexpr ControlDesign frame(const char* name, int frameId) {
   return {name,
           frameId,
-          ControlKind::container,
+          kind::container,
           "",
           bodyMargin + framesInset,
           bodyMargin + framesTop,
@@ -174,13 +176,13 @@ constexpr ControlDesign frame(const char* name, int frameId) {
 
 // clang-format off
 constexpr ControlDesign strips[] = {
-  {"PICMAINTBAR", id::PICMAINTBAR, ControlKind::container,    "", 0, 0, formWidth, toolbarHeight},
-  {"TBARMAIN",    id::TBARMAIN,    ControlKind::toolBar,      "", 60, 45, 5400, 390, id::PICMAINTBAR},
-  {"CBOTBARBOX",  id::CBOTBARBOX,  ControlKind::dropDownList, "", 5820, 75, 2850, 315, id::PICMAINTBAR},
-  {"PICHEADER",   id::PICHEADER,   ControlKind::container,    "", 0, toolbarHeight, formWidth, headerHeight},
-  {"LBLDESC",     id::LBLDESC,     ControlKind::plainLabel,   "", 150, 105, formWidth - 300, 270, id::PICHEADER, SS_PATHELLIPSIS},
-  {"PICMAINBOX",  id::PICMAINBOX,  ControlKind::container,    "", 0, toolbarHeight + headerHeight, formWidth, tabHeight + 90},
-  {"TABMAIN",     id::TABMAIN,     ControlKind::tabStrip,     "", bodyMargin, bodyMargin, formWidth - 2 * bodyMargin, tabHeight, id::PICMAINBOX},
+  {"PICMAINTBAR", id::PICMAINTBAR, kind::container,    "", 0, 0, formWidth, toolbarHeight},
+  {"TBARMAIN",    id::TBARMAIN,    kind::toolBar,      "", 60, 45, 5400, 390, id::PICMAINTBAR},
+  {"CBOTBARBOX",  id::CBOTBARBOX,  kind::dropDownList, "", 5820, 75, 2850, 315, id::PICMAINTBAR},
+  {"PICHEADER",   id::PICHEADER,   kind::container,    "", 0, toolbarHeight, formWidth, headerHeight},
+  {"LBLDESC",     id::LBLDESC,     kind::plainLabel,   "", 150, 105, formWidth - 300, 270, id::PICHEADER, SS_PATHELLIPSIS},
+  {"PICMAINBOX",  id::PICMAINBOX,  kind::container,    "", 0, toolbarHeight + headerHeight, formWidth, tabHeight + 90},
+  {"TABMAIN",     id::TABMAIN,     kind::tabStrip,     "", bodyMargin, bodyMargin, formWidth - 2 * bodyMargin, tabHeight, id::PICMAINBOX},
   frame("FRAMGENERAL",     id::FRAMGENERAL),
   frame("FRAMADDRESS",     id::FRAMADDRESS),
   frame("FRAMADDRESSWORK", id::FRAMADDRESSWORK),
@@ -202,14 +204,10 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
   const auto field = [&](int slot, int container, int left, int& top, int width, int height) {
     const document::Field& shown = document::fields[static_cast<std::size_t>(slot)];
     if (!shown.caption.empty()) {
-      made[at++] = {"LBLITEMS",
-                    boxId(shown) + id::labelOffset,
-                    ControlKind::label,
-                    shown.caption.data(),
-                    left,
-                    top,
-                    width,
-                    labelHeight,
+      made[at++] = {"LBLITEMS",  boxId(shown) + id::labelOffset,
+                    kind::label, shown.caption.data(),
+                    left,        top,
+                    width,       labelHeight,
                     container};
       top += labelPitch;
     } else {
@@ -221,8 +219,8 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
   };
   for (const ControlDesign& strip : strips) made[at++] = strip;
   for (const Group& group : groups) {
-    made[at++] = {group.name, group.id,    ControlKind::group, group.caption, group.left,
-                  group.top,  group.width, group.height,       group.frame};
+    made[at++] = {group.name, group.id,    kind::group,  group.caption, group.left,
+                  group.top,  group.width, group.height, group.frame};
     int top = group.top + groupTop;
     const bool extras = group.id == id::FRAMEXTRAS;
     const int width = (extras ? columnWidth : group.width) - 2 * groupSide;
@@ -234,7 +232,7 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
             group.height - groupTop - labelPitch - groupSide);
     }
   }
-  made[at++] = {"SBMAIN", id::SBMAIN, ControlKind::statusBar, "", 0, 0, formWidth, statusHeight};
+  made[at++] = {"SBMAIN", id::SBMAIN, kind::statusBar, "", 0, 0, formWidth, statusHeight};
   return made;
 }();
 static_assert(controls.back().id == id::SBMAIN, "every row is filled");

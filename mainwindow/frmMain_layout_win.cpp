@@ -45,16 +45,16 @@ frmMain::frmMain()
 frmMain::~frmMain() = default;
 
 windowing::ComboBox frmMain::CBOTBARBOX() const {
-  return windowing::ComboBox(control(id::CBOTBARBOX).handle());
+  return control<windowing::ComboBox>(id::CBOTBARBOX);
 }
 windowing::StatusBar frmMain::SBMAIN() const {
-  return windowing::StatusBar(control(id::SBMAIN).handle());
+  return control<windowing::StatusBar>(id::SBMAIN);
 }
 windowing::ToolBar frmMain::TBARMAIN() const {
-  return windowing::ToolBar(control(id::TBARMAIN).handle());
+  return control<windowing::ToolBar>(id::TBARMAIN);
 }
 windowing::TabStrip frmMain::TABMAIN() const {
-  return windowing::TabStrip(control(id::TABMAIN).handle());
+  return control<windowing::TabStrip>(id::TABMAIN);
 }
 windowing::TextBox frmMain::TXTITEMS(int index) const {
   return windowing::TextBox(control(id::textItem(index)).handle());

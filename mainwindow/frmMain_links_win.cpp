@@ -36,18 +36,10 @@ bool isWeb(int box) {
 
 }  // namespace
 
-HWND frmMain::createCustom(const windowing::ControlDesign& design, HWND container,
-                           const RECT& place) {
-  const TXTBTN box = TXTBTN::create(container, design.id, place);
-  box.setLimit(0);
-  return box.handle();
-}
-
 void frmMain::prepareLinks() {
   for (const Link& link : links)
-    TXTBTN(control(link.id).handle())
-        .setButton(IMGLST, library::imageIndex(link.web ? "WEB" : "MAIL"),
-                   link.web ? "Open the web site (F4)" : "Send an e-mail (F4)");
+    control<TXTBTN>(link.id).setButton(IMGLST, library::imageIndex(link.web ? "WEB" : "MAIL"),
+                                       link.web ? "Open the web site (F4)" : "Send an e-mail (F4)");
 }
 
 void frmMain::onNotice(int box, int notice) {

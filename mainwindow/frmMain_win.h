@@ -73,8 +73,6 @@ class frmMain : public library::CommandForm {
   void onSize() override;
   void onTimer(UINT_PTR timer) override { hints_.onTimer(timer); }
   LRESULT onNotify(NMHDR& header) override;
-  HWND createCustom(const windowing::ControlDesign& design, HWND container,
-                    const RECT& place) override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

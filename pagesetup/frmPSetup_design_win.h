@@ -2,6 +2,9 @@
 // inch. The order of the rows is the order in which the user tabs.
 #pragma once
 
+#include "controls/PANEL_win.h"
+#include "controls/SPIN_win.h"
+#include "controls/TXTSEP_win.h"
 #include "library/identifiers.h"
 #include "windowing/form_win.h"
 
@@ -9,6 +12,7 @@ namespace pagesetup::psetup_design {
 
 using windowing::ControlDesign;
 using windowing::ControlKind;
+namespace kind = windowing::kind;
 namespace id = library::id::psetup;
 
 constexpr int formWidth = 6900;
@@ -50,13 +54,19 @@ constexpr int sampleLeft = 3420;
 constexpr int sizesTop = lowerTop + frameSide + 75;
 constexpr int dividerLeft = 2700;
 
+/// Shows the sample of the page; drawn by the form.
+constexpr ControlKind sampleKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW};
+constexpr ControlKind ruleKind{"STATIC", WS_VISIBLE | SS_BLACKRECT};
+/// A text of the sample that is not for the user to change.
+constexpr ControlKind fixedTextKind{"EDIT", WS_VISIBLE | ES_READONLY};
+
 constexpr int choiceTop(int row) {
   return firstChoice + row * choicePitch;
 }
 constexpr ControlDesign choiceLabel(const char* name, int labelId, const char* caption, int row) {
   return {name,
           labelId,
-          ControlKind::label,
+          kind::label,
           caption,
           edge,
           choiceTop(row) + labelDrop,
@@ -65,21 +75,14 @@ constexpr ControlDesign choiceLabel(const char* name, int labelId, const char* c
           id::FRAMPAGE};
 }
 constexpr ControlDesign choiceList(const char* name, int listId, int row, int width) {
-  return {name, listId,      ControlKind::dropDownList, "", choiceLeft, choiceTop(row), width,
-          3000, id::FRAMPAGE};
+  return {name,  listId, kind::dropDownList, "", choiceLeft, choiceTop(row),
+          width, 3000,   id::FRAMPAGE};
 }
 constexpr ControlDesign orientation(const char* name, int optionId, const char* caption, int place,
                                     DWORD style) {
-  return {name,
-          optionId,
-          ControlKind::optionButton,
-          caption,
-          choiceLeft + place * 1300,
-          choiceTop(2) + 30,
-          1200,
-          checkHeight,
-          id::FRAMPAGE,
-          style};
+  return {
+      name, optionId,    kind::optionButton, caption, choiceLeft + place * 1300, choiceTop(2) + 30,
+      1200, checkHeight, id::FRAMPAGE,       style};
 }
 constexpr int marginTop(int row) {
   return firstMargin + row * marginPitch;
@@ -87,7 +90,7 @@ constexpr int marginTop(int row) {
 constexpr ControlDesign marginLabel(const char* name, int labelId, const char* caption, int row) {
   return {name,
           labelId,
-          ControlKind::label,
+          kind::label,
           caption,
           edge,
           marginTop(row) + labelDrop,
@@ -97,8 +100,8 @@ constexpr ControlDesign marginLabel(const char* name, int labelId, const char* c
           WS_GROUP};
 }
 constexpr ControlDesign marginBox(const char* name, int boxId, int row) {
-  return {name,           boxId,          ControlKind::custom, "",          marginBoxLeft,
-          marginTop(row), marginBoxWidth, boxHeight,           id::FRAMPAGE};
+  return {name,           boxId,          controls::spinKind, "",          marginBoxLeft,
+          marginTop(row), marginBoxWidth, boxHeight,          id::FRAMPAGE};
 }
 
 // Header and footer: two groups alike, each a box to switch all of it, boxes for its items, and
@@ -122,13 +125,13 @@ constexpr int fixedDrop = 53;  ///< from the top of a box to that of a text with
 constexpr int gap = 120;
 
 constexpr ControlDesign group(const char* name, int groupId, const char* caption, int top) {
-  return {name,       groupId,     ControlKind::group,  caption, edge, top,
+  return {name,       groupId,     kind::group,         caption, edge, top,
           innerWidth, groupHeight, id::FRAMHEADERFOOTER};
 }
 constexpr ControlDesign master(const char* name, int boxId, const char* caption, int groupTop) {
   return {name,
           boxId,
-          ControlKind::checkBox,
+          kind::checkBox,
           caption,
           edge + groupInset,
           groupTop + masterDrop,
@@ -140,7 +143,7 @@ constexpr ControlDesign item(const char* name, int boxId, const char* caption, i
                              int place) {
   return {name,
           boxId,
-          ControlKind::checkBox,
+          kind::checkBox,
           caption,
           edge + groupInset + itemIndent + place * itemPitch,
           groupTop + itemsDrop,
@@ -149,13 +152,13 @@ constexpr ControlDesign item(const char* name, int boxId, const char* caption, i
           id::FRAMHEADERFOOTER};
 }
 constexpr ControlDesign strip(const char* name, int stripId, int groupTop) {
-  return {name,       stripId,           ControlKind::container,
+  return {name,       stripId,           kind::container,
           "",         edge + groupInset, groupTop + stripDrop,
           stripWidth, stripHeight,       id::FRAMHEADERFOOTER,
           WS_BORDER};
 }
 constexpr ControlDesign rule(const char* name, int ruleId, int top, int container) {
-  return {name, ruleId, ControlKind::custom, "", stripEdge, top, stripInner, 15, container};
+  return {name, ruleId, ruleKind, "", stripEdge, top, stripInner, 15, container};
 }
 constexpr int titleWidth = stripInner - 2 * (fixedWidth + gap);
 constexpr int pageNumberWidth = 600;
@@ -167,9 +170,9 @@ constexpr int footBoxTop = 300;
 
 // clang-format off
 constexpr ControlDesign controls[] = {
-  {"TABSTRIP1", id::TABSTRIP1, ControlKind::tabStrip,  "", margin, margin, tabWidth, tabHeight},
+  {"TABSTRIP1", id::TABSTRIP1, kind::tabStrip,  "", margin, margin, tabWidth, tabHeight},
 
-  {"FRAMPAGE",  id::FRAMPAGE,  ControlKind::container, "", pageLeft, pageTop, pageWidth, pageHeight},
+  {"FRAMPAGE",  id::FRAMPAGE,  kind::container, "", pageLeft, pageTop, pageWidth, pageHeight},
   choiceLabel("LBLPRINTER",   id::LBLPRINTER,   "&Printer:", 0),
   choiceList("CBOPRINTERS",   id::CBOPRINTERS,  0, pageWidth - choiceLeft - edge),
   choiceLabel("LBLPAPERSIZE", id::LBLPAPERSIZE, "Paper Si&ze:", 1),
@@ -177,8 +180,8 @@ constexpr ControlDesign controls[] = {
   choiceLabel("LBLORIENT",    id::LBLORIENT,    "&Orientation:", 2),
   orientation("OPTORIENTPORT", id::OPTORIENTPORT, "Portr&ait",  0, WS_GROUP),
   orientation("OPTORIENTLAND", id::OPTORIENTLAND, "La&ndscape", 1, 0),
-  {"TXTSEP1", id::TXTSEP1, ControlKind::custom, "", edge, lowerTop - 135, innerWidth, lineHeight, id::FRAMPAGE},
-  {"LBLMARGINS", id::LBLMARGINS, ControlKind::label, "Margins (inches)", edge, lowerTop + 15, dividerLeft - edge - 120, labelHeight, id::FRAMPAGE, WS_GROUP},
+  {"TXTSEP1", id::TXTSEP1, controls::separatorKind, "", edge, lowerTop - 135, innerWidth, lineHeight, id::FRAMPAGE},
+  {"LBLMARGINS", id::LBLMARGINS, kind::label, "Margins (inches)", edge, lowerTop + 15, dividerLeft - edge - 120, labelHeight, id::FRAMPAGE, WS_GROUP},
   marginLabel("LBLLEFTMARGIN",   id::LBLLEFTMARGIN,   "&Left:",   0),
   marginBox("UDNLEFT",           id::UDNLEFT,                     0),
   marginLabel("LBLRIGHTMARGIN",  id::LBLRIGHTMARGIN,  "&Right:",  1),
@@ -187,15 +190,15 @@ constexpr ControlDesign controls[] = {
   marginBox("UDNTOP",            id::UDNTOP,                      2),
   marginLabel("LBLBOTTOMMARGIN", id::LBLBOTTOMMARGIN, "&Bottom:", 3),
   marginBox("UDNBOTTOM",         id::UDNBOTTOM,                   3),
-  {"BTNDEFAULTS", id::BTNDEFAULTS, ControlKind::button, "&Defaults", edge, pageHeight - edge - buttonHeight, buttonWidth, buttonHeight, id::FRAMPAGE},
-  {"TXTSEP2", id::TXTSEP2, ControlKind::custom, "", dividerLeft, lowerTop, lineHeight, pageHeight - edge - lowerTop, id::FRAMPAGE},
-  {"PICFRAME",  id::PICFRAME,  ControlKind::container, "", sampleLeft, lowerTop, frameSide, frameSide, id::FRAMPAGE, WS_BORDER},
-  {"PICWINDOW", id::PICWINDOW, ControlKind::custom,    "", 0, 0, sampleSide, sampleSide, id::PICFRAME},
-  {"PICDIMINSIONS", id::PICDIMINSIONS, ControlKind::container, "", sampleLeft, sizesTop, frameSide, labelHeight, id::FRAMPAGE},
-  {"LBLWIDTH",  id::LBLWIDTH,  ControlKind::label, "Width",  0, 0, frameSide / 2, labelHeight, id::PICDIMINSIONS},
-  {"LBLHEIGHT", id::LBLHEIGHT, ControlKind::label, "Height", frameSide / 2, 0, frameSide / 2, labelHeight, id::PICDIMINSIONS, SS_RIGHT},
+  {"BTNDEFAULTS", id::BTNDEFAULTS, kind::button, "&Defaults", edge, pageHeight - edge - buttonHeight, buttonWidth, buttonHeight, id::FRAMPAGE},
+  {"TXTSEP2", id::TXTSEP2, controls::separatorKind, "", dividerLeft, lowerTop, lineHeight, pageHeight - edge - lowerTop, id::FRAMPAGE},
+  {"PICFRAME",  id::PICFRAME,  kind::container, "", sampleLeft, lowerTop, frameSide, frameSide, id::FRAMPAGE, WS_BORDER},
+  {"PICWINDOW", id::PICWINDOW, sampleKind,    "", 0, 0, sampleSide, sampleSide, id::PICFRAME},
+  {"PICDIMINSIONS", id::PICDIMINSIONS, kind::container, "", sampleLeft, sizesTop, frameSide, labelHeight, id::FRAMPAGE},
+  {"LBLWIDTH",  id::LBLWIDTH,  kind::label, "Width",  0, 0, frameSide / 2, labelHeight, id::PICDIMINSIONS},
+  {"LBLHEIGHT", id::LBLHEIGHT, kind::label, "Height", frameSide / 2, 0, frameSide / 2, labelHeight, id::PICDIMINSIONS, SS_RIGHT},
 
-  {"FRAMHEADERFOOTER", id::FRAMHEADERFOOTER, ControlKind::container, "", pageLeft, pageTop, pageWidth, pageHeight},
+  {"FRAMHEADERFOOTER", id::FRAMHEADERFOOTER, kind::container, "", pageLeft, pageTop, pageWidth, pageHeight},
   group("FRAMHEADER",   id::FRAMHEADER,   "Header",  headerTop),
   master("CHKHEADER",   id::CHKHEADER,    "&Header", headerTop),
   item("CHKHEADTITLE",  id::CHKHEADTITLE, "&Title",  headerTop, 0),
@@ -203,9 +206,9 @@ constexpr ControlDesign controls[] = {
   item("CHKHEADTIME",   id::CHKHEADTIME,  "&Time",   headerTop, 2),
   item("CHKHEADLINE",   id::CHKHEADLINE,  "&Line",   headerTop, 3),
   strip("PICHEAD",      id::PICHEAD,      headerTop),
-  {"TXTHEADDATE",  id::TXTHEADDATE,  ControlKind::custom,  "12/12/2002", stripEdge, headBoxTop + fixedDrop, fixedWidth, fixedHeight, id::PICHEAD},
-  {"TXTHEADTITLE", id::TXTHEADTITLE, ControlKind::textBox, "", stripEdge + fixedWidth + gap, headBoxTop, titleWidth, boxHeight, id::PICHEAD, ES_CENTER},
-  {"TXTHEADTIME",  id::TXTHEADTIME,  ControlKind::custom,  "12:00:00 pm", stripWidth - stripEdge - fixedWidth, headBoxTop + fixedDrop, fixedWidth, fixedHeight, id::PICHEAD},
+  {"TXTHEADDATE",  id::TXTHEADDATE,  fixedTextKind,  "12/12/2002", stripEdge, headBoxTop + fixedDrop, fixedWidth, fixedHeight, id::PICHEAD},
+  {"TXTHEADTITLE", id::TXTHEADTITLE, kind::textBox, "", stripEdge + fixedWidth + gap, headBoxTop, titleWidth, boxHeight, id::PICHEAD, ES_CENTER},
+  {"TXTHEADTIME",  id::TXTHEADTIME,  fixedTextKind,  "12:00:00 pm", stripWidth - stripEdge - fixedWidth, headBoxTop + fixedDrop, fixedWidth, fixedHeight, id::PICHEAD, ES_RIGHT},
   rule("LNHEADLINE",    id::LNHEADLINE,   headRuleTop, id::PICHEAD),
   group("FRAMFOOTER",   id::FRAMFOOTER,    "Footer",   footerTop),
   master("CHKFOOTER",   id::CHKFOOTER,     "&Footer",  footerTop),
@@ -215,14 +218,14 @@ constexpr ControlDesign controls[] = {
   item("CHKFOOTLINE",   id::CHKFOOTLINE,   "L&ine",    footerTop, 3),
   strip("PICFOOT",      id::PICFOOT,       footerTop),
   rule("LNFOOTLINE",    id::LNFOOTLINE,    footRuleTop, id::PICFOOT),
-  {"TXTFOOTFIELD1", id::TXTFOOTFIELD1, ControlKind::textBox, "", stripEdge, footBoxTop, fieldWidth, boxHeight, id::PICFOOT},
-  {"TXTFOOTPGNO",   id::TXTFOOTPGNO,   ControlKind::custom,  "1", stripEdge + fieldWidth + gap, footBoxTop + fixedDrop, pageNumberWidth, fixedHeight, id::PICFOOT},
-  {"TXTFOOTFIELD2", id::TXTFOOTFIELD2, ControlKind::textBox, "", stripWidth - stripEdge - fieldWidth, footBoxTop, fieldWidth, boxHeight, id::PICFOOT},
-  {"BTNDEFAULTSHF", id::BTNDEFAULTSHF, ControlKind::button, "&Defaults", edge, pageHeight - edge / 2 - buttonHeight, buttonWidth, buttonHeight, id::FRAMHEADERFOOTER},
+  {"TXTFOOTFIELD1", id::TXTFOOTFIELD1, kind::textBox, "", stripEdge, footBoxTop, fieldWidth, boxHeight, id::PICFOOT},
+  {"TXTFOOTPGNO",   id::TXTFOOTPGNO,   fixedTextKind,  "1", stripEdge + fieldWidth + gap, footBoxTop + fixedDrop, pageNumberWidth, fixedHeight, id::PICFOOT, ES_CENTER},
+  {"TXTFOOTFIELD2", id::TXTFOOTFIELD2, kind::textBox, "", stripWidth - stripEdge - fieldWidth, footBoxTop, fieldWidth, boxHeight, id::PICFOOT},
+  {"BTNDEFAULTSHF", id::BTNDEFAULTSHF, kind::button, "&Defaults", edge, pageHeight - edge / 2 - buttonHeight, buttonWidth, buttonHeight, id::FRAMHEADERFOOTER},
 
-  {"PANEL1",    id::PANEL1,    ControlKind::custom,        "", 0, margin + tabHeight, formWidth, footHeight},
-  {"BTNOK",     id::BTNOK,     ControlKind::defaultButton, "OK",     0, 0, buttonWidth, buttonHeight, id::PANEL1},
-  {"BTNCANCEL", id::BTNCANCEL, ControlKind::button,        "Cancel", 0, 0, buttonWidth, buttonHeight, id::PANEL1},
+  {"PANEL1",    id::PANEL1,    controls::panelKind,        "", 0, margin + tabHeight, formWidth, footHeight},
+  {"BTNOK",     id::BTNOK,     kind::defaultButton, "OK",     0, 0, buttonWidth, buttonHeight, id::PANEL1},
+  {"BTNCANCEL", id::BTNCANCEL, kind::button,        "Cancel", 0, 0, buttonWidth, buttonHeight, id::PANEL1},
 };
 // clang-format on
 static_assert(sizesTop + labelHeight < pageHeight);

@@ -49,62 +49,22 @@ void prepareList(const windowing::ComboBox& list) {
 frmPSetup::frmPSetup() : Form(psetup_design::form) {}
 
 windowing::TabStrip frmPSetup::TABSTRIP1() const {
-  return windowing::TabStrip(control(id::TABSTRIP1).handle());
+  return control<windowing::TabStrip>(id::TABSTRIP1);
 }
 windowing::ComboBox frmPSetup::CBOPRINTERS() const {
-  return windowing::ComboBox(control(id::CBOPRINTERS).handle());
+  return control<windowing::ComboBox>(id::CBOPRINTERS);
 }
 windowing::ComboBox frmPSetup::CBOPAPER() const {
-  return windowing::ComboBox(control(id::CBOPAPER).handle());
+  return control<windowing::ComboBox>(id::CBOPAPER);
 }
 windowing::CheckBox frmPSetup::checkBox(int box) const {
-  return windowing::CheckBox(control(box).handle());
+  return control<windowing::CheckBox>(box);
 }
 windowing::TextBox frmPSetup::textBox(int box) const {
-  return windowing::TextBox(control(box).handle());
+  return control<windowing::TextBox>(box);
 }
 controls::SPIN frmPSetup::margin(int box) const {
-  return controls::SPIN(control(box).handle());
-}
-
-HWND frmPSetup::createCustom(const windowing::ControlDesign& design, HWND container,
-                             const RECT& place) {
-  const char* windowClass = "EDIT";
-  DWORD style = ES_READONLY;
-  switch (design.id) {
-    case id::PANEL1:
-      return controls::PANEL::create(container, design.id, place, controls::PANEL::Border::none)
-          .handle();
-    case id::TXTSEP1:
-    case id::TXTSEP2:
-      return controls::TXTSEP::create(container, design.id, place).handle();
-    case id::UDNLEFT:
-    case id::UDNRIGHT:
-    case id::UDNTOP:
-    case id::UDNBOTTOM:
-      return controls::SPIN::create(container, design.id, place).handle();
-    case id::PICWINDOW:
-      windowClass = "STATIC";
-      style = SS_OWNERDRAW;
-      break;
-    case id::LNHEADLINE:
-    case id::LNFOOTLINE:
-      windowClass = "STATIC";
-      style = SS_BLACKRECT;
-      break;
-    case id::TXTHEADTIME:
-      style |= ES_RIGHT;
-      break;
-    case id::TXTFOOTPGNO:
-      style |= ES_CENTER;
-      break;
-    default:
-      break;
-  }
-  return CreateWindowExA(0, windowClass, design.caption, WS_CHILD | WS_VISIBLE | style, place.left,
-                         place.top, place.right - place.left, place.bottom - place.top, container,
-                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
-                         windowing::programInstance(), nullptr);
+  return control<controls::SPIN>(box);
 }
 
 void frmPSetup::onLoad() {
@@ -226,8 +186,8 @@ bool frmPSetup::goToNextOf(WPARAM letter) {
   for (const windowing::ControlDesign& design : psetup_design::controls) {
     const HWND window = control(design.id).handle();
     if (window == GetFocus()) passedFocus = true;
-    if (design.kind == windowing::ControlKind::group || accessLetter(design.caption) != letter ||
-        !IsWindowVisible(window) || !IsWindowEnabled(window))
+    if (accessLetter(design.caption) != letter || !IsWindowVisible(window) ||
+        !IsWindowEnabled(window))
       continue;
     reached.push_back(window);
     if (!passedFocus || window == GetFocus()) next = reached.size();

@@ -41,8 +41,6 @@ class frmPSetup : public windowing::Form {
   void onEnter() override;
   void onEscape() override { unload(); }
   HBRUSH onColour(HDC dc, int id) override;
-  HWND createCustom(const windowing::ControlDesign& design, HWND container,
-                    const RECT& place) override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

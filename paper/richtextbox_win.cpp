@@ -73,11 +73,8 @@ RichTextBox::~RichTextBox() {
 
 HWND RichTextBox::create(HWND container, int id, const RECT& place, DWORD style) {
   loadLibrary();
-  const HWND window = CreateWindowExA(
-      0, RICHEDIT_CLASSA, "", WS_CHILD | ES_MULTILINE | style, place.left, place.top,
-      place.right - place.left, place.bottom - place.top, container,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), windowing::programInstance(), nullptr);
-  if (window == nullptr) values::raiseLastError();
+  const HWND window =
+      windowing::createChild({RICHEDIT_CLASSA, ES_MULTILINE | style}, container, id, place);
   windowing::Control::operator=(windowing::Control(window));
   SetWindowSubclass(window, watch, 0, reinterpret_cast<DWORD_PTR>(this));
   wine::installPageFormatter(window);

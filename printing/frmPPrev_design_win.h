@@ -4,13 +4,16 @@
 
 #include <array>
 
+#include "controls/TXTSEP_win.h"
 #include "library/identifiers.h"
+#include "printing/frmPPrev_win.h"
 #include "windowing/form_win.h"
 
 namespace printing::design {
 
 using windowing::ControlDesign;
 using windowing::ControlKind;
+namespace kind = windowing::kind;
 namespace id = library::id::preview;
 
 constexpr int formWidth = 9900;
@@ -27,21 +30,21 @@ constexpr int paperWidth = 1800;
 constexpr int listTop = (stripHeight - listHeight) / 2;
 constexpr int labelTop = (stripHeight - labelHeight) / 2;
 
+constexpr ControlKind viewKind{.make = frmPPrev::makeView};
+
 // clang-format off
 constexpr std::array controls{
-  ControlDesign{"PICTBAR",   id::PICTBAR,   ControlKind::container,    "", 0, 0, formWidth, stripHeight},
-  ControlDesign{"FRAMTBAR",  id::FRAMTBAR,  ControlKind::container,    "", 0, 0, formWidth, stripHeight, id::PICTBAR},
-  ControlDesign{"TBARMAIN",  id::TBARMAIN,  ControlKind::toolBar,      "", stripMargin, 45, 3000, 390, id::FRAMTBAR},
-  ControlDesign{"TXTSEP1",   id::TXTSEP1,   ControlKind::custom,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
-  ControlDesign{"CBOPGNO",   id::CBOPGNO,   ControlKind::dropDownList, "", 0, listTop, pagesWidth, listHeight, id::FRAMTBAR},
-  ControlDesign{"TXTSEP2",   id::TXTSEP2,   ControlKind::custom,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
-  ControlDesign{"LBLZOOM",   id::LBLZOOM,   ControlKind::label,        "Zoom", 0, labelTop, 450, labelHeight, id::FRAMTBAR},
-  ControlDesign{"CBOPGZOOM", id::CBOPGZOOM, ControlKind::dropDownList, "", 0, listTop, zoomsWidth, listHeight, id::FRAMTBAR},
-  ControlDesign{"LBLPAPER",  id::LBLPAPER,  ControlKind::label,        "", 0, labelTop, paperWidth, labelHeight, id::FRAMTBAR, SS_RIGHT},
-  ControlDesign{"PICWINDOW", id::PICWINDOW, ControlKind::custom,       "", 0, stripHeight, formWidth, formHeight - stripHeight - 330},
-  ControlDesign{"SBMAIN",    id::SBMAIN,    ControlKind::statusBar,    "", 0, 0, formWidth, 330},
-  ControlDesign{"RTF3",      id::RTF3,      ControlKind::custom,       "", 0, 0, 1500, 500},
-  ControlDesign{"RTF2",      id::RTF2,      ControlKind::custom,       "", 0, 0, 1500, 500},
+  ControlDesign{"PICTBAR",   id::PICTBAR,   kind::container,    "", 0, 0, formWidth, stripHeight},
+  ControlDesign{"FRAMTBAR",  id::FRAMTBAR,  kind::container,    "", 0, 0, formWidth, stripHeight, id::PICTBAR},
+  ControlDesign{"TBARMAIN",  id::TBARMAIN,  kind::toolBar,      "", stripMargin, 45, 3000, 390, id::FRAMTBAR},
+  ControlDesign{"TXTSEP1",   id::TXTSEP1,   controls::separatorKind,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"CBOPGNO",   id::CBOPGNO,   kind::dropDownList, "", 0, listTop, pagesWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"TXTSEP2",   id::TXTSEP2,   controls::separatorKind,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"LBLZOOM",   id::LBLZOOM,   kind::label,        "Zoom", 0, labelTop, 450, labelHeight, id::FRAMTBAR},
+  ControlDesign{"CBOPGZOOM", id::CBOPGZOOM, kind::dropDownList, "", 0, listTop, zoomsWidth, listHeight, id::FRAMTBAR},
+  ControlDesign{"LBLPAPER",  id::LBLPAPER,  kind::label,        "", 0, labelTop, paperWidth, labelHeight, id::FRAMTBAR, SS_RIGHT},
+  ControlDesign{"PICWINDOW", id::PICWINDOW, viewKind,       "", 0, stripHeight, formWidth, formHeight - stripHeight - 330},
+  ControlDesign{"SBMAIN",    id::SBMAIN,    kind::statusBar,    "", 0, 0, formWidth, 330},
 };
 // clang-format on
 

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "controls/ICOMNU_win.h"
-#include "controls/TXTSEP_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
 #include "library/resource_ids.h"
@@ -72,34 +71,27 @@ PageView& frmPPrev::PICWINDOW() {
 }
 windowing::ComboBox frmPPrev::CBOPGNO() {
   load();
-  return windowing::ComboBox(control(id::CBOPGNO).handle());
+  return control<windowing::ComboBox>(id::CBOPGNO);
 }
 windowing::ComboBox frmPPrev::CBOPGZOOM() {
   load();
-  return windowing::ComboBox(control(id::CBOPGZOOM).handle());
+  return control<windowing::ComboBox>(id::CBOPGZOOM);
 }
 windowing::StatusBar frmPPrev::SBMAIN() const {
-  return windowing::StatusBar(control(id::SBMAIN).handle());
+  return control<windowing::StatusBar>(id::SBMAIN);
 }
 windowing::ToolBar frmPPrev::TBARMAIN() const {
-  return windowing::ToolBar(control(id::TBARMAIN).handle());
+  return control<windowing::ToolBar>(id::TBARMAIN);
 }
 
-HWND frmPPrev::createCustom(const windowing::ControlDesign& made, HWND container,
-                            const RECT& place) {
-  switch (made.id) {
-    case id::RTF3:
-      return RTF3_.create(container, made.id, place);
-    case id::RTF2:
-      return RTF2_.create(container, made.id, place);
-    case id::PICWINDOW:
-      return PICWINDOW_.create(container, made.id, place);
-    default:
-      return controls::TXTSEP::create(container, made.id, place).handle();
-  }
+HWND frmPPrev::makeView(Form& form, const windowing::ControlDesign& design, HWND container,
+                        const RECT& place) {
+  return static_cast<frmPPrev&>(form).PICWINDOW_.create(container, design.id, place);
 }
 
 void frmPPrev::onLoad() {
+  RTF3_.create(handle(), id::RTF3, {});
+  RTF2_.create(handle(), id::RTF2, {});
   buildToolbar();
   arrangeStrip();
   prepareList(CBOPGNO(), "15");

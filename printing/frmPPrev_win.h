@@ -38,6 +38,10 @@ class frmPPrev : public library::CommandForm, public PreviewWindow {
   void showPreview() override;
   void discardPreview() override;
 
+  /// Makes the view of a preview that is loading.
+  static HWND makeView(Form& form, const windowing::ControlDesign& design, HWND container,
+                       const RECT& place);
+
   /// Runs the command with this number, if it is offered; any other does nothing.
   void runCommand(int command);
 
@@ -47,8 +51,6 @@ class frmPPrev : public library::CommandForm, public PreviewWindow {
   bool handleKey(const MSG& message) override;
 
  protected:
-  HWND createCustom(const windowing::ControlDesign& design, HWND container,
-                    const RECT& place) override;
   void onLoad() override;
   void onUnload() override;
   void onCommand(int command) override { runCommand(command); }

@@ -9,6 +9,7 @@
 #include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
+#include "windowing/control_win.h"
 #include "windowing/screen_win.h"
 
 namespace printing {
@@ -24,11 +25,7 @@ constexpr int shadowDrop = 1;    // and how much lower than the page it lies
 constexpr int shadowDepth = 40;  // hundredths of the ground's light that it takes at the page
 
 HWND child(const char* windowClass, DWORD style, HWND parent, int id) {
-  const HWND made = CreateWindowExA(0, windowClass, "", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
-                                    parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                    windowing::programInstance(), nullptr);
-  if (made == nullptr) values::raiseLastError();
-  return made;
+  return windowing::createChild({windowClass, WS_VISIBLE | style}, parent, id, {});
 }
 
 int barWidth() {

@@ -5,6 +5,7 @@
 
 #include "values/handles_win.h"
 #include "windowing/application_win.h"
+#include "windowing/form_win.h"
 
 namespace windowing {
 namespace {
@@ -126,6 +127,11 @@ const char* containerClass() {
     return made.lpszClassName;
   }();
   return name;
+}
+
+HWND kind::makeContainer(Form&, const ControlDesign& design, HWND container, const RECT& place) {
+  const ChildDesign child{containerClass(), kind::shown | design.style, WS_EX_CONTROLPARENT};
+  return createChild(child, container, design.id, place);
 }
 
 void setSurface(HWND container, Surface surface) {

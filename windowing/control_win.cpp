@@ -3,9 +3,20 @@
 #include <commctrl.h>
 
 #include "values/runtime_error.h"
+#include "values/system_error_win.h"
+#include "windowing/application_win.h"
 #include "windowing/screen_win.h"
 
 namespace windowing {
+
+HWND createChild(const ChildDesign& design, HWND container, int id, const RECT& place) {
+  const HWND made = CreateWindowExA(
+      design.exStyle, design.windowClass, design.caption, WS_CHILD | design.style, place.left,
+      place.top, place.right - place.left, place.bottom - place.top, container,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), programInstance(), nullptr);
+  if (made == nullptr) values::raiseLastError();
+  return made;
+}
 
 std::string Control::text() const {
   // WM_GETTEXT also answers for controls of their own making, which GetWindowText may not ask.

@@ -10,6 +10,18 @@
 
 namespace windowing {
 
+/// What a child window is made of.
+struct ChildDesign {
+  const char* windowClass;
+  DWORD style;  ///< besides WS_CHILD
+  DWORD exStyle = 0;
+  const char* caption = "";
+};
+
+/// Makes a child of `container` at `place` (pixels). Raises what Windows refuses it for.
+[[nodiscard]] HWND createChild(const ChildDesign& design, HWND container, int id,
+                               const RECT& place);
+
 class Control {
  public:
   Control() = default;

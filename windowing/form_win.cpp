@@ -22,39 +22,6 @@ constexpr char formProperty[] = "TellaryForm";
 constexpr UINT_PTR lateControlsTimer = 0x4C43;
 constexpr UINT lateControlsDelay = 50;  // milliseconds
 
-struct KindDesign {
-  ControlKind kind;
-  const char* windowClass;
-  DWORD style;
-  DWORD exStyle;
-};
-
-constexpr DWORD shown = WS_CHILD | WS_VISIBLE;
-constexpr DWORD stop = shown | WS_TABSTOP;
-constexpr KindDesign kindDesigns[] = {
-    {ControlKind::group, "BUTTON", shown | BS_GROUPBOX, 0},
-    {ControlKind::label, "STATIC", shown | SS_LEFT, 0},
-    {ControlKind::plainLabel, "STATIC", shown | SS_LEFT | SS_NOPREFIX, 0},
-    {ControlKind::textBox, "EDIT", stop | ES_LEFT | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE},
-    {ControlKind::multilineBox, "EDIT",
-     stop | WS_VSCROLL | ES_LEFT | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN, WS_EX_CLIENTEDGE},
-    {ControlKind::dropDownList, "COMBOBOX", stop | WS_VSCROLL | CBS_DROPDOWNLIST, 0},
-    {ControlKind::checkBox, "BUTTON", stop | BS_AUTOCHECKBOX, 0},
-    {ControlKind::optionButton, "BUTTON", shown | BS_AUTORADIOBUTTON, 0},
-    {ControlKind::button, "BUTTON", stop | BS_PUSHBUTTON, 0},
-    {ControlKind::defaultButton, "BUTTON", stop | BS_DEFPUSHBUTTON, 0},
-    {ControlKind::tabStrip, WC_TABCONTROLA, stop | WS_CLIPSIBLINGS, 0},
-    {ControlKind::statusBar, STATUSCLASSNAMEA, shown, 0},
-    {ControlKind::toolBar, TOOLBARCLASSNAMEA,
-     shown | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS, 0},
-};
-
-const KindDesign& kindDesign(ControlKind kind) {
-  for (const KindDesign& design : kindDesigns)
-    if (design.kind == kind) return design;
-  throw values::RuntimeError(values::ErrorNumber::invalidCall, "A control of an unknown kind");
-}
-
 bool isClass(HWND window, const char* wanted) {
   char name[32] = {};
   GetClassNameA(window, name, sizeof name);
@@ -162,12 +129,9 @@ void Form::createControls(bool late) {
     if (late != isLate(design)) continue;
     const HWND container = design.container == 0 ? handle() : control(design.container).handle();
     const HWND made = createControl(design, container);
-    if (made == nullptr) values::raiseLastError();
     controls_[design.id] = made;
     SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(formFont()), FALSE);
-    const bool box =
-        design.kind == ControlKind::textBox || design.kind == ControlKind::multilineBox;
-    if (box) TextBox(made).setLimit(0);
+    if (isClass(made, "Edit")) TextBox(made).setLimit(0);
   }
 }
 
@@ -175,20 +139,11 @@ HWND Form::createControl(const ControlDesign& design, HWND container) {
   const RECT place{screenPixels(design.left), screenPixels(design.top),
                    screenPixels(design.left + design.width),
                    screenPixels(design.top + design.height)};
-  if (design.kind == ControlKind::custom) return createCustom(design, container, place);
-
-  const bool holder = design.kind == ControlKind::container;
-  const KindDesign kind =
-      holder ? KindDesign{design.kind, containerClass(), shown, WS_EX_CONTROLPARENT}
-             : kindDesign(design.kind);
-  return CreateWindowExA(kind.exStyle, kind.windowClass, design.caption, kind.style | design.style,
-                         place.left, place.top, place.right - place.left, place.bottom - place.top,
-                         container, reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)),
-                         programInstance(), nullptr);
-}
-
-HWND Form::createCustom(const ControlDesign&, HWND, const RECT&) {
-  return nullptr;
+  const ControlKind& kind = design.kind;
+  if (kind.make != nullptr) return kind.make(*this, design, container, place);
+  const ChildDesign child{kind.windowClass, kind.style | design.style, kind.exStyle,
+                          design.caption};
+  return createChild(child, container, design.id, place);
 }
 
 void Form::show() {
@@ -297,9 +252,8 @@ void Form::focusNext(bool backwards) {
   for (const ControlDesign& design : design_.controls) {
     const HWND window = control(design.id).handle();
     if (window == nullptr) continue;
-    if (window == focus || IsChild(window, focus)) {
-      if (design.kind != ControlKind::container) at = stops.size();
-    }
+    // What lies in a container comes after it, and has the last word.
+    if (window == focus || IsChild(window, focus)) at = stops.size();
     const bool takes = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0 &&
                        IsWindowVisible(window) && IsWindowEnabled(window);
     if (takes || window == focus) stops.push_back(window);

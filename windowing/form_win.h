@@ -10,29 +10,12 @@
 #include <string>
 #include <vector>
 
+#include "windowing/control_kinds_win.h"
 #include "windowing/control_win.h"
 #include "windowing/modal_win.h"
 #include "windowing/window_win.h"
 
 namespace windowing {
-
-enum class ControlKind {
-  container,  ///< holds other controls; paints the button face
-  group,      ///< group box around its neighbours
-  label,
-  plainLabel,  ///< a label that shows "&" as it is (texts of the user)
-  textBox,
-  multilineBox,
-  dropDownList,
-  checkBox,
-  optionButton,
-  button,
-  defaultButton,
-  tabStrip,
-  statusBar,
-  toolBar,
-  custom,  ///< made by the form itself in `createCustom`
-};
 
 /// One control of a form. The order of the rows is the tab order; a row's container stands
 /// before it. Places are twips at design resolution, from the container's top-left corner.
@@ -88,6 +71,11 @@ class Form : public Window {
 
   /// A control by its identifier; a null control when there is none, or none yet.
   [[nodiscard]] Control control(int id) const;
+  /// The same as what it is: `control<ComboBox>(id)`.
+  template <typename Kind>
+  [[nodiscard]] Kind control(int id) const {
+    return Kind(control(id).handle());
+  }
   /// A control by its name (the first of an array); raises when the form has none.
   [[nodiscard]] Control control(std::string_view name) const;
 
@@ -147,8 +135,6 @@ class Form : public Window {
   /// Enter and Esc, where no control takes them.
   virtual void onEnter() {}
   virtual void onEscape() {}
-  /// Makes a control of kind `custom` in `container` at `place` (pixels).
-  virtual HWND createCustom(const ControlDesign& design, HWND container, const RECT& place);
   virtual HMENU createMenu() { return nullptr; }
 
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

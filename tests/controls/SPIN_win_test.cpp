@@ -16,9 +16,7 @@ namespace {
 
 class Spin : public ::testing::Test {
  protected:
-  ControlForm form{[](HWND container, int id, const RECT& place) {
-    return SPIN::create(container, id, place).handle();
-  }};
+  ControlForm form{spinKind};
   SPIN spin{form.tested()};
   windowing::TextBox box{form.tested()};
   int beeps = 0;

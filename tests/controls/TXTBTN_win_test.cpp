@@ -17,12 +17,10 @@ constexpr LPARAM repeated = 1 | (1 << 30);
 class TxtBtn : public ::testing::Test {
  protected:
   windowing::ImageList images{strips};
-  ControlForm form{[this](HWND container, int id, const RECT& place) {
-    const TXTBTN made = TXTBTN::create(container, id, place);
-    made.setButton(images, library::imageIndex("MAIL"), "Send mail (F4)");
-    return made.handle();
-  }};
+  ControlForm form{linkBoxKind};
   TXTBTN box{form.tested()};
+
+  TxtBtn() { box.setButton(images, library::imageIndex("MAIL"), "Send mail (F4)"); }
 
   void down() const {
     const RECT button = box.buttonPlace();
@@ -79,9 +77,7 @@ TEST_F(TxtBtn, LeavingIsGoingToAnotherControlOfTheWindow) {
   EXPECT_EQ(form.count(TXTBTN::left), 1);
 
   box.focus();
-  ControlForm other([](HWND container, int id, const RECT& place) {
-    return TXTBTN::create(container, id, place).handle();
-  });
+  ControlForm other(linkBoxKind);
   other.control(test::beforeId).focus();
   EXPECT_EQ(form.count(TXTBTN::left), 1) << "another window";
   box.focus();

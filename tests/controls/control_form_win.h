@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <vector>
 
@@ -14,18 +15,19 @@ constexpr int beforeId = 11;
 constexpr int testedId = 12;
 constexpr int afterId = 13;
 
-inline constexpr windowing::ControlDesign rows[] = {
-    {"BEFORE", beforeId, windowing::ControlKind::textBox, "", 100, 100, 2000, 315},
-    {"TESTED", testedId, windowing::ControlKind::custom, "", 100, 500, 2000, 315},
-    {"AFTER", afterId, windowing::ControlKind::textBox, "", 100, 900, 2000, 315},
+struct Rows {
+  std::array<windowing::ControlDesign, 3> rows;
 };
-inline constexpr windowing::FormDesign design = {
-    "frmTest", "Test", WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, 0, 3000, 2000, rows};
 
-class ControlForm : public windowing::Form {
+class ControlForm : private Rows, public windowing::Form {
  public:
-  using Maker = std::function<HWND(HWND container, int id, const RECT& place)>;
-  explicit ControlForm(Maker maker) : Form(design), maker_(std::move(maker)) { show(); }
+  explicit ControlForm(const windowing::ControlKind& tested)
+      : Rows{{{{"BEFORE", beforeId, windowing::kind::textBox, "", 100, 100, 2000, 315},
+               {"TESTED", testedId, tested, "", 100, 500, 2000, 315},
+               {"AFTER", afterId, windowing::kind::textBox, "", 100, 900, 2000, 315}}}},
+        Form({"frmTest", "Test", WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, 0, 3000, 2000, rows}) {
+    show();
+  }
 
   std::vector<int> codes;
   std::function<void(int code)> onCode = [](int) {};
@@ -44,10 +46,6 @@ class ControlForm : public windowing::Form {
   }
 
  protected:
-  HWND createCustom(const windowing::ControlDesign& row, HWND container,
-                    const RECT& place) override {
-    return maker_(container, row.id, place);
-  }
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
     if (message == WM_COMMAND && LOWORD(wParam) == testedId && lParam != 0) {
       codes.push_back(HIWORD(wParam));
@@ -55,9 +53,6 @@ class ControlForm : public windowing::Form {
     }
     return Form::handleMessage(message, wParam, lParam);
   }
-
- private:
-  Maker maker_;
 };
 
 }  // namespace controls::test

@@ -13,7 +13,7 @@ namespace {
 
 constexpr windowing::ImageStrip strips[] = {{16, IDB_TOOLBAR16}};
 constexpr windowing::ControlDesign controlRows[] = {
-    {"SBMAIN", id::SBMAIN, windowing::ControlKind::statusBar, "", 0, 0, 0, 0}};
+    {"SBMAIN", id::SBMAIN, windowing::kind::statusBar, "", 0, 0, 0, 0}};
 constexpr int title = 7;
 
 class MenuForm : public CommandForm {
@@ -38,7 +38,7 @@ class MenuForm : public CommandForm {
 // What the status bar of `shown` says of an item of `owner`.
 std::string described(MenuForm& owner, MenuForm& shown, int number, bool clear = false) {
   LIBRARY().STATUSTEXTDESC(owner, shown, number, clear, "tellary");
-  return windowing::StatusBar(shown.control(id::SBMAIN).handle()).panel();
+  return shown.control<windowing::StatusBar>(id::SBMAIN).panel();
 }
 
 TEST(LibraryMenus, CreatesItemsWithPictureAndState) {

@@ -65,11 +65,9 @@ class PageSetup : public testing::Test {
   void type(int control, const std::string& text) const { form_.control(control).setText(text); }
   [[nodiscard]] bool accepts() const { return form_.control(id::BTNOK).enabled(); }
   [[nodiscard]] windowing::ComboBox list(int control) const {
-    return windowing::ComboBox(form_.control(control).handle());
+    return form_.control<windowing::ComboBox>(control);
   }
-  [[nodiscard]] int state(int box) const {
-    return windowing::CheckBox(form_.control(box).handle()).state();
-  }
+  [[nodiscard]] int state(int box) const { return form_.control<windowing::CheckBox>(box).state(); }
   void click(int control) const { form_.control(control).send(BM_CLICK); }
   /// Picks an entry of a list as a user does.
   void choose(int control, int index) const {

@@ -42,7 +42,7 @@ void MainWindowTest::notice(int box, int code) {
 }
 
 std::string MainWindowTest::status() const {
-  return windowing::StatusBar(form.control(id::SBMAIN).handle()).panel();
+  return form.control<windowing::StatusBar>(id::SBMAIN).panel();
 }
 
 Names MainWindowTest::names() const {

@@ -157,18 +157,17 @@ class TroubledForm : public windowing::Form {
   bool troubled = true;
 
  protected:
-  HWND createCustom(const windowing::ControlDesign& design, HWND container, const RECT&) override {
-    if (troubled) throw values::RuntimeError(values::ErrorNumber::outOfMemory, "");
-    return CreateWindowA("STATIC", "", WS_CHILD, 0, 0, 9, 9, container,
-                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(design.id)), nullptr,
-                         nullptr);
+  static HWND make(Form& form, const windowing::ControlDesign& design, HWND container,
+                   const RECT& place) {
+    if (static_cast<TroubledForm&>(form).troubled) values::raiseOutOfMemory();
+    return windowing::createChild({"STATIC", 0}, container, design.id, place);
   }
 
  private:
   static constexpr windowing::ControlDesign controls[] = {
-      {"PAGE", 1, windowing::ControlKind::container, "", 0, 0, 900, 900},
-      {"TXTBOX", 2, windowing::ControlKind::textBox, "", 0, 0, 300, 300, 1},
-      {"LAST", 3, windowing::ControlKind::custom, "", 0, 0, 300, 300, 1},
+      {"PAGE", 1, windowing::kind::container, "", 0, 0, 900, 900},
+      {"TXTBOX", 2, windowing::kind::textBox, "", 0, 0, 300, 300, 1},
+      {"LAST", 3, {.make = make}, "", 0, 0, 300, 300, 1},
   };
 };
 
