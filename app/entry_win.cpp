@@ -13,7 +13,16 @@ void __gnu_cxx::__verbose_terminate_handler() {
   std::abort();
 }
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+namespace {
+
+// Before all else: the compiler's library asks Windows for a random number before `WinMain`, to
+// guard the stack with, and Windows loads libraries for it.
+[[gnu::constructor(101)]] void beginSafely() {
   windowing::loadLibrariesFromSystemOnly();
+}
+
+}  // namespace
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
   return app::Main();
 }

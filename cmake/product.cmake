@@ -21,38 +21,18 @@ foreach(source IN LISTS plain_sources)
   endif()
 endforeach()
 
-# Libraries of dialogs, printing and the shell are loaded when they are first called: together
-# they take a tenth of the start. So are all that Windows would look for beside the program first:
-# when they are called, the program has told where to look. What is called of each is listed in its
-# .def file; a call of another function of it would load it at the start again.
-foreach(library comdlg32 ole32 shell32 uxtheme version winspool)
-  set(definition ${CMAKE_SOURCE_DIR}/cmake/late/${library}.def)
-  set(archive lib${library}_late.a) # its symbols are named after the path it is given
-  add_custom_command(OUTPUT ${archive} DEPENDS ${definition} WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
-    COMMAND ${CMAKE_DLLTOOL} --kill-at --input-def ${definition} --output-delaylib ${archive})
-  list(APPEND late_libraries ${CMAKE_BINARY_DIR}/${archive})
-  # The linker takes what only a table of imports points at for unused, and would drop it.
-  file(STRINGS ${definition} functions REGEX "@")
-  list(TRANSFORM functions PREPEND "-Wl,--undefined=_" OUTPUT_VARIABLE functions)
-  list(APPEND late_functions ${functions})
-endforeach()
-add_custom_target(late_libraries DEPENDS ${late_libraries})
-
+# The libraries of Windows that are imported, and no others: Windows takes these from its own folder,
+# by a list of its own (comctl32 by the manifest), where it would look for any other beside the
+# program first. A function of another is called through windowing/system_library_win.h.
+set(CMAKE_CXX_STANDARD_LIBRARIES "")
 add_library(tellary_windows STATIC ${windows_sources})
-add_dependencies(tellary_windows late_libraries)
-target_link_libraries(tellary_windows PUBLIC tellary_core ${late_libraries} delayimp
-  comctl32 gdi32 user32 advapi32)
-target_link_options(tellary_windows PUBLIC ${late_functions})
+target_link_libraries(tellary_windows PUBLIC tellary_core
+  advapi32 comctl32 comdlg32 gdi32 ole32 shell32 user32)
 
 add_executable(Tellary WIN32 app/entry_win.cpp app/tellary.rc)
 target_link_libraries(Tellary PRIVATE tellary_windows)
 target_link_options(Tellary PRIVATE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
   $<$<CONFIG:Release>:-s>)
-# Of these Windows knows the place before the program runs: from a list of its own, that of
-# comctl32 from the manifest.
-add_test(NAME late_libraries COMMAND sh -c
-  "! ${CMAKE_OBJDUMP} -p '$<TARGET_FILE:Tellary>' | grep 'DLL Name' | grep -viE ' (advapi32|comctl32|gdi32|kernel32|msvcrt|user32)[.]dll'")
-set_tests_properties(late_libraries PROPERTIES LABELS app)
 file(GLOB pictures CONFIGURE_DEPENDS app/icons/*.ico app/icons/*.bmp)
 set_source_files_properties(app/tellary.rc PROPERTIES OBJECT_DEPENDS
   "${CMAKE_SOURCE_DIR}/app/version.h;${CMAKE_SOURCE_DIR}/library/resource_ids.h;${CMAKE_SOURCE_DIR}/app/app.manifest;${pictures}")
@@ -69,7 +49,7 @@ if(EXISTS /usr/src/googletest)
 
   if(win_tests)
     add_executable(tests_win ${win_tests} ${win_support} app/tellary.rc)
-    target_link_libraries(tests_win PRIVATE tellary_windows gmock gtest gtest_main)
+    target_link_libraries(tests_win PRIVATE tellary_windows winspool gmock gtest gtest_main)
     # Only full_disk has a disk to fill, and only host_files looks at files from outside.
     add_test(NAME win COMMAND tests_win "--gtest_filter=-*FullDisk*:HostFiles*")
     set_tests_properties(win PROPERTIES LABELS win)
@@ -80,7 +60,7 @@ if(EXISTS /usr/src/googletest)
   endif()
   if(app_tests)
     add_executable(tests_app ${app_tests} ${app_support})
-    target_link_libraries(tests_app PRIVATE tellary_windows gmock gtest gtest_main)
+    target_link_libraries(tests_app PRIVATE tellary_windows winspool gmock gtest gtest_main)
     # All but the pictures go without a screen, several times faster.
     add_test(NAME app COMMAND tests_app --gtest_filter=-Pictures.*)
     set(app_environment "TELLARY_EXE=$<TARGET_FILE:Tellary>;TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples")

@@ -1,7 +1,6 @@
 #include "controls/TXTBTN_win.h"
 
 #include <commctrl.h>
-#include <uxtheme.h>
 #include <windowsx.h>
 
 #include "controls/drawing_win.h"
@@ -9,6 +8,7 @@
 #include "values/system_error_win.h"
 #include "windowing/application_win.h"
 #include "windowing/screen_win.h"
+#include "windowing/theme_win.h"
 
 namespace controls {
 namespace {
@@ -65,7 +65,7 @@ ButtonOfBox::~ButtonOfBox() {
 
 // Themed boxes draw a border of one pixel, others an edge of two.
 int ButtonOfBox::border() const {
-  return IsAppThemed() ? 1 : GetSystemMetrics(SM_CXEDGE);
+  return windowing::themes().isAppThemed() != FALSE ? 1 : GetSystemMetrics(SM_CXEDGE);
 }
 
 RECT ButtonOfBox::place() const {

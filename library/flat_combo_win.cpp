@@ -1,9 +1,9 @@
 #include "library/flat_combo_win.h"
 
 #include <commctrl.h>
-#include <uxtheme.h>
 
 #include "values/handles_win.h"
+#include "windowing/theme_win.h"
 
 namespace library {
 namespace {
@@ -76,7 +76,8 @@ void FlatCombo::leavePointer() {
 
 void FlatCombo::drawEdge() const {
   // A visual style has a flat look of its own.
-  if (IsAppThemed() != FALSE && IsThemeActive() != FALSE) return;
+  const windowing::ThemeEngine& themes = windowing::themes();
+  if (themes.isAppThemed() != FALSE && themes.isThemeActive() != FALSE) return;
   if (hot_ || GetFocus() == combo_) return;
   RECT area{};
   GetClientRect(combo_, &area);

@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "mainwindow/frmMain_design_win.h"
@@ -32,7 +33,7 @@ bool multipleBytes() {
 }
 
 // An empty box that stays empty needs no painting; it only has to forget what could be undone.
-bool staysEmpty(const document::Field& field, const windowing::Control& box) {
+bool staysEmpty(const document::Field& field, const windowing::TextBox& box) {
   if (field.box != document::Box::TXTITEMS || box.send(WM_GETTEXTLENGTH) != 0) return false;
   box.send(EM_EMPTYUNDOBUFFER);
   return true;
@@ -54,11 +55,10 @@ bool fillBox(const windowing::Control& box, std::string_view text, std::string& 
 }  // namespace
 
 // A box that cannot take the text shows none, rather than another contact's.
-bool frmMain::showField(const document::Field& field, std::string_view text) {
-  const windowing::Control box = control(design::boxId(field));
-  if (box.handle() == nullptr) return true;
-  std::string& shown = shown_[static_cast<std::size_t>(field.slot)];
-  if (text.empty() && staysEmpty(field, box)) {
+bool frmMain::showField(const BoxOnPage& place, std::string_view text) {
+  const auto& [field, box] = place;
+  std::string& shown = shown_[static_cast<std::size_t>(field->slot)];
+  if (text.empty() && staysEmpty(*field, box)) {
     shown.clear();
     return true;
   }
@@ -72,8 +72,8 @@ bool frmMain::showField(const document::Field& field, std::string_view text) {
 void frmMain::showTexts(const document::ContactList::Texts& texts) {
   const While filling(filling_);
   bool whole = true;
-  for (const document::Field& field : document::fields)
-    if (!showField(field, texts[static_cast<std::size_t>(field.slot)])) whole = false;
+  for (const BoxOnPage& box : boxesOn(madePages_))
+    if (!showField(box, texts[static_cast<std::size_t>(box.field->slot)])) whole = false;
   if (whole != shownWhole_) setShownWhole(whole);
 }
 
@@ -81,10 +81,7 @@ void frmMain::showTexts(const document::ContactList::Texts& texts) {
 // user is told once a document, when the step that came upon it is done.
 void frmMain::setShownWhole(bool whole) {
   shownWhole_ = whole;
-  for (const document::Field& field : document::fields) {
-    const windowing::TextBox box(control(design::boxId(field)).handle());
-    if (box.handle() != nullptr) box.setReadOnly(!whole);
-  }
+  for (const auto& [field, box] : boxesOn(madePages_)) box.setReadOnly(!whole);
   if (!whole && !std::exchange(unshownTold_, true)) PostMessageA(handle(), unshownMessage, 0, 0);
 }
 
@@ -96,21 +93,34 @@ void frmMain::tellUnshown() {
       windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
 }
 
-void frmMain::onLateControls() {
-  prepareLinks();
+std::vector<frmMain::BoxOnPage> frmMain::boxesOn(std::span<const int> pages) const {
+  std::vector<BoxOnPage> found;
+  for (const document::Field& field : document::fields) {
+    const windowing::TextBox box(control(design::boxId(field)).handle());
+    if (std::ranges::count(pages, GetDlgCtrlID(GetParent(box.handle()))) != 0)
+      found.push_back({&field, box});
+  }
+  return found;
+}
+
+// A page is made when it is first shown, with what the contact on screen has for it. Until all of
+// that has gone well its boxes count for nothing: an empty one would pass for one that the user
+// has emptied.
+void frmMain::makePage(int page) {
+  if (std::ranges::count(madePages_, page) != 0) return;
+  createControls(page);
   const While filling(filling_);
   const document::ContactList::Texts texts = list_.texts(list_.current());
   bool whole = shownWhole_;
-  for (const document::Field& field : document::fields) {
-    const windowing::Control box = control(design::boxId(field));
-    if (IsChild(control(id::FRAMGENERAL).handle(), box.handle())) continue;
-    box.setEnabled(list_.count() > 0);
-    if (!showField(field, texts[static_cast<std::size_t>(field.slot)])) whole = false;
+  for (const BoxOnPage& box : boxesOn({&page, 1})) {
+    if (box.field->box != document::Box::TXTITEMS) setLinkButton(box.box.id());
+    box.box.setEnabled(list_.count() > 0);
+    if (!showField(box, texts[static_cast<std::size_t>(box.field->slot)])) whole = false;
   }
-  if (whole) return;
   // What was typed into the others so far is stored before they are locked.
-  StoreCurrent();
-  setShownWhole(false);
+  if (!whole) StoreCurrent();
+  madePages_.push_back(page);
+  if (!whole) setShownWhole(false);
 }
 
 void frmMain::ShowCurrent() {
@@ -121,13 +131,11 @@ void frmMain::ShowCurrent() {
 
 void frmMain::StoreCurrent() {
   if (list_.current() < 0 || !shownWhole_) return;
-  for (const document::Field& field : document::fields) {
-    const windowing::Control box = control(design::boxId(field));
-    if (box.handle() == nullptr) continue;
-    std::string& shown = shown_[static_cast<std::size_t>(field.slot)];
+  for (const auto& [field, box] : boxesOn(madePages_)) {
+    std::string& shown = shown_[static_cast<std::size_t>(field->slot)];
     std::string text = box.text();
     if (text == shown) continue;
-    list_.store(list_.current(), field.slot, text);
+    list_.store(list_.current(), field->slot, text);
     shown = std::move(text);
   }
 }
@@ -246,12 +254,12 @@ void frmMain::onTab(int) {
 
 // Exactly one page is visible; the focus does not stay behind on a hidden one.
 void frmMain::showPage(int index) {
-  if (index > 0) makeLateControls();
-  constexpr std::array pages{id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK};
+  const int shown = design::pages.at(static_cast<std::size_t>(index));
+  makePage(shown);
   const HWND focus = GetFocus();
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    const windowing::Control page = control(pages[i]);
-    const bool wanted = static_cast<int>(i) == index;
+  for (const int each : design::pages) {
+    const windowing::Control page = control(each);
+    const bool wanted = each == shown;
     if (!wanted && IsChild(page.handle(), focus)) TABMAIN().focus();
     page.setVisible(wanted);
   }
@@ -270,9 +278,7 @@ void frmMain::refreshFieldState() {
   const bool any = list_.count() > 0;
   if (!ready_ || TXTITEMS(0).enabled() == any) return;
   const HWND focus = GetFocus();
-  for (const document::Field& field : document::fields) {
-    const windowing::Control box = control(design::boxId(field));
-    if (box.handle() == nullptr) continue;
+  for (const auto& [field, box] : boxesOn(madePages_)) {
     box.setEnabled(any);
     box.repaint();
     // A disabled control that kept the focus would leave the keyboard dead.

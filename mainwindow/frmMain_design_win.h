@@ -165,7 +165,7 @@ constexpr ControlKind boxKind(const document::Field& field) {
 constexpr ControlDesign frame(const char* name, int frameId) {
   return {name,
           frameId,
-          kind::container,
+          kind::page,
           "",
           bodyMargin + framesInset,
           bodyMargin + framesTop,
@@ -173,6 +173,9 @@ constexpr ControlDesign frame(const char* name, int frameId) {
           framesHeight,
           id::PICMAINBOX};
 }
+
+/// The pages in the order of their tabs.
+inline constexpr std::array pages{id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK};
 
 // clang-format off
 constexpr ControlDesign strips[] = {
@@ -237,16 +240,12 @@ constexpr std::array<ControlDesign, controlCount> controls = [] {
 }();
 static_assert(controls.back().id == id::SBMAIN, "every row is filled");
 
-// The first page is in front when the window comes up.
-constexpr int latePages[] = {id::FRAMADDRESS, id::FRAMADDRESSWORK};
-
 constexpr windowing::FormDesign form{"frmMain",
                                      "",  // the product's name, set when the form loads
                                      WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX,
                                      0,
                                      formWidth,
                                      toolbarHeight + headerHeight + tabHeight + 90 + statusHeight,
-                                     controls,
-                                     latePages};
+                                     controls};
 
 }  // namespace mainwindow::design

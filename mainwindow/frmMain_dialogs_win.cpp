@@ -10,10 +10,7 @@ namespace mainwindow {
 document::ContactRecord frmMain::valuesOnScreen() const {
   document::ContactRecord values = list_.record(list_.current());
   if (!shownWhole_) return values;
-  for (const document::Field& field : document::fields) {
-    const windowing::Control box = control(design::boxId(field));
-    if (box.handle() != nullptr) values[field.slot] = box.text();
-  }
+  for (const auto& [field, box] : boxesOn(madePages_)) values[field->slot] = box.text();
   return values;
 }
 

@@ -76,12 +76,11 @@ void frmMain::onLoad() {
   windowing::setSurface(control(id::PICHEADER).handle(), windowing::Surface::window);
   control(id::LBLDESC).setFont(windowing::font("Tahoma", 10));
   for (const char* caption : {"General", "Home Address", "Work Address"}) TABMAIN().add(caption);
-  for (const int page : {id::FRAMADDRESSWORK, id::FRAMADDRESS, id::FRAMGENERAL}) {
+  for (const int page : design::pages) {
     const HWND frame = control(page).handle();
     windowing::setSurface(frame, windowing::Surface::tabPage);
     SetWindowPos(frame, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
-  showPage(0);
   buildToolbar();
 
   LIBRARY().COMBOINIT(windowing::handleText(CBOTBARBOX().handle()), "15", CBOTBARBOX(), true);
@@ -95,6 +94,8 @@ void frmMain::onLoad() {
   // The boxes are not greyed first only to be freed by the new document.
   SETSAVE("False");
   startNewDocument();
+  madePages_.clear();
+  showPage(0);
   ready_ = true;
   layOut();
   setFirstFocus(TXTITEMS(1));
@@ -179,7 +180,7 @@ void frmMain::arrange() {
   const int body = foot - top - header;
   const int tabs = std::min(windowing::screenPixels(design::tabHeight), body - 2 * inset);
   TABMAIN().placePixels({inset, inset, client.right - inset, inset + tabs});
-  for (const int page : {id::FRAMGENERAL, id::FRAMADDRESS, id::FRAMADDRESSWORK}) {
+  for (const int page : design::pages) {
     RECT frame = control(page).pixels();
     OffsetRect(&frame, 0, inset + windowing::screenPixels(design::framesTop) - frame.top);
     control(page).placePixels(frame);

@@ -1,6 +1,4 @@
 // The e-mail and web boxes: text boxes whose button opens what they hold.
-#include <array>
-
 #include "controls/TXTBTN_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
@@ -19,27 +17,16 @@ namespace id = library::id;
 
 namespace {
 
-struct Link {
-  int id;
-  bool web;
-};
-constexpr std::array<Link, document::linkCount> links{{{id::CBOPEMAIL, false},
-                                                       {id::CBOPWORKEMAIL, false},
-                                                       {id::CBOPWEBSITE, true},
-                                                       {id::CBOPWORKWEBSITE, true}}};
-
 bool isWeb(int box) {
-  for (const Link& link : links)
-    if (link.id == box) return link.web;
-  return false;
+  return box == id::CBOPWEBSITE || box == id::CBOPWORKWEBSITE;
 }
 
 }  // namespace
 
-void frmMain::prepareLinks() {
-  for (const Link& link : links)
-    control<TXTBTN>(link.id).setButton(IMGLST, library::imageIndex(link.web ? "WEB" : "MAIL"),
-                                       link.web ? "Open the web site (F4)" : "Send an e-mail (F4)");
+void frmMain::setLinkButton(int box) {
+  const bool web = isWeb(box);
+  control<TXTBTN>(box).setButton(IMGLST, library::imageIndex(web ? "WEB" : "MAIL"),
+                                 web ? "Open the web site (F4)" : "Send an e-mail (F4)");
 }
 
 void frmMain::onNotice(int box, int notice) {

@@ -5,8 +5,10 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/ContactList.h"
 #include "files/file_calls_win.h"
@@ -61,7 +63,6 @@ class frmMain : public library::CommandForm {
 
  protected:
   void onLoad() override;
-  void onLateControls() override;
   bool onQueryUnload() override;
   void onUnload() override;
   void onCommand(int id) override { runCommand(id); }
@@ -81,6 +82,11 @@ class frmMain : public library::CommandForm {
     std::string fileName;
   };
 
+  struct BoxOnPage {
+    const document::Field* field;
+    windowing::TextBox box;
+  };
+
   // Contacts on screen (frmMain_contacts_win.cpp).
   void ShowCurrent();
   void StoreCurrent();
@@ -94,17 +100,19 @@ class frmMain : public library::CommandForm {
   void goTo(int index);
   void emptyFields();
   void showTexts(const document::ContactList::Texts& texts);
-  bool showField(const document::Field& field, std::string_view text);
+  bool showField(const BoxOnPage& box, std::string_view text);
   void setShownWhole(bool whole);
   void tellUnshown();
   void rewriteNameEntry();
   void refreshFieldState();
   void refreshStatusText();
+  [[nodiscard]] std::vector<BoxOnPage> boxesOn(std::span<const int> pages) const;
+  void makePage(int page);
   void showPage(int index);
   void focusFirstField();
 
   // Links (frmMain_links_win.cpp).
-  void prepareLinks();
+  void setLinkButton(int box);
   void checkWebAddress(int id);
   void openLink(int id);
   void openMakerSite();
@@ -132,8 +140,8 @@ class frmMain : public library::CommandForm {
   void rememberFolder(library::Setting setting, const std::string& file);
 
   // Dialogs (frmMain_dialogs_win.cpp).
-  /// The 28 texts as they stand in the boxes, edits included; a box that is not made yet, or
-  /// could not take its text, stands for what is in the list.
+  /// The 28 texts as they stand in the boxes, edits included; where there is no box yet, or it
+  /// could not take its text, as they are in the list.
   [[nodiscard]] document::ContactRecord valuesOnScreen() const;
   void showProperties();
 
@@ -161,6 +169,7 @@ class frmMain : public library::CommandForm {
   static constexpr UINT unshownMessage = WM_APP + 1;
 
   document::ContactList list_;
+  std::vector<int> madePages_;  ///< a text of another page, which has no boxes yet, is in the list
   /// Text of each box, by slot, as the box gave it back after it was filled: only what differs
   /// from it was edited, and bytes that a box cannot carry survive a visit.
   std::array<std::string, document::fieldCount> shown_;

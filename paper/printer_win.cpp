@@ -7,14 +7,31 @@
 #include "values/runtime_error.h"
 #include "values/units.h"
 #include "windowing/application_win.h"
+#include "windowing/system_library_win.h"
 
 namespace paper {
 namespace {
 
+// The printers' functions. Their library is none of those that Windows takes from its own folder
+// unasked.
+struct Spooler {
+  windowing::SystemLibrary library{"winspool.drv"};
+  decltype(&OpenPrinterA) openPrinter = library.function("OpenPrinterA");
+  decltype(&ClosePrinter) closePrinter = library.function("ClosePrinter");
+  decltype(&DocumentPropertiesA) documentProperties = library.function("DocumentPropertiesA");
+  decltype(&GetDefaultPrinterA) getDefaultPrinter = library.function("GetDefaultPrinterA");
+  decltype(&EnumPrintersA) enumPrinters = library.function("EnumPrintersA");
+};
+
+const Spooler& spooler() {
+  static const Spooler functions;
+  return functions;
+}
+
 struct PrinterTraits {
   using Type = HANDLE;
   static Type empty() { return nullptr; }
-  static void free(Type handle) { ClosePrinter(handle); }
+  static void free(Type handle) { spooler().closePrinter(handle); }
 };
 using PrinterHandle = values::UniqueHandle<PrinterTraits>;
 
@@ -28,7 +45,7 @@ using PrinterHandle = values::UniqueHandle<PrinterTraits>;
 
 PrinterHandle open(const std::string& name) {
   HANDLE handle = nullptr;
-  if (name.empty() || !OpenPrinterA(const_cast<char*>(name.c_str()), &handle, nullptr))
+  if (name.empty() || !spooler().openPrinter(const_cast<char*>(name.c_str()), &handle, nullptr))
     raisePrinter();
   return PrinterHandle(handle);
 }
@@ -36,20 +53,22 @@ PrinterHandle open(const std::string& name) {
 std::vector<BYTE> settingsOf(const std::string& name) {
   const PrinterHandle device = open(name);
   char* const deviceName = const_cast<char*>(name.c_str());
-  const LONG size = DocumentPropertiesA(nullptr, device.get(), deviceName, nullptr, nullptr, 0);
+  const LONG size =
+      spooler().documentProperties(nullptr, device.get(), deviceName, nullptr, nullptr, 0);
   if (size < static_cast<LONG>(sizeof(DEVMODEA))) raisePrinter();
   std::vector<BYTE> settings(static_cast<std::size_t>(size));
-  if (DocumentPropertiesA(nullptr, device.get(), deviceName,
-                          reinterpret_cast<DEVMODEA*>(settings.data()), nullptr, DM_OUT_BUFFER) < 0)
+  if (spooler().documentProperties(nullptr, device.get(), deviceName,
+                                   reinterpret_cast<DEVMODEA*>(settings.data()), nullptr,
+                                   DM_OUT_BUFFER) < 0)
     raisePrinter();
   return settings;
 }
 
 std::string defaultPrinterName() {
   DWORD size = 0;
-  GetDefaultPrinterA(nullptr, &size);
+  spooler().getDefaultPrinter(nullptr, &size);
   std::vector<char> name(size + 1, '\0');
-  if (size != 0 && GetDefaultPrinterA(name.data(), &size)) return name.data();
+  if (size != 0 && spooler().getDefaultPrinter(name.data(), &size)) return name.data();
   // Printers without a default among them are as good as one.
   const std::vector<std::string> names = printerNames();
   return names.empty() ? std::string() : names.front();
@@ -79,11 +98,12 @@ std::vector<std::string> printerNames() {
   constexpr DWORD level = 4;  // names alone: asks no printer and no server
   DWORD size = 0;
   DWORD count = 0;
-  EnumPrintersA(kinds, nullptr, level, nullptr, 0, &size, &count);
+  spooler().enumPrinters(kinds, nullptr, level, nullptr, 0, &size, &count);
   std::vector<PRINTER_INFO_4A> found(size / sizeof(PRINTER_INFO_4A) + 1);
   const std::size_t room = found.size() * sizeof(PRINTER_INFO_4A);
-  if (size == 0 || !EnumPrintersA(kinds, nullptr, level, reinterpret_cast<BYTE*>(found.data()),
-                                  static_cast<DWORD>(room), &size, &count))
+  if (size == 0 ||
+      !spooler().enumPrinters(kinds, nullptr, level, reinterpret_cast<BYTE*>(found.data()),
+                              static_cast<DWORD>(room), &size, &count))
     return {};
   std::vector<std::string> names;
   for (DWORD i = 0; i < count; ++i) names.emplace_back(found[i].pPrinterName);
@@ -141,9 +161,9 @@ void Printer::applyMode() {
   DEVMODEA& wanted = mode();
   const PrinterHandle device = open(name_);
   std::vector<BYTE> result(settings_.size());
-  if (DocumentPropertiesA(nullptr, device.get(), const_cast<char*>(name_.c_str()),
-                          reinterpret_cast<DEVMODEA*>(result.data()), &wanted,
-                          DM_IN_BUFFER | DM_OUT_BUFFER) < 0)
+  if (spooler().documentProperties(nullptr, device.get(), const_cast<char*>(name_.c_str()),
+                                   reinterpret_cast<DEVMODEA*>(result.data()), &wanted,
+                                   DM_IN_BUFFER | DM_OUT_BUFFER) < 0)
     raisePrinter();
   settings_ = std::move(result);
   stale_ = true;

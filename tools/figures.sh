@@ -79,9 +79,9 @@ for part in "${parts[@]}"; do
     reading)
       (cd "$work" && "$native/document_bench" thousand.tly --benchmark_filter='read a full document' \
         --benchmark_format=csv 2>/dev/null) |
-        awk -F, '/_median/ { printf "figure\treading / read + line ends, native (ms)\t%.3f\t%.3f\t%.3f\t1.5\n", $NF, $(NF-2), $(NF-1) }' >>"$table"
+        awk -F, '/_median/ { printf "figure\treading / read + line ends, native (ms)\t%.3f\t%.3f\t%.3f\t1.1\n", $NF, $(NF-2), $(NF-1) }' >>"$table"
       (cd "$work" && "$root/tools/winerun" "$product/bench_reading_win.exe" thousand.tly) |
-        awk '/^floor/ { printf "figure\treading / read + line ends (ms)\t%s\t%s\t%s\t1.5\n", $5, $2, $8 }' | tr -d '\r' >>"$table"
+        awk '/^floor/ { printf "figure\treading / read + line ends (ms)\t%s\t%s\t%s\t1.1\n", $5, $2, $8 }' | tr -d '\r' >>"$table"
       ;;
     saving) run "$product/bench_saving_win.exe" 'C:\full.tly' ;;
     window) run "$product/bench_window_win.exe" 'C:\full.tly' 'C:\thousand.tly' ;;

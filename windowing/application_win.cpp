@@ -2,8 +2,24 @@
 
 #include <vector>
 
+#include "windowing/system_library_win.h"
+
 namespace windowing {
 namespace {
+
+// Reads version resources. Its library is none of those that Windows takes from its own folder
+// unasked.
+struct VersionReader {
+  SystemLibrary library{"version.dll"};
+  decltype(&GetFileVersionInfoSizeA) size = library.function("GetFileVersionInfoSizeA");
+  decltype(&GetFileVersionInfoA) read = library.function("GetFileVersionInfoA");
+  decltype(&VerQueryValueA) find = library.function("VerQueryValueA");
+};
+
+const VersionReader& reader() {
+  static const VersionReader functions;
+  return functions;
+}
 
 // The whole version resource of the program's file, read once.
 const std::vector<char>& versionBlock() {
@@ -11,9 +27,9 @@ const std::vector<char>& versionBlock() {
     std::vector<char> data;
     const std::string path = programPath();
     DWORD ignored = 0;
-    data.resize(GetFileVersionInfoSizeA(path.c_str(), &ignored));
+    data.resize(reader().size(path.c_str(), &ignored));
     if (data.empty() ||
-        !GetFileVersionInfoA(path.c_str(), 0, static_cast<DWORD>(data.size()), data.data()))
+        !reader().read(path.c_str(), 0, static_cast<DWORD>(data.size()), data.data()))
       data.clear();
     return data;
   }();
@@ -26,7 +42,7 @@ std::string versionText(const char* name) {
   const std::string query = std::string("\\StringFileInfo\\040904E4\\") + name;
   void* value = nullptr;
   UINT size = 0;
-  if (!VerQueryValueA(block.data(), query.c_str(), &value, &size) || size == 0) return {};
+  if (!reader().find(block.data(), query.c_str(), &value, &size) || size == 0) return {};
   return static_cast<const char*>(value);
 }
 
@@ -55,7 +71,7 @@ Version programVersion() {
   const std::vector<char>& block = versionBlock();
   void* value = nullptr;
   UINT size = 0;
-  if (block.empty() || !VerQueryValueA(block.data(), "\\", &value, &size)) return {};
+  if (block.empty() || !reader().find(block.data(), "\\", &value, &size)) return {};
   const auto* info = static_cast<const VS_FIXEDFILEINFO*>(value);
   return {HIWORD(info->dwFileVersionMS), LOWORD(info->dwFileVersionMS)};
 }

@@ -1,11 +1,11 @@
 #include "windowing/container_win.h"
 
-#include <uxtheme.h>
 #include <vsstyle.h>
 
 #include "values/handles_win.h"
 #include "windowing/application_win.h"
 #include "windowing/form_win.h"
+#include "windowing/theme_win.h"
 
 namespace windowing {
 namespace {
@@ -14,8 +14,8 @@ namespace {
 // drawn once and looked at.
 COLORREF tabPageColour(HWND window) {
   const COLORREF face = GetSysColor(COLOR_BTNFACE);
-  if (!IsAppThemed()) return face;
-  const HTHEME theme = OpenThemeData(window, L"TAB");
+  if (!themes().isAppThemed()) return face;
+  const HTHEME theme = themes().openThemeData(window, L"TAB");
   if (theme == nullptr) return face;
   const values::WindowDc screen(nullptr);
   const values::MemoryDc memory(CreateCompatibleDC(screen.get()));
@@ -26,10 +26,10 @@ COLORREF tabPageColour(HWND window) {
     const values::Selected selected(memory.get(), bitmap.get());
     const RECT area{0, 0, side, side};
     FillRect(memory.get(), &area, GetSysColorBrush(COLOR_BTNFACE));
-    if (DrawThemeBackground(theme, memory.get(), TABP_BODY, 0, &area, nullptr) == S_OK)
+    if (themes().drawThemeBackground(theme, memory.get(), TABP_BODY, 0, &area, nullptr) == S_OK)
       colour = GetPixel(memory.get(), side / 2, side / 2);
   }
-  CloseThemeData(theme);
+  themes().closeThemeData(theme);
   return colour == CLR_INVALID ? face : colour;
 }
 

@@ -10,15 +10,18 @@ namespace windowing {
 class Form;
 struct ControlDesign;
 
+/// Makes a control of `form` in `container` at `place` (pixels).
+using Maker = HWND(Form& form, const ControlDesign& design, HWND container, const RECT& place);
+
 /// A window class with styles, or who makes the control.
 struct ControlKind {
   const char* windowClass = nullptr;
   DWORD style = 0;  ///< besides WS_CHILD
   DWORD exStyle = 0;
-  /// Makes the control of `form` in `container` at `place` (pixels); null where the class and the
-  /// styles say it all.
-  HWND(*make)
-  (Form& form, const ControlDesign& design, HWND container, const RECT& place) = nullptr;
+  /// Null where the class and the styles say it all.
+  Maker* make = nullptr;
+  /// Its form makes what it holds, before it is first shown.
+  bool isPage = false;
 };
 
 namespace kind {
@@ -26,10 +29,12 @@ namespace kind {
 constexpr DWORD shown = WS_VISIBLE;
 constexpr DWORD stop = WS_VISIBLE | WS_TABSTOP;
 
-HWND makeContainer(Form& form, const ControlDesign& design, HWND container, const RECT& place);
+Maker makeContainer;
 
 /// Holds other controls; paints the button face.
 inline constexpr ControlKind container{.make = makeContainer};
+/// A container out of sight at first: its form makes what it holds.
+inline constexpr ControlKind page{.make = makeContainer, .isPage = true};
 /// Group box around its neighbours.
 inline constexpr ControlKind group{"BUTTON", shown | BS_GROUPBOX};
 inline constexpr ControlKind label{"STATIC", shown | SS_LEFT};

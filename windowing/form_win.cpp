@@ -18,10 +18,6 @@ namespace {
 constexpr char formClass[] = "TellaryForm";
 constexpr char formProperty[] = "TellaryForm";
 
-// After the first painting and the first wait for input, before a user can have done anything.
-constexpr UINT_PTR lateControlsTimer = 0x4C43;
-constexpr UINT lateControlsDelay = 50;  // milliseconds
-
 bool isClass(HWND window, const char* wanted) {
   char name[32] = {};
   GetClassNameA(window, name, sizeof name);
@@ -84,8 +80,7 @@ void Form::load() {
   create(creation);
   SetPropA(handle(), formProperty, this);
   try {
-    createControls(false);
-    lateControlsMade_ = design_.lateContainers.empty();
+    createControls(0);
     onLoad();
   } catch (...) {
     // Half a form is none: who shows it next is told the reason, too.
@@ -94,39 +89,17 @@ void Form::load() {
   }
 }
 
-void Form::makeLateControls() {
-  KillTimer(handle(), lateControlsTimer);
-  if (std::exchange(lateControlsMade_, true)) return;
-  try {
-    createControls(true);
-    onLateControls();
-  } catch (...) {
-    // All of them or none: a box that was made but not filled would pass for one that the user
-    // has emptied.
-    dropLateControls();
-    lateControlsMade_ = false;
-    throw;
-  }
+// The page that a control lies on; 0 where it is on none.
+int Form::pageOf(const ControlDesign& design) const {
+  const auto holds = [&](const ControlDesign& row) {
+    return row.kind.isPage && row.id == design.container;
+  };
+  return std::ranges::any_of(design_.controls, holds) ? design.container : 0;
 }
 
-void Form::dropLateControls() {
+void Form::createControls(int page) {
   for (const ControlDesign& design : design_.controls) {
-    if (!isLate(design)) continue;
-    const auto made = controls_.find(design.id);
-    if (made == controls_.end()) continue;
-    DestroyWindow(made->second);
-    controls_.erase(made);
-  }
-}
-
-bool Form::isLate(const ControlDesign& design) const {
-  const auto& containers = design_.lateContainers;
-  return std::ranges::find(containers, design.container) != containers.end();
-}
-
-void Form::createControls(bool late) {
-  for (const ControlDesign& design : design_.controls) {
-    if (late != isLate(design)) continue;
+    if (pageOf(design) != page || controls_.contains(design.id)) continue;
     const HWND container = design.container == 0 ? handle() : control(design.container).handle();
     const HWND made = createControl(design, container);
     controls_[design.id] = made;
@@ -155,7 +128,6 @@ void Form::show() {
 void Form::appear() {
   const bool maximised = std::exchange(appearMaximised_, false);
   ShowWindow(handle(), maximised ? SW_SHOWMAXIMIZED : SW_SHOW);
-  if (!lateControlsMade_) SetTimer(handle(), lateControlsTimer, lateControlsDelay, nullptr);
 }
 
 void Form::maximiseWhenShown() {
@@ -348,11 +320,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam != SIZE_MINIMIZED) onSize();
       return 0;
     case WM_TIMER:
-      if (wParam == lateControlsTimer) {
-        makeLateControls();
-      } else {
-        onTimer(wParam);
-      }
+      onTimer(wParam);
       return 0;
     case WM_ACTIVATE:
       keepFocus(wParam);

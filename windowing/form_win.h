@@ -40,9 +40,6 @@ struct FormDesign {
   int innerWidth;  ///< client area, twips
   int innerHeight;
   std::span<const ControlDesign> controls;
-  /// Containers out of sight at first: what they hold is made once the form is on screen, so
-  /// that it comes up sooner.
-  std::span<const int> lateContainers = {};
 };
 
 class Form : public Window {
@@ -61,10 +58,6 @@ class Form : public Window {
   /// Loads when needed, shows the form above its owner and returns when it is unloaded. All
   /// other windows of the program take no input meanwhile.
   void showModal();
-  /// Makes the controls that were left for later, if they are not made yet. A shown form does
-  /// so itself a moment after it is on screen; who needs them earlier calls this. Raises what
-  /// keeps them from being made; none of them is there then.
-  void makeLateControls();
   /// Closes the form as its close box does: asks it, runs its unload handler, destroys it.
   /// False when the form refused.
   bool unload();
@@ -101,8 +94,6 @@ class Form : public Window {
 
  protected:
   virtual void onLoad() {}
-  /// The controls that were left for later have been made.
-  virtual void onLateControls() {}
   /// Whether the form may be closed.
   virtual bool onQueryUnload() { return true; }
   virtual void onUnload() {}
@@ -135,14 +126,15 @@ class Form : public Window {
   /// Enter and Esc, where no control takes them.
   virtual void onEnter() {}
   virtual void onEscape() {}
+  /// Makes those controls of a page that are not made yet, before it is shown. Raises what keeps
+  /// one from being made; those before it are there then.
+  void createControls(int page);
   virtual HMENU createMenu() { return nullptr; }
 
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  [[nodiscard]] bool isLate(const ControlDesign& design) const;
-  void createControls(bool late);
-  void dropLateControls();
+  [[nodiscard]] int pageOf(const ControlDesign& design) const;
   HWND createControl(const ControlDesign& design, HWND container);
   LRESULT dispatchCommand(WPARAM wParam, LPARAM lParam);
   void keepFocus(WPARAM wParam);
@@ -157,7 +149,6 @@ class Form : public Window {
   HWND modalOwner_ = nullptr;
   bool modal_ = false;
   bool appearMaximised_ = false;
-  bool lateControlsMade_ = false;
 };
 
 /// The form whose window `window` is or lies in; null when it is none of the program's.

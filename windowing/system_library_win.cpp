@@ -1,22 +1,12 @@
 #include "windowing/system_library_win.h"
 
-#include <delayimp.h>
-
 #include <string>
 
+#include "values/system_error_win.h"
+
 namespace windowing {
-namespace {
-
-// Asked by the calls that load their library late, before they look for it themselves.
-FARPROC WINAPI loadLate(unsigned event, DelayLoadInfo* wanted) {
-  if (event != dliNotePreLoadLibrary) return nullptr;
-  return reinterpret_cast<FARPROC>(loadSystemLibrary(wanted->szDll));
-}
-
-}  // namespace
 
 void loadLibrariesFromSystemOnly() {
-  __pfnDliNotifyHook2 = loadLate;
   const auto restrict = reinterpret_cast<BOOL(WINAPI*)(DWORD)>(reinterpret_cast<void*>(
       GetProcAddress(GetModuleHandleA("kernel32.dll"), "SetDefaultDllDirectories")));
   if (restrict != nullptr) restrict(LOAD_LIBRARY_SEARCH_SYSTEM32);
@@ -29,6 +19,16 @@ HMODULE loadSystemLibrary(const char* name) {
   // What it needs itself is looked for beside it, not beside the program.
   return LoadLibraryExA((std::string(folder) + '\\' + name).c_str(), nullptr,
                         LOAD_WITH_ALTERED_SEARCH_PATH);
+}
+
+SystemLibrary::SystemLibrary(const char* name) : module_(loadSystemLibrary(name)) {
+  if (module_ == nullptr) values::raiseLastError();
+}
+
+SystemLibrary::Function SystemLibrary::function(const char* name) const {
+  const FARPROC found = GetProcAddress(module_, name);
+  if (found == nullptr) values::raiseLastError();
+  return Function(found);
 }
 
 }  // namespace windowing

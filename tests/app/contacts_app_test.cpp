@@ -52,6 +52,7 @@ TEST_F(Contacts, MovingShowsEveryContactAndNeverModifies) {
 TEST_F(Contacts, EditsFollowTheUserAndReachTheFile) {
   std::vector<Contact> contacts = fullContacts(3);
   const Program& program = startOn(contacts);
+  program.lookAtAllPages();
   const std::string file = path("list.tly");
   const auto edit = [&](std::size_t contact, std::size_t field, const std::string& text) {
     program.enter(drive::boxOf[field], text);
@@ -84,6 +85,7 @@ TEST_F(Contacts, EditsFollowTheUserAndReachTheFile) {
 
 TEST_F(Contacts, EveryBoxCountsAsAnEdit) {
   const Program& program = startOn(fullContacts(1));
+  program.lookAtAllPages();
   for (const int box : drive::boxOf) {
     program.enter(box, "x");
     EXPECT_TRUE(program.modified()) << "box " << box;

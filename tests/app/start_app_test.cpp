@@ -12,8 +12,8 @@ class Start : public drive::AppTest {};
 
 TEST_F(Start, WithoutArgumentsShowsAnEmptyUntitledDocument) {
   const Program& program = start();
-  expectUntitled();
   EXPECT_EQ(program.focus(), id::textItem(1)) << "ready to type";
+  expectUntitled();
   // Save is not available: it does nothing.
   program.command(id::SAVE);
   EXPECT_FALSE(program.hasDialog());

@@ -15,13 +15,6 @@ using test_support::MainWindowTest;
 class Focus : public MainWindowTest {
  protected:
   Focus() { form.show(); }
-
-  void showPage(int page) {
-    const windowing::TabStrip tabs(form.control(id::TABMAIN).handle());
-    tabs.select(page);
-    NMHDR chosen{tabs.handle(), id::TABMAIN, static_cast<UINT>(TCN_SELCHANGE)};
-    SendMessageA(form.handle(), WM_NOTIFY, id::TABMAIN, reinterpret_cast<LPARAM>(&chosen));
-  }
 };
 
 TEST_F(Focus, LeavesTheNameBoxThatHasNoNamesLeft) {
@@ -36,7 +29,7 @@ TEST_F(Focus, MovedByACommandDoesNotLeaveAWebBox) {
   std::vector<std::string> contact(28);
   contact[homeWebsite] = "www.x.example";
   const std::string path = scratch.file("web.tly", fileOf({contact}));
-  showPage(1);
+  turnTo(1);
   form.control(id::CBOPWEBSITE).focus();
   ASSERT_TRUE(form.control(id::CBOPWEBSITE).focused());
   open(path);
@@ -44,7 +37,7 @@ TEST_F(Focus, MovedByACommandDoesNotLeaveAWebBox) {
   EXPECT_EQ(text(id::CBOPWEBSITE), "www.x.example");
   EXPECT_FALSE(form.modified());
 
-  showPage(1);
+  turnTo(1);
   form.control(id::CBOPWEBSITE).focus();
   form.control(id::CBOPEMAIL).focus();
   EXPECT_EQ(text(id::CBOPWEBSITE), "http://www.x.example") << "the user leaves it";

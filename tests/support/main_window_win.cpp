@@ -1,5 +1,7 @@
 #include "tests/support/main_window_win.h"
 
+#include <commctrl.h>
+
 #include "controls/ICOMNU_win.h"
 #include "library/identifiers.h"
 
@@ -25,7 +27,7 @@ MainWindowTest::MainWindowTest() {
   };
   seams.shellOpen = [](auto&&...) {};
   form.load();
-  form.makeLateControls();
+  for (const int page : {1, 2, 0}) turnTo(page);
 }
 
 MainWindowTest::~MainWindowTest() {
@@ -39,6 +41,13 @@ MainWindowTest::~MainWindowTest() {
 void MainWindowTest::notice(int box, int code) {
   SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(box, code),
                reinterpret_cast<LPARAM>(form.control(box).handle()));
+}
+
+void MainWindowTest::turnTo(int page) {
+  const windowing::TabStrip tabs(form.control(id::TABMAIN).handle());
+  tabs.select(page);
+  NMHDR chosen{tabs.handle(), id::TABMAIN, static_cast<UINT>(TCN_SELCHANGE)};
+  SendMessageA(form.handle(), WM_NOTIFY, id::TABMAIN, reinterpret_cast<LPARAM>(&chosen));
 }
 
 std::string MainWindowTest::status() const {

@@ -34,6 +34,8 @@ class MainWindowTest : public testing::Test {
   void type(int id, const std::string& text) { form.control(id).setText(text); }
   void run(int command) { SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(command, 0), 0); }
   void notice(int id, int code);
+  /// Shows a page (0 to 2), as a click on its tab does.
+  void turnTo(int page);
   [[nodiscard]] std::string status() const;
   [[nodiscard]] Names names() const;
   [[nodiscard]] bool enabled(int command) const;

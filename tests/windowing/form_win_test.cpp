@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
 #include <new>
 #include <utility>
@@ -152,40 +153,45 @@ TEST(FormLoops, HandCharactersOnAsTheyWereTyped) {
 // A form that has trouble with the last of its controls.
 class TroubledForm : public windowing::Form {
  public:
-  explicit TroubledForm(std::span<const int> late)
-      : Form({"frmTroubled", "", WS_OVERLAPPED, 0, 900, 900, controls, late}) {}
+  explicit TroubledForm(std::span<const windowing::ControlDesign> controls)
+      : Form({"frmTroubled", "", WS_OVERLAPPED, 0, 900, 900, controls}) {}
   bool troubled = true;
-
- protected:
+  using Form::createControls;
   static HWND make(Form& form, const windowing::ControlDesign& design, HWND container,
                    const RECT& place) {
     if (static_cast<TroubledForm&>(form).troubled) values::raiseOutOfMemory();
     return windowing::createChild({"STATIC", 0}, container, design.id, place);
   }
-
- private:
-  static constexpr windowing::ControlDesign controls[] = {
-      {"PAGE", 1, windowing::kind::container, "", 0, 0, 900, 900},
-      {"TXTBOX", 2, windowing::kind::textBox, "", 0, 0, 300, 300, 1},
-      {"LAST", 3, {.make = make}, "", 0, 0, 300, 300, 1},
-  };
 };
 
-// A box that stood there empty would be stored over what it should show.
-TEST(FormInTrouble, HasAllOfItsControlsOrNone) {
-  constexpr int page[] = {1};
-  TroubledForm late(page), whole({});
-  late.load();
-  EXPECT_THROW(late.makeLateControls(), values::RuntimeError);
-  EXPECT_EQ(GetWindow(late.control(1).handle(), GW_CHILD), nullptr);
-  EXPECT_EQ(late.control(2).handle(), nullptr);
-  EXPECT_THROW(whole.load(), values::RuntimeError);
-  EXPECT_FALSE(whole.loaded());
-  late.troubled = whole.troubled = false;
-  late.makeLateControls();
-  whole.load();
-  for (TroubledForm* form : {&late, &whole})
-    for (const int id : {2, 3}) EXPECT_TRUE(IsChild(form->handle(), form->control(id).handle()));
+constexpr std::array troubledDesign{
+    windowing::ControlDesign{"PAGE", 1, windowing::kind::page, "", 0, 0, 900, 900},
+    windowing::ControlDesign{"TXTBOX", 2, windowing::kind::textBox, "", 0, 0, 300, 300, 1},
+    windowing::ControlDesign{"LAST", 3, {.make = TroubledForm::make}, "", 0, 0, 300, 300, 1},
+};
+
+TEST(FormInTrouble, IsNotLoadedWithoutAllOfItsControls) {
+  auto design = troubledDesign;
+  design[0].kind = windowing::kind::container;
+  TroubledForm form(design);
+  EXPECT_THROW(form.load(), values::RuntimeError);
+  EXPECT_FALSE(form.loaded());
+  form.troubled = false;
+  form.load();
+  for (const int id : {2, 3}) EXPECT_TRUE(IsChild(form.handle(), form.control(id).handle()));
+}
+
+TEST(FormInTrouble, MakesWhatAPageLacksWhenItIsTriedAgain) {
+  TroubledForm form(troubledDesign);
+  form.load();
+  EXPECT_EQ(form.control(2).handle(), nullptr);
+  EXPECT_THROW(form.createControls(1), values::RuntimeError);
+  const HWND box = form.control(2).handle();
+  EXPECT_EQ(GetWindow(form.control(1).handle(), GW_CHILD), box);
+  form.troubled = false;
+  form.createControls(1);
+  EXPECT_EQ(form.control(2).handle(), box);
+  EXPECT_EQ(GetWindow(box, GW_HWNDNEXT), form.control(3).handle());
 }
 
 }  // namespace

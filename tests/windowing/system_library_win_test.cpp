@@ -1,6 +1,5 @@
 #include "windowing/system_library_win.h"
 
-#include <delayimp.h>
 #include <gtest/gtest.h>
 
 #include "tests/support/scratch_folder_win.h"
@@ -23,11 +22,6 @@ TEST(SystemLibraries, AreLookedForInTheSystemsFolderOnly) {
 
   windowing::loadLibrariesFromSystemOnly();
   EXPECT_EQ(LoadLibraryA("planted.dll"), nullptr);
-  DelayLoadInfo late{};
-  late.szDll = "msimg32.dll";
-  const FARPROC loaded = __pfnDliNotifyHook2(dliNotePreLoadLibrary, &late);
-  EXPECT_NE(loaded, nullptr) << "a library that is loaded late has the system's folder put before";
-  EXPECT_EQ(reinterpret_cast<HMODULE>(loaded), GetModuleHandleA(real.c_str()));
   SetCurrentDirectoryA(before);
 }
 

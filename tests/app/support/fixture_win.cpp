@@ -84,6 +84,7 @@ void AppTest::close() {
 }
 
 void AppTest::expectShown(const Contact& contact) const {
+  program().lookAtAllPages();
   for (std::size_t i = 0; i < contact.size(); ++i)
     EXPECT_EQ(program().text(boxOf[i]), contact[i]) << "text " << i + 1 << " of the contact";
 }

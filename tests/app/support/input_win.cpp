@@ -126,4 +126,9 @@ void Program::clickTab(int index) const {
   click(tabs, middleOf(place.value<RECT>()));
 }
 
+void Program::lookAtAllPages() const {
+  if (find(id::CBOPWORKWEBSITE) != nullptr) return;
+  for (const int page : {1, 2, 0}) clickTab(page);
+}
+
 }  // namespace drive

@@ -198,12 +198,6 @@ void Program::attach() {
     return window_ != nullptr;
   });
   threadId_ = GetWindowThreadProcessId(window_, nullptr);
-  // The boxes of the hidden pages come a moment after the window.
-  waitFor("its controls", [this] {
-    for (const HWND child : windowsThat(window_, [](HWND) { return true; }))
-      controls_.emplace(GetDlgCtrlID(child), child);
-    return controls_.contains(id::CBOPWORKWEBSITE);
-  });
   settle();
 }
 
@@ -248,11 +242,17 @@ std::vector<HWND> Program::windows() const {
   });
 }
 
+HWND Program::find(int controlId) const {
+  const auto found =
+      windowsThat(window_, [=](HWND child) { return GetDlgCtrlID(child) == controlId; });
+  return found.empty() ? nullptr : found.front();
+}
+
 HWND Program::control(int controlId) const {
-  const auto found = controls_.find(controlId);
-  if (found == controls_.end())
+  const HWND found = find(controlId);
+  if (found == nullptr)
     throw std::runtime_error("there is no control " + std::to_string(controlId));
-  return found->second;
+  return found;
 }
 
 LRESULT Program::send(HWND to, UINT message, WPARAM wParam, LPARAM lParam) const {

@@ -8,7 +8,6 @@
 #include <commctrl.h>
 
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -93,6 +92,8 @@ class Program {
   void type(const std::string& text) const;
   void clickButton(int command) const;
   void clickTab(int index) const;
+  /// Shows each page, the first one last, unless that was done: only then are all boxes there.
+  void lookAtAllPages() const;
   /// Moves the pointer over a button of the toolbar without pressing it.
   void hover(int command) const;
   /// Moves the pointer to a far corner of the screen.
@@ -106,6 +107,8 @@ class Program {
   std::string answer(int button) const;
 
  private:
+  /// A control; null where there is none.
+  [[nodiscard]] HWND find(int id) const;
   void click(HWND at, POINT place) const;
   [[nodiscard]] HWND findDialog() const;
   void attach();
@@ -115,7 +118,6 @@ class Program {
   DWORD processId_ = 0;
   DWORD threadId_ = 0;
   HWND window_ = nullptr;
-  std::map<int, HWND> controls_;
 };
 
 /// Waits for a main window of the program, whoever started it.
