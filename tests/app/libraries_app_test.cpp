@@ -42,4 +42,35 @@ TEST_F(Libraries, ComeFromTheSystemEvenWhereOthersLieBesideTheProgram) {
   for (const std::string& name : names) EXPECT_STRCASEEQ(origin(name).c_str(), system) << name;
 }
 
+// The compiler's library asks for a random number before the program's first line, and Windows
+// loads a library for it, which is gone again when the window comes up.
+TEST_F(Libraries, ComeFromTheSystemBeforeTheFirstLine) {
+  const std::string exe = path("Tellary.exe");
+  for (const char* name : {"Tellary.exe", "bcrypt.dll"})
+    ASSERT_TRUE(CopyFileA(drive::programUnderTest().c_str(), path(name).c_str(), TRUE));
+  STARTUPINFOA start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION made{};
+  ASSERT_TRUE(CreateProcessA(exe.c_str(), nullptr, nullptr, nullptr, FALSE, DEBUG_ONLY_THIS_PROCESS,
+                             nullptr, nullptr, &start, &made));
+  const std::string name = path("bcrypt.dll");
+  const std::wstring planted(name.begin(), name.end());  // plain ASCII
+  DEBUG_EVENT event{};
+  constexpr DWORD patience = 2000;  // of a program that loads nothing more
+  while (WaitForDebugEvent(&event, patience)) {
+    if (event.dwDebugEventCode == LOAD_DLL_DEBUG_EVENT) {
+      const void* at = nullptr;
+      wchar_t from[MAX_PATH] = {};
+      const LOAD_DLL_DEBUG_INFO& library = event.u.LoadDll;
+      ReadProcessMemory(made.hProcess, library.lpImageName, &at, sizeof at, nullptr);
+      ReadProcessMemory(made.hProcess, at, from, sizeof from - sizeof *from, nullptr);
+      EXPECT_NE(lstrcmpiW(from, planted.c_str()), 0);
+      CloseHandle(library.hFile);
+    }
+    ContinueDebugEvent(event.dwProcessId, event.dwThreadId, DBG_CONTINUE);
+  }
+  TerminateProcess(made.hProcess, 0);
+  for (const HANDLE handle : {made.hThread, made.hProcess}) CloseHandle(handle);
+}
+
 }  // namespace
