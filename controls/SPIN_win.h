@@ -42,6 +42,7 @@ class SPIN : public windowing::Control {
 
 inline constexpr windowing::ControlKind spinKind{
     .make = [](windowing::Form&, const windowing::ControlDesign& design, HWND container,
-               const RECT& place) { return SPIN::create(container, design.id, place).handle(); }};
+               const RECT& place) { return SPIN::create(container, design.id, place).handle(); },
+    .height = windowing::Height::box};
 
 }  // namespace controls

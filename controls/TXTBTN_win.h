@@ -40,6 +40,7 @@ class TXTBTN : public windowing::TextBox {
 
 inline constexpr windowing::ControlKind linkBoxKind{
     .make = [](windowing::Form&, const windowing::ControlDesign& design, HWND container,
-               const RECT& place) { return TXTBTN::create(container, design.id, place).handle(); }};
+               const RECT& place) { return TXTBTN::create(container, design.id, place).handle(); },
+    .height = windowing::Height::box};
 
 }  // namespace controls

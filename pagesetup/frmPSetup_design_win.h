@@ -31,7 +31,6 @@ constexpr int pageWidth = tabWidth - 2 * inset;
 constexpr int edge = 180;  ///< from a page's sides to what stands on it
 constexpr int labelHeight = 225;
 constexpr int boxHeight = 315;
-constexpr int labelDrop = 60;  ///< from the top of a box to that of its label
 constexpr int checkHeight = 255;
 constexpr int lineHeight = 30;
 constexpr int buttonWidth = 1200;
@@ -58,20 +57,15 @@ constexpr int dividerLeft = 2700;
 constexpr ControlKind sampleKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW};
 constexpr ControlKind ruleKind{"STATIC", WS_VISIBLE | SS_BLACKRECT};
 /// A text of the sample that is not for the user to change.
-constexpr ControlKind fixedTextKind{"EDIT", WS_VISIBLE | ES_READONLY};
+constexpr ControlKind fixedTextKind{
+    .windowClass = "EDIT", .style = WS_VISIBLE | ES_READONLY, .height = windowing::Height::text};
 
 constexpr int choiceTop(int row) {
   return firstChoice + row * choicePitch;
 }
 constexpr ControlDesign choiceLabel(const char* name, int labelId, const char* caption, int row) {
-  return {name,
-          labelId,
-          kind::label,
-          caption,
-          edge,
-          choiceTop(row) + labelDrop,
-          choiceLeft - edge - 60,
-          labelHeight,
+  return {name,        labelId,        kind::sideLabel,        caption,
+          edge,        choiceTop(row), choiceLeft - edge - 60, boxHeight,
           id::FRAMPAGE};
 }
 constexpr ControlDesign choiceList(const char* name, int listId, int row, int width) {
@@ -88,16 +82,9 @@ constexpr int marginTop(int row) {
   return firstMargin + row * marginPitch;
 }
 constexpr ControlDesign marginLabel(const char* name, int labelId, const char* caption, int row) {
-  return {name,
-          labelId,
-          kind::label,
-          caption,
-          edge,
-          marginTop(row) + labelDrop,
-          marginBoxLeft - edge - 60,
-          labelHeight,
-          id::FRAMPAGE,
-          WS_GROUP};
+  return {name,         labelId,        kind::sideLabel,           caption,
+          edge,         marginTop(row), marginBoxLeft - edge - 60, boxHeight,
+          id::FRAMPAGE, WS_GROUP};
 }
 constexpr ControlDesign marginBox(const char* name, int boxId, int row) {
   return {name,           boxId,          controls::spinKind, "",          marginBoxLeft,
@@ -120,8 +107,6 @@ constexpr int stripWidth = innerWidth - 2 * groupInset;
 constexpr int stripEdge = 90;
 constexpr int stripInner = stripWidth - 2 * stripEdge;
 constexpr int fixedWidth = 1080;  ///< date and time
-constexpr int fixedHeight = 210;
-constexpr int fixedDrop = 53;  ///< from the top of a box to that of a text without an edge
 constexpr int gap = 120;
 
 constexpr ControlDesign group(const char* name, int groupId, const char* caption, int top) {
@@ -206,9 +191,9 @@ constexpr ControlDesign controls[] = {
   item("CHKHEADTIME",   id::CHKHEADTIME,  "&Time",   headerTop, 2),
   item("CHKHEADLINE",   id::CHKHEADLINE,  "&Line",   headerTop, 3),
   strip("PICHEAD",      id::PICHEAD,      headerTop),
-  {"TXTHEADDATE",  id::TXTHEADDATE,  fixedTextKind,  "12/12/2002", stripEdge, headBoxTop + fixedDrop, fixedWidth, fixedHeight, id::PICHEAD},
+  {"TXTHEADDATE",  id::TXTHEADDATE,  fixedTextKind,  "12/12/2002", stripEdge, headBoxTop, fixedWidth, boxHeight, id::PICHEAD},
   {"TXTHEADTITLE", id::TXTHEADTITLE, kind::textBox, "", stripEdge + fixedWidth + gap, headBoxTop, titleWidth, boxHeight, id::PICHEAD, ES_CENTER},
-  {"TXTHEADTIME",  id::TXTHEADTIME,  fixedTextKind,  "12:00:00 pm", stripWidth - stripEdge - fixedWidth, headBoxTop + fixedDrop, fixedWidth, fixedHeight, id::PICHEAD, ES_RIGHT},
+  {"TXTHEADTIME",  id::TXTHEADTIME,  fixedTextKind,  "12:00:00 pm", stripWidth - stripEdge - fixedWidth, headBoxTop, fixedWidth, boxHeight, id::PICHEAD, ES_RIGHT},
   rule("LNHEADLINE",    id::LNHEADLINE,   headRuleTop, id::PICHEAD),
   group("FRAMFOOTER",   id::FRAMFOOTER,    "Footer",   footerTop),
   master("CHKFOOTER",   id::CHKFOOTER,     "&Footer",  footerTop),
@@ -219,7 +204,7 @@ constexpr ControlDesign controls[] = {
   strip("PICFOOT",      id::PICFOOT,       footerTop),
   rule("LNFOOTLINE",    id::LNFOOTLINE,    footRuleTop, id::PICFOOT),
   {"TXTFOOTFIELD1", id::TXTFOOTFIELD1, kind::textBox, "", stripEdge, footBoxTop, fieldWidth, boxHeight, id::PICFOOT},
-  {"TXTFOOTPGNO",   id::TXTFOOTPGNO,   fixedTextKind,  "1", stripEdge + fieldWidth + gap, footBoxTop + fixedDrop, pageNumberWidth, fixedHeight, id::PICFOOT, ES_CENTER},
+  {"TXTFOOTPGNO",   id::TXTFOOTPGNO,   fixedTextKind,  "1", stripEdge + fieldWidth + gap, footBoxTop, pageNumberWidth, boxHeight, id::PICFOOT, ES_CENTER},
   {"TXTFOOTFIELD2", id::TXTFOOTFIELD2, kind::textBox, "", stripWidth - stripEdge - fieldWidth, footBoxTop, fieldWidth, boxHeight, id::PICFOOT},
   {"BTNDEFAULTSHF", id::BTNDEFAULTSHF, kind::button, "&Defaults", edge, pageHeight - edge / 2 - buttonHeight, buttonWidth, buttonHeight, id::FRAMHEADERFOOTER},
 

@@ -22,13 +22,11 @@ constexpr int stripHeight = 480;
 constexpr int stripMargin = 60;
 constexpr int gap = 90;  ///< between the controls of the strip
 constexpr int listHeight = 315;
-constexpr int labelHeight = 195;
 constexpr int separatorWidth = 60;
 constexpr int pagesWidth = 975;
 constexpr int zoomsWidth = 1350;
 constexpr int paperWidth = 1800;
 constexpr int listTop = (stripHeight - listHeight) / 2;
-constexpr int labelTop = (stripHeight - labelHeight) / 2;
 
 constexpr ControlKind viewKind{.make = frmPPrev::makeView};
 
@@ -40,9 +38,9 @@ constexpr std::array controls{
   ControlDesign{"TXTSEP1",   id::TXTSEP1,   controls::separatorKind,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
   ControlDesign{"CBOPGNO",   id::CBOPGNO,   kind::dropDownList, "", 0, listTop, pagesWidth, listHeight, id::FRAMTBAR},
   ControlDesign{"TXTSEP2",   id::TXTSEP2,   controls::separatorKind,       "", 0, listTop, separatorWidth, listHeight, id::FRAMTBAR},
-  ControlDesign{"LBLZOOM",   id::LBLZOOM,   kind::label,        "Zoom", 0, labelTop, 450, labelHeight, id::FRAMTBAR},
+  ControlDesign{"LBLZOOM",   id::LBLZOOM,   kind::sideLabel,    "Zoom", 0, listTop, 450, listHeight, id::FRAMTBAR},
   ControlDesign{"CBOPGZOOM", id::CBOPGZOOM, kind::dropDownList, "", 0, listTop, zoomsWidth, listHeight, id::FRAMTBAR},
-  ControlDesign{"LBLPAPER",  id::LBLPAPER,  kind::label,        "", 0, labelTop, paperWidth, labelHeight, id::FRAMTBAR, SS_RIGHT},
+  ControlDesign{"LBLPAPER",  id::LBLPAPER,  kind::sideLabel,    "", 0, listTop, paperWidth, listHeight, id::FRAMTBAR, SS_RIGHT},
   ControlDesign{"PICWINDOW", id::PICWINDOW, viewKind,       "", 0, stripHeight, formWidth, formHeight - stripHeight - 330},
   ControlDesign{"SBMAIN",    id::SBMAIN,    kind::statusBar,    "", 0, 0, formWidth, 330},
 };

@@ -13,6 +13,10 @@ struct ControlDesign;
 /// Makes a control of `form` in `container` at `place` (pixels).
 using Maker = HWND(Form& form, const ControlDesign& design, HWND container, const RECT& place);
 
+/// How high a control is: as its design says, or as the form's font needs, in the middle of the
+/// place that its design gives it. Texts of the last three stand on one line with each other.
+enum class Height { design, text, box, list };
+
 /// A window class with styles, or who makes the control.
 struct ControlKind {
   const char* windowClass = nullptr;
@@ -20,6 +24,7 @@ struct ControlKind {
   DWORD exStyle = 0;
   /// Null where the class and the styles say it all.
   Maker* make = nullptr;
+  Height height = Height::design;
   /// Its form makes what it holds, before it is first shown.
   bool isPage = false;
 };
@@ -40,11 +45,19 @@ inline constexpr ControlKind group{"BUTTON", shown | BS_GROUPBOX};
 inline constexpr ControlKind label{"STATIC", shown | SS_LEFT};
 /// A label that shows "&" as it is (texts of the user).
 inline constexpr ControlKind plainLabel{"STATIC", shown | SS_LEFT | SS_NOPREFIX};
-inline constexpr ControlKind textBox{"EDIT", stop | ES_LEFT | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
+/// A label beside a box, in the same place from top to bottom.
+inline constexpr ControlKind sideLabel{
+    .windowClass = "STATIC", .style = shown | SS_LEFT, .height = Height::text};
+inline constexpr ControlKind textBox{.windowClass = "EDIT",
+                                     .style = stop | ES_LEFT | ES_AUTOHSCROLL,
+                                     .exStyle = WS_EX_CLIENTEDGE,
+                                     .height = Height::box};
 inline constexpr ControlKind multilineBox{
     "EDIT", stop | WS_VSCROLL | ES_LEFT | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN,
     WS_EX_CLIENTEDGE};
-inline constexpr ControlKind dropDownList{"COMBOBOX", stop | WS_VSCROLL | CBS_DROPDOWNLIST};
+inline constexpr ControlKind dropDownList{.windowClass = "COMBOBOX",
+                                          .style = stop | WS_VSCROLL | CBS_DROPDOWNLIST,
+                                          .height = Height::list};
 inline constexpr ControlKind checkBox{"BUTTON", stop | BS_AUTOCHECKBOX};
 inline constexpr ControlKind optionButton{"BUTTON", shown | BS_AUTORADIOBUTTON};
 inline constexpr ControlKind button{"BUTTON", stop | BS_PUSHBUTTON};

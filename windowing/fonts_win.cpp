@@ -26,4 +26,15 @@ HFONT formFont() {
   return font("Tahoma", 8);
 }
 
+int formLineHeight() {
+  static const int height = [] {
+    const values::WindowDc screen(nullptr);
+    const values::Selected selected(screen.get(), formFont());
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(screen.get(), &metrics);
+    return static_cast<int>(metrics.tmHeight);
+  }();
+  return height;
+}
+
 }  // namespace windowing

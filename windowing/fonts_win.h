@@ -11,4 +11,7 @@ namespace windowing {
 /// Font of forms and their controls: Tahoma, 8 points.
 [[nodiscard]] HFONT formFont();
 
+/// Height of a line of that font, pixels.
+[[nodiscard]] int formLineHeight();
+
 }  // namespace windowing

@@ -33,6 +33,39 @@ bool isPushButton(HWND window) {
                                        (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
+// Twips, of a list that is closed.
+constexpr int closedListHeight = 315;
+
+// The control leaves a pixel above its text; as much is left below.
+int boxHeight() {
+  return formLineHeight() + 2 * (GetSystemMetrics(SM_CYEDGE) + 1);
+}
+
+// Gives a control the height that the form's font needs.
+void fitHeight(const Control& control, const ControlDesign& design) {
+  RECT place = control.pixels();
+  int height = place.bottom - place.top;
+  switch (design.kind.height) {
+    case Height::design:
+      return;
+    case Height::text:
+      height = formLineHeight();
+      break;
+    case Height::box:
+      height = boxHeight();
+      break;
+    case Height::list:  // has done so itself
+      break;
+  }
+  const int top = screenPixels(design.top);
+  // The design of a list may give the height that it has when it is open.
+  const bool list = design.kind.height == Height::list;
+  const int room = screenPixels(design.top + (list ? closedListHeight : design.height)) - top;
+  place.top = top + (room - height) / 2;
+  place.bottom = place.top + (list ? screenPixels(design.height) : height);
+  control.placePixels(place);
+}
+
 // Windows tells top-level windows only.
 BOOL CALLBACK passColourChange(HWND control, LPARAM) {
   SendMessageA(control, WM_SYSCOLORCHANGE, 0, 0);
@@ -104,6 +137,7 @@ void Form::createControls(int page) {
     const HWND made = createControl(design, container);
     controls_[design.id] = made;
     SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(formFont()), FALSE);
+    fitHeight(Control(made), design);
     if (isClass(made, "Edit")) TextBox(made).setLimit(0);
   }
 }

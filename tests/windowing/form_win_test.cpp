@@ -11,6 +11,7 @@
 #include "tests/support/plain_form_win.h"
 #include "values/runtime_error.h"
 #include "values/system_error_win.h"
+#include "windowing/screen_win.h"
 #include "windowing/seams_win.h"
 
 namespace {
@@ -148,6 +149,24 @@ TEST(FormLoops, HandCharactersOnAsTheyWereTyped) {
     }
     EXPECT_EQ(form.typed, L"\x30BD\x8868\x0061") << "modal: " << modal;
   }
+}
+
+// Whatever the resolution makes of a place, a label stands on the line of the text beside it.
+TEST(FormDesign, PutsTextsOfOneRowOnOneLine) {
+  using windowing::ControlDesign;
+  namespace kind = windowing::kind;
+  constexpr ControlDesign row[] = {{"LABEL", 1, kind::sideLabel, "Name:", 0, 300, 900, 315},
+                                   {"BOX", 2, kind::textBox, "", 900, 300, 900, 315},
+                                   {"LIST", 3, kind::dropDownList, "", 1800, 300, 900, 3000}};
+  test_support::PlainForm form("frmRow", row);
+  form.load();
+  const RECT label = form.control(1).pixels();
+  const RECT box = form.control(2).pixels();
+  const RECT list = form.control(3).pixels();
+  EXPECT_EQ(label.top, box.top + GetSystemMetrics(SM_CYEDGE) + 1);
+  EXPECT_EQ(label.bottom, box.bottom - GetSystemMetrics(SM_CYEDGE) - 1);
+  EXPECT_NEAR((label.top + label.bottom) / 2.0, windowing::screenPixels(300 + 315 / 2.0), 1);
+  EXPECT_NEAR((list.top + list.bottom) / 2.0, (box.top + box.bottom) / 2.0, 1);
 }
 
 // A form that has trouble with the last of its controls.
