@@ -62,15 +62,4 @@ int ToolBar::naturalHeight() const {
   return first.bottom;
 }
 
-std::optional<int> ToolBar::commandAt(POINT screen) const {
-  POINT point = screen;
-  ScreenToClient(handle(), &point);
-  const LRESULT index = send(TB_HITTEST, 0, reinterpret_cast<LPARAM>(&point));
-  if (index < 0) return std::nullopt;
-  TBBUTTON button{};
-  send(TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&button));
-  if ((button.fsStyle & BTNS_SEP) != 0) return std::nullopt;
-  return button.idCommand;
-}
-
 }  // namespace windowing

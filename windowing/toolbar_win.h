@@ -1,9 +1,6 @@
 // A toolbar of picture buttons with tooltips.
 #pragma once
 
-#include <optional>
-#include <string>
-
 #include "windowing/control_win.h"
 #include "windowing/image_list_win.h"
 
@@ -22,8 +19,6 @@ class ToolBar : public Control {
   /// Width that all buttons take together, pixels.
   [[nodiscard]] int naturalWidth() const;
   [[nodiscard]] int naturalHeight() const;
-  /// Command of the button under a point of the screen; nothing between the buttons.
-  [[nodiscard]] std::optional<int> commandAt(POINT screen) const;
 };
 
 }  // namespace windowing
