@@ -5,50 +5,55 @@
 
 namespace library::id {
 
-// Commands of the main window, in menu order.
-constexpr int NEW = 40001;
-constexpr int OPEN = 40002;
-constexpr int SAVE = 40003;
-constexpr int SAVEAS = 40004;
-constexpr int PRINT = 40005;
-constexpr int PRINTPREVIEW = 40006;
-constexpr int PAGESETUP = 40007;
-constexpr int EXIT = 40008;
-constexpr int ADD = 40009;
-constexpr int REMOVE = 40010;
-constexpr int STANDARDBAR = 40011;
-constexpr int STATUSBAR = 40012;
-constexpr int HEADERFOOTER = 40013;
-constexpr int PROPERTIES = 40014;
-constexpr int FIRST = 40015;
-constexpr int PREVIOUS = 40016;
-constexpr int NEXT = 40017;
-constexpr int LAST = 40018;
-constexpr int WEBSITE = 40019;
-constexpr int ABOUT = 40020;
+// Commands of the main window, in menu order. New ones follow at the end. As enumerators the
+// compiler misses one that a `switch` leaves out.
+enum MainCommand : int {
+  NEW = 40001,
+  OPEN = 40002,
+  SAVE = 40003,
+  SAVEAS = 40004,
+  PRINT = 40005,
+  PRINTPREVIEW = 40006,
+  PAGESETUP = 40007,
+  EXIT = 40008,
+  ADD = 40009,
+  REMOVE = 40010,
+  STANDARDBAR = 40011,
+  STATUSBAR = 40012,
+  HEADERFOOTER = 40013,
+  PROPERTIES = 40014,
+  FIRST = 40015,
+  PREVIOUS = 40016,
+  NEXT = 40017,
+  LAST = 40018,
+  WEBSITE = 40019,
+  ABOUT = 40020,
+};
 
 // Commands of the print preview, in menu order, its two toolbar commands last. Captions and
 // names repeat those of the main window; the numbers do not.
 namespace preview {
-constexpr int PRINT = 40101;
-constexpr int CLOSE = 40102;
-constexpr int TOOLBAR = 40103;
-constexpr int STATUSBAR = 40104;
-constexpr int ZOOM200 = 40105;
-constexpr int ZOOM150 = 40106;
-constexpr int ZOOM100 = 40107;
-constexpr int ZOOM75 = 40108;
-constexpr int ZOOM50 = 40109;
-constexpr int ZOOM25 = 40110;
-constexpr int ZOOMPW = 40111;
-constexpr int ZOOMWP = 40112;
-constexpr int FIRST = 40113;
-constexpr int PREVIOUS = 40114;
-constexpr int NEXT = 40115;
-constexpr int LAST = 40116;
-constexpr int ABOUT = 40117;
-constexpr int ZOOMOUT = 40118;
-constexpr int ZOOMIN = 40119;
+enum Command : int {
+  PRINT = 40101,
+  CLOSE = 40102,
+  TOOLBAR = 40103,
+  STATUSBAR = 40104,
+  ZOOM200 = 40105,
+  ZOOM150 = 40106,
+  ZOOM100 = 40107,
+  ZOOM75 = 40108,
+  ZOOM50 = 40109,
+  ZOOM25 = 40110,
+  ZOOMPW = 40111,
+  ZOOMWP = 40112,
+  FIRST = 40113,
+  PREVIOUS = 40114,
+  NEXT = 40115,
+  LAST = 40116,
+  ABOUT = 40117,
+  ZOOMOUT = 40118,
+  ZOOMIN = 40119,
+};
 }  // namespace preview
 
 // Controls of the main window.
