@@ -190,12 +190,6 @@ int ICOMNU::numberOf(int command) const {
   return 0;
 }
 
-int ICOMNU::numberWithIcon(int image) const {
-  for (const auto& [number, known] : items_)
-    if (image >= 0 && known.image == image) return number;
-  return 0;
-}
-
 void ICOMNU::clear() {
   for (const auto& [number, known] : items_) kept_[number] = {known.enabled, known.checked};
   // A menu goes with all menus below it.

@@ -47,10 +47,6 @@ class ICOMNU {
   [[nodiscard]] bool isChecked(int number) const;
   void setChecked(int number, bool checked);
 
-  /// Number of the item with a command, or with a picture; 0 for none.
-  [[nodiscard]] int numberOf(int command) const;
-  [[nodiscard]] int numberWithIcon(int image) const;
-
   /// Removes all items to build them anew. What was enabled and checked is kept: an item that
   /// is added again has it.
   void clear();
@@ -98,6 +94,7 @@ class ICOMNU {
   [[nodiscard]] const Item& item(int number) const;
   [[nodiscard]] const Item* itemOfData(ULONG_PTR data) const;
   [[nodiscard]] const Item* itemAt(HMENU menu, int position) const;
+  [[nodiscard]] int numberOf(int command) const;
   [[nodiscard]] HMENU menuOf(const Item& child);
   [[nodiscard]] int positionOf(const Item& wanted) const;
   void insert(Item& added);

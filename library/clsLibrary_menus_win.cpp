@@ -1,9 +1,8 @@
 // Menus of a form and the descriptions of its commands.
-#include "controls/ICOMNU_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/command_descriptions.h"
 #include "library/command_form_win.h"
-#include "library/images.h"
+#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 
 namespace library {
@@ -11,13 +10,6 @@ namespace {
 
 using values::ErrorNumber;
 using values::RuntimeError;
-
-// Toolbar buttons without a menu item of their own.
-struct ToolbarCaption {
-  std::string_view key;
-  std::string_view caption;
-};
-constexpr ToolbarCaption toolbarCaptions[] = {{"ZOOM IN", "&Zoom In"}, {"ZOOM OUT", "&Zoom Out"}};
 
 int imageOfKey(const std::string& key) {
   const int index = imageIndex(key);
@@ -76,16 +68,9 @@ void clsLibrary::STATUSTEXTDESC(CommandForm& ICOMNUFORM, CommandForm& SBFORM, in
 
 void clsLibrary::GETTBARDESCRIPTIONS(CommandForm& FORM, const std::string& BUTTONKEY,
                                      const std::string& NOUN) {
-  for (const auto& [key, caption] : toolbarCaptions) {
-    if (key == BUTTONKEY) {
-      describe(*this, FORM, caption, NOUN);
-      return;
-    }
-  }
-  // A button and its menu item share one picture.
-  const controls::ICOMNU& menus = FORM.iconMenus();
-  const int number = menus.numberWithIcon(imageIndex(BUTTONKEY));
-  if (number != 0) describe(*this, FORM, menus.CAPTION(number), NOUN);
+  for (const Command& command : FORM.commands())
+    if (command.picture == BUTTONKEY && !BUTTONKEY.empty())
+      return describe(*this, FORM, command.caption, NOUN);
 }
 
 }  // namespace library

@@ -5,8 +5,8 @@
 
 namespace library::id {
 
-// Commands of the main window, in menu order. New ones follow at the end. As enumerators the
-// compiler misses one that a `switch` leaves out.
+// Commands of the main window, in menu order; new ones follow at the end. They are enumerators so
+// that the compiler notices a `switch` that leaves one out.
 enum MainCommand : int {
   NEW = 40001,
   OPEN = 40002,

@@ -1,148 +1,116 @@
-// The commands of the main window and their menus. Toolbar, menus, shortcuts and availability
-// walk these tables.
+// The commands of the main window, their menus, and which of them are available.
 #pragma once
 
 #include <array>
-#include <cstddef>
-#include <string>
-#include <string_view>
+#include <optional>
 
+#include "library/command.h"
 #include "library/identifiers.h"
 
 namespace mainwindow {
 
-struct Command {
-  int id;
-  std::string_view key;       ///< names the toolbar button and the icon; empty without either
-  std::string_view menuItem;  ///< the menu item's name
-  std::string_view caption;   ///< "&" marks the access key
-  std::string_view shortcut;  ///< text shown behind the caption; may be empty
-  bool onToolbar = false;
-  bool hasCheckMark = false;
-};
+// clang-format off
+constexpr auto mainCommands = [] {
+  using library::closesWindow, library::line, library::menuBar;
+  using library::Command, library::Held, library::Key;
+  using enum library::ToolButton;
+  namespace id = library::id;
+  enum { fileMenu = 1, editMenu, viewMenu, goToMenu, helpMenu };
 
-/// All commands in menu order, which is also the order of their keys and toolbar buttons.
-constexpr std::array<Command, 20> commands = {{
-    {library::id::NEW, "NEW", "MNUFILENEW", "&New", "", true},
-    {library::id::OPEN, "OPEN", "MNUFILEOPEN", "&Open...", "", true},
-    {library::id::SAVE, "SAVE", "MNUFILESAVE", "&Save", "", true},
-    {library::id::SAVEAS, "SAVE AS", "MNUFILESAVEAS", "Save &As...", "", true},
-    {library::id::PRINT, "PRINT", "MNUFILEPRINT", "&Print...", "", true},
-    {library::id::PRINTPREVIEW, "PRINT PREVIEW", "MNUFILEPRINTPREVIEW", "Print Pre&view", "", true},
-    {library::id::PAGESETUP, "", "MNUFILEPAGESETUP", "Page Set&up...", ""},
-    {library::id::EXIT, "", "MNUFILEEXIT", "E&xit", "Alt+F4"},
-    {library::id::ADD, "ADD", "MNUEDITADD", "&Add", "Ins", true},
-    {library::id::REMOVE, "REMOVE", "MNUEDITREMOVE", "&Remove", "Ctrl+Del", true},
-    {library::id::STANDARDBAR, "", "MNUVIEWSTANDARDBAR", "&Standard Toolbar", "", false, true},
-    {library::id::STATUSBAR, "", "MNUVIEWSTATUSBAR", "S&tatus Bar", "", false, true},
-    {library::id::HEADERFOOTER, "HEADERFOOTER", "MNUVIEWHEADERFOOTER", "&Header/Footer...", "",
-     true},
-    {library::id::PROPERTIES, "PROPERTIES", "MNUVIEWPROPERTIES", "&Properties...", ""},
+  return std::to_array<Command>({
+    {fileMenu, menuBar, "MNUFILETOP", "&File"},
+    {id::NEW,          fileMenu, "MNUFILENEW",          "&New",         "NEW",           plain},
+    {id::OPEN,         fileMenu, "MNUFILEOPEN",         "&Open...",     "OPEN",          plain},
+    {line,             fileMenu, "MNUFILESEP1"},
+    {id::SAVE,         fileMenu, "MNUFILESAVE",         "&Save",        "SAVE",          plain},
+    {id::SAVEAS,       fileMenu, "MNUFILESAVEAS",       "Save &As...",  "SAVE AS",       plain},
+    {line,             fileMenu, "MNUFILESEP2"},
+    {id::PRINT,        fileMenu, "MNUFILEPRINT",        "&Print...",    "PRINT",         afterGap},
+    {id::PRINTPREVIEW, fileMenu, "MNUFILEPRINTPREVIEW", "Print Pre&view", "PRINT PREVIEW", plain},
+    {id::PAGESETUP,    fileMenu, "MNUFILEPAGESETUP",    "Page Set&up..."},
+    {line,             fileMenu, "MNUFILESEP3"},
+    {id::EXIT,         fileMenu, "MNUFILEEXIT",         "E&xit",        "", none, closesWindow},
+
+    {editMenu, menuBar, "MNUEDITTOP", "&Edit"},
+    {id::ADD,    editMenu, "MNUEDITADD",    "&Add",    "ADD",    afterGap, {Key::insert}},
+    {id::REMOVE, editMenu, "MNUEDITREMOVE", "&Remove", "REMOVE", plain, {Key::del, Held::control}},
+
+    {viewMenu, menuBar, "MNUVIEWTOP", "&View"},
+    {id::STANDARDBAR,  viewMenu, "MNUVIEWSTANDARDBAR",  "&Standard Toolbar", "", none, {}, {id::PICMAINTBAR, library::Setting::standardToolbar}},
+    {id::STATUSBAR,    viewMenu, "MNUVIEWSTATUSBAR",    "S&tatus Bar",       "", none, {}, {id::SBMAIN, library::Setting::statusBar}},
+    {line,             viewMenu, "MNUVIEWSEP1"},
+    {id::HEADERFOOTER, viewMenu, "MNUVIEWHEADERFOOTER", "&Header/Footer...", "HEADERFOOTER", afterGap},
+    {id::PROPERTIES,   viewMenu, "MNUVIEWPROPERTIES",   "&Properties...",    "PROPERTIES"},
+
     // One page is one contact.
-    {library::id::FIRST, "FIRST PAGE", "MNUGOTOFIRST", "&First Page", "Home", true},
-    {library::id::PREVIOUS, "PREVIOUS PAGE", "MNUGOTOPREVIOUS", "&Previous Page", "PgUp", true},
-    {library::id::NEXT, "NEXT PAGE", "MNUGOTONEXT", "&Next Page", "PgDn", true},
-    {library::id::LAST, "LAST PAGE", "MNUGOTOLAST", "&Last Page", "End", true},
-    {library::id::WEBSITE, "ZANDOR ONLINE", "MNUHELPWEBSITE", "&Zandor Online", ""},
-    {library::id::ABOUT, "ABOUT", "MNUHELPABOUT", "&About", ""},
-}};
+    {goToMenu, menuBar, "MNUGOTOTOP", "&Go To"},
+    {id::FIRST,    goToMenu, "MNUGOTOFIRST",    "&First Page",    "FIRST PAGE",    afterGap, {Key::home}},
+    {id::PREVIOUS, goToMenu, "MNUGOTOPREVIOUS", "&Previous Page", "PREVIOUS PAGE", plain,    {Key::pageUp}},
+    {id::NEXT,     goToMenu, "MNUGOTONEXT",     "&Next Page",     "NEXT PAGE",     plain,    {Key::pageDown}},
+    {id::LAST,     goToMenu, "MNUGOTOLAST",     "&Last Page",     "LAST PAGE",     plain,    {Key::end}},
 
-/// One line of a menu: a command, or a separator (no command) with its name.
-struct MenuLine {
-  int command = 0;
-  std::string_view separator;
+    {helpMenu, menuBar, "MNUHELPTOP", "&Help"},
+    {id::WEBSITE, helpMenu, "MNUHELPWEBSITE", "&Zandor Online", "ZANDOR ONLINE"},
+    {line,        helpMenu, "MNUHELPSEP1"},
+    {id::ABOUT,   helpMenu, "MNUHELPABOUT",   "&About",         "ABOUT"},
+  });
+}();
+// clang-format on
+
+/// What availability follows from: the number of contacts, the index of the one on screen (from
+/// 0), and the modified state, which is the available state of Save and kept nowhere else.
+struct CommandState {
+  int count = 0;
+  int current = 0;
+  bool modified = false;
 };
 
-struct Menu {
-  std::string_view name;
-  std::string_view caption;
-  std::size_t first;  ///< its first line in `menuLines`
-  std::size_t count;
-};
-
-constexpr std::array<MenuLine, 25> menuLines = {{
-    {library::id::NEW, ""},    {library::id::OPEN, ""},         {0, "MNUFILESEP1"},
-    {library::id::SAVE, ""},   {library::id::SAVEAS, ""},       {0, "MNUFILESEP2"},
-    {library::id::PRINT, ""},  {library::id::PRINTPREVIEW, ""}, {library::id::PAGESETUP, ""},
-    {0, "MNUFILESEP3"},        {library::id::EXIT, ""},         {library::id::ADD, ""},
-    {library::id::REMOVE, ""}, {library::id::STANDARDBAR, ""},  {library::id::STATUSBAR, ""},
-    {0, "MNUVIEWSEP1"},        {library::id::HEADERFOOTER, ""}, {library::id::PROPERTIES, ""},
-    {library::id::FIRST, ""},  {library::id::PREVIOUS, ""},     {library::id::NEXT, ""},
-    {library::id::LAST, ""},   {library::id::WEBSITE, ""},      {0, "MNUHELPSEP1"},
-    {library::id::ABOUT, ""},
-}};
-
-constexpr std::array<Menu, 5> menus = {{
-    {"MNUFILETOP", "&File", 0, 11},
-    {"MNUEDITTOP", "&Edit", 11, 2},
-    {"MNUVIEWTOP", "&View", 13, 5},
-    {"MNUGOTOTOP", "&Go To", 18, 4},
-    {"MNUHELPTOP", "&Help", 22, 3},
-}};
-
-/// The command with identifier `id`; null where there is none.
-[[nodiscard]] constexpr const Command* findCommand(int id) {
-  for (const Command& command : commands)
-    if (command.id == id) return &command;
-  return nullptr;
+/// Whether the name box takes a choice.
+[[nodiscard]] constexpr bool nameBoxAvailable(const CommandState& state) {
+  return state.count > 0;
 }
 
-/// The command whose key is exactly `key`; null where there is none, as for an empty key.
-[[nodiscard]] constexpr const Command* findCommand(std::string_view key) {
-  for (const Command& command : commands)
-    if (!key.empty() && command.key == key) return &command;
-  return nullptr;
-}
-
-/// Caption as the menu shows it: with a tab and the shortcut's text behind it where it has one.
-[[nodiscard]] inline std::string menuCaption(const Command& command) {
-  std::string text(command.caption);
-  if (!command.shortcut.empty()) text += '\t' + std::string(command.shortcut);
-  return text;
-}
-
-namespace detail {
-
-constexpr bool commandsAreUnique() {
-  for (std::size_t i = 0; i < commands.size(); ++i)
-    for (std::size_t j = 0; j < i; ++j) {
-      const Command &a = commands[i], &b = commands[j];
-      if (a.id == b.id || a.menuItem == b.menuItem || (!a.key.empty() && a.key == b.key))
-        return false;
-    }
-  return true;
-}
-
-/// The menus cover their lines without gap, and the lines hold every command once, in order.
-constexpr bool menusHoldEveryCommand() {
-  std::size_t line = 0;
-  for (const Menu& menu : menus) {
-    if (menu.first != line) return false;
-    line += menu.count;
+/// Whether a command is available; nothing for a number that is no command. The compiler notices a
+/// command that has no rule here.
+[[nodiscard]] constexpr std::optional<bool> availability(int command, const CommandState& state) {
+  using enum library::id::MainCommand;
+  switch (static_cast<library::id::MainCommand>(command)) {
+    case NEW:
+    case OPEN:
+    case SAVEAS:
+    case PAGESETUP:
+    case EXIT:
+    case ADD:
+    case STANDARDBAR:
+    case STATUSBAR:
+    case HEADERFOOTER:
+    case PROPERTIES:
+    case WEBSITE:
+    case ABOUT:
+      return true;
+    case SAVE:
+      return state.modified;
+    case PRINT:
+    case PRINTPREVIEW:
+    case REMOVE:
+      return state.count > 0;
+    case FIRST:
+    case PREVIOUS:
+      return state.count > 1 && state.current > 0;
+    case NEXT:
+    case LAST:
+      return state.count > 1 && state.current < state.count - 1;
   }
-  std::size_t command = 0;
-  for (const MenuLine& entry : menuLines) {
-    if ((entry.command == 0) == entry.separator.empty()) return false;
-    if (entry.command == 0) continue;
-    if (command == commands.size() || commands[command].id != entry.command) return false;
-    ++command;
-  }
-  return line == menuLines.size() && command == commands.size();
+  return std::nullopt;
 }
 
-template <typename Which>
-constexpr std::size_t countCommands(Which which) {
-  std::size_t count = 0;
-  for (const Command& command : commands)
-    if (which(command)) ++count;
-  return count;
-}
+static_assert(library::numbersAndNamesAreUnique(mainCommands));
+static_assert(library::menusStandBeforeTheirItems(mainCommands));
+static_assert(library::linesAreBare(mainCommands));
+static_assert(library::picturesAreThere(mainCommands));
+static_assert(library::shortcutsCanWork(mainCommands));
+static_assert(library::holdsEveryCommand(mainCommands, library::id::NEW, [](int number) {
+  return availability(number, {}).has_value();
+}));
 
-static_assert(commandsAreUnique());
-static_assert(menusHoldEveryCommand());
-static_assert(countCommands([](const Command& c) { return !c.key.empty(); }) == 16);
-static_assert(countCommands([](const Command& c) { return c.onToolbar; }) == 13);
-static_assert(countCommands([](const Command& c) { return !c.shortcut.empty(); }) == 7);
-
-}  // namespace detail
 }  // namespace mainwindow

@@ -276,7 +276,7 @@ void frmMain::focusFirstField() {
 
 void frmMain::refreshFieldState() {
   const bool any = list_.count() > 0;
-  if (!ready_ || TXTITEMS(0).enabled() == any) return;
+  if (!ready() || TXTITEMS(0).enabled() == any) return;
   const HWND focus = GetFocus();
   for (const auto& [field, box] : boxesOn(madePages_)) {
     box.setEnabled(any);

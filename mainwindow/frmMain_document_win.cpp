@@ -268,10 +268,6 @@ bool frmMain::onQueryUnload() {
   return mayDiscard(askSaveBeforeClose);
 }
 
-bool frmMain::mayEndSession() {
-  return mayDiscard(askSaveBeforeClose);
-}
-
 void frmMain::onUnload() {
   LIBRARY().FORMSAVE(name(), *this, false);
 }

@@ -3,10 +3,8 @@
 
 #include <commctrl.h>
 
-#include "controls/ICOMNU_win.h"
 #include "dialogs/frmAbout_win.h"
 #include "library/clsLibrary_win.h"
-#include "library/images.h"
 #include "library/modLibrary_win.h"
 #include "library/resource_ids.h"
 #include "library/stored_settings_win.h"
@@ -14,7 +12,6 @@
 #include "mainwindow/frmMain_design_win.h"
 #include "mainwindow/frmMain_win.h"
 #include "mainwindow/status_text.h"
-#include "values/number_text.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/fonts_win.h"
@@ -26,32 +23,12 @@ namespace mainwindow {
 using library::LIBRARY;
 namespace id = library::id;
 
-namespace {
+namespace {}  // namespace
 
-constexpr windowing::ImageStrip imageStrips[] = {
-    {16, IDB_TOOLBAR16}, {20, IDB_TOOLBAR20}, {24, IDB_TOOLBAR24}, {32, IDB_TOOLBAR32}};
-
-// Toolbar buttons that begin a new group.
-constexpr int groupStarts[] = {id::PRINT, id::ADD, id::HEADERFOOTER, id::FIRST};
-
-}  // namespace
-
-frmMain::frmMain()
-    : CommandForm(design::form), IMGLST(imageStrips), ICOMNU(std::make_unique<controls::ICOMNU>()) {
-  ICOMNU->onHighlight = [this](int number) { hints_.item(number); };
-  ICOMNU->onSystemHighlight = [this](std::uint32_t code) { hints_.systemItem(code); };
-}
-
-frmMain::~frmMain() = default;
+frmMain::frmMain() : CommandForm(design::form, {mainCommands, id::TABMAIN}) {}
 
 windowing::ComboBox frmMain::CBOTBARBOX() const {
   return control<windowing::ComboBox>(id::CBOTBARBOX);
-}
-windowing::StatusBar frmMain::SBMAIN() const {
-  return control<windowing::StatusBar>(id::SBMAIN);
-}
-windowing::ToolBar frmMain::TBARMAIN() const {
-  return control<windowing::ToolBar>(id::TBARMAIN);
 }
 windowing::TabStrip frmMain::TABMAIN() const {
   return control<windowing::TabStrip>(id::TABMAIN);
@@ -61,7 +38,6 @@ windowing::TextBox frmMain::TXTITEMS(int index) const {
 }
 
 void frmMain::onLoad() {
-  ready_ = false;
   windowing::setMainWindow(handle());
   library::modLibrary().showAbout = [] { dialogs::frmAbout().showModal(); };
   SetWindowTextA(handle(), windowing::productName().c_str());
@@ -96,47 +72,13 @@ void frmMain::onLoad() {
   startNewDocument();
   madePages_.clear();
   showPage(0);
-  ready_ = true;
+  becomeReady();
   layOut();
   setFirstFocus(TXTITEMS(1));
 }
 
-void frmMain::buildToolbar() {
-  const windowing::ToolBar bar = TBARMAIN();
-  bar.setImages(IMGLST);
-  for (const Command& command : commands) {
-    if (!command.onToolbar) continue;
-    for (const int start : groupStarts)
-      if (command.id == start) bar.addSeparator();
-    bar.add(command.id, library::imageIndex(command.key));
-  }
-  // The buttons stand in the middle of the strip, the name box at its right end.
-  const int strip = windowing::screenPixels(design::toolbarHeight);
-  const int height = bar.naturalHeight();
-  const int left = windowing::screenPixels(60);
-  bar.placePixels({left, (strip - height) / 2, left + bar.naturalWidth(), (strip + height) / 2});
-}
-
-void frmMain::applyView() {
-  const bool toolbar = library::readTruth(library::Setting::standardToolbar);
-  setCommandChecked(id::STANDARDBAR, toolbar);
-  control(id::PICMAINTBAR).setVisible(toolbar);
-  const bool statusBar = library::readTruth(library::Setting::statusBar);
-  SBMAIN().setVisible(statusBar);
-  setCommandChecked(id::STATUSBAR, statusBar);
-}
-
-void frmMain::toggleBar(int command) {
-  const bool shown = !commandChecked(command);
-  setCommandChecked(command, shown);
-  if (command == id::STANDARDBAR) {
-    if (!shown && CBOTBARBOX().focused()) TABMAIN().focus();
-    control(id::PICMAINTBAR).setVisible(shown);
-  } else {
-    SBMAIN().setVisible(shown);
-  }
-  library::writeTruth(library::Setting::standardToolbar, commandChecked(id::STANDARDBAR));
-  library::writeTruth(library::Setting::statusBar, commandChecked(id::STATUSBAR));
+void frmMain::viewChanged() {
+  storeView();
   layOut();
 }
 
@@ -153,12 +95,6 @@ void frmMain::layOut() {
   place.bottom = place.top + windowing::screenPixels(windowHeight(heights));
   moveOuter(place);
   arrange();
-}
-
-// The room inside changes with the height of captions and menus, too. While the menus are built
-// anew there is nothing to go by.
-void frmMain::onSize() {
-  if (ready_ && ICOMNU->numberOf(id::STANDARDBAR) != 0) arrange();
 }
 
 // Strips from the top, the status bar at the foot, the body in what is left.

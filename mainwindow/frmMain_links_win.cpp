@@ -25,7 +25,7 @@ bool isWeb(int box) {
 
 void frmMain::setLinkButton(int box) {
   const bool web = isWeb(box);
-  control<TXTBTN>(box).setButton(IMGLST, library::imageIndex(web ? "WEB" : "MAIL"),
+  control<TXTBTN>(box).setButton(imageList(), library::imageIndex(web ? "WEB" : "MAIL"),
                                  web ? "Open the web site (F4)" : "Send an e-mail (F4)");
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -13,19 +12,16 @@
 #include "document/ContactList.h"
 #include "files/file_calls_win.h"
 #include "library/command_form_win.h"
-#include "library/command_hints_win.h"
 #include "library/settings.h"
 #include "mainwindow/document_file_win.h"
 #include "paper/richtextbox_win.h"
-#include "windowing/form_win.h"
-#include "windowing/toolbar_win.h"
+#include "values/runtime_error.h"
 
 namespace mainwindow {
 
 class frmMain : public library::CommandForm {
  public:
   frmMain();
-  ~frmMain() override;
 
   /// Replaces the list with a file's contacts. Raises what keeps the file from being read to
   /// its end; the complete contacts before that place are in the list and on screen then.
@@ -39,8 +35,6 @@ class frmMain : public library::CommandForm {
   void SETSAVE(const std::string& flag);
   /// Shows the document's path, or that it has none, in the header band.
   void SETTITLE(const std::string& path);
-  /// Builds the icon menus; called again, it builds them anew.
-  void ICONMENUS();
 
   /// Opens a document named at start: remembers its path and folder, reads it, shows its title.
   /// Nothing is told when it cannot be read.
@@ -49,31 +43,21 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] const document::ContactList& contacts() const { return list_; }
   [[nodiscard]] const std::string& documentPath() const { return CMD1.fileName; }
   [[nodiscard]] bool modified() const;
-  /// Runs the command with this identifier, if it is offered; any other does nothing. Raises what
-  /// the command does not tell the user itself; out of memory names the command.
-  void runCommand(int id);
 
   /// The calls through which documents are written; a test lets them fail.
   void setFileCalls(files::FileCalls& calls) { fileCalls_ = &calls; }
-
-  [[nodiscard]] controls::ICOMNU& iconMenus() override;
-  [[nodiscard]] const windowing::ImageList& imageList() const override { return IMGLST; }
-
-  bool handleKey(const MSG& message) override;
 
  protected:
   void onLoad() override;
   bool onQueryUnload() override;
   void onUnload() override;
-  void onCommand(int id) override { runCommand(id); }
-  void onToolButton(int id) override;
+  void carryOut(int command, bool byButton) override;
+  void arrange() override;
+  void viewChanged() override;
   void onChange(int id) override;
   void onSelect(int id) override;
   void onNotice(int id, int notice) override;
   void onTab(int id) override;
-  void onSize() override;
-  void onTimer(UINT_PTR timer) override { hints_.onTimer(timer); }
-  LRESULT onNotify(NMHDR& header) override;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
@@ -131,7 +115,6 @@ class frmMain : public library::CommandForm {
   bool SaveDocument();
   bool saveAs();
   bool mayDiscard(int question);
-  bool mayEndSession();
   bool saveTo(const std::string& path);
   void openPath(const std::string& path);
   void setDocumentPath(const std::string& path);
@@ -145,23 +128,12 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] document::ContactRecord valuesOnScreen() const;
   void showProperties();
 
-  // Commands, bars and layout (frmMain_commands_win.cpp, frmMain_layout_win.cpp).
+  // Commands and layout (frmMain_commands_win.cpp, frmMain_layout_win.cpp).
   void RefreshCommands();
-  void setCommandEnabled(int id, bool enabled);
-  [[nodiscard]] bool commandEnabled(int id) const;
-  void setCommandChecked(int id, bool checked);
-  [[nodiscard]] bool commandChecked(int id) const;
-  void carryOut(int id);
   void addByUser();
-  void buildToolbar();
-  void toggleBar(int id);
-  void applyView();
   void layOut();
-  void arrange();
 
   [[nodiscard]] windowing::ComboBox CBOTBARBOX() const;
-  [[nodiscard]] windowing::StatusBar SBMAIN() const;
-  [[nodiscard]] windowing::ToolBar TBARMAIN() const;
   [[nodiscard]] windowing::TabStrip TABMAIN() const;
   [[nodiscard]] windowing::TextBox TXTITEMS(int index) const;
 
@@ -175,12 +147,8 @@ class frmMain : public library::CommandForm {
   std::array<std::string, document::fieldCount> shown_;
   FileDialogState CMD1;
   paper::RichTextBox RTF1_{"RTF1"};
-  windowing::ImageList IMGLST;
-  std::unique_ptr<controls::ICOMNU> ICOMNU;
-  library::CommandHints hints_{*this, "tellary"};
   files::FileCalls realFileCalls_;
   files::FileCalls* fileCalls_ = &realFileCalls_;
-  bool ready_ = false;      ///< controls, menus and settings are in place
   bool filling_ = false;    ///< the program itself changes the boxes
   bool asking_ = false;     ///< the user is asked whether the document may be given up
   bool shownWhole_ = true;  ///< the boxes have taken the contact on screen; if not, they are locked

@@ -3,15 +3,11 @@
 
 #include <algorithm>
 
-#include "controls/ICOMNU_win.h"
 #include "library/clsLibrary_win.h"
-#include "library/images.h"
-#include "library/resource_ids.h"
 #include "library/stored_settings_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_design_win.h"
 #include "printing/preview_commands.h"
-#include "values/number_text.h"
 #include "values/runtime_error.h"
 #include "windowing/handle_text_win.h"
 #include "windowing/screen_win.h"
@@ -20,17 +16,9 @@ namespace printing {
 
 using library::LIBRARY;
 using windowing::screenPixels;
+namespace id = library::id::preview;
 
 namespace {
-
-constexpr windowing::ImageStrip imageStrips[] = {
-    {16, IDB_TOOLBAR16}, {20, IDB_TOOLBAR20}, {24, IDB_TOOLBAR24}, {32, IDB_TOOLBAR32}};
-
-// Toolbar buttons that begin a new group.
-constexpr int groupStarts[] = {id::FIRST, id::ZOOMOUT};
-
-// The document noun that descriptions insert.
-constexpr char documentNoun[] = "tellary";
 
 void prepareList(const windowing::ComboBox& list, const char* rows) {
   LIBRARY().COMBOINIT(windowing::handleText(list.handle()), rows, list, true);
@@ -38,20 +26,11 @@ void prepareList(const windowing::ComboBox& list, const char* rows) {
 
 }  // namespace
 
-frmPPrev::frmPPrev()
-    : CommandForm(design::form),
-      IMGLST(imageStrips),
-      ICOMNU(std::make_unique<controls::ICOMNU>()),
-      hints_(*this, documentNoun) {
-  ICOMNU->onHighlight = [this](int number) { hints_.item(number); };
-  ICOMNU->onSystemHighlight = [this](std::uint32_t code) { hints_.systemItem(code); };
+frmPPrev::frmPPrev() : CommandForm(design::form, {previewCommands, id::PICWINDOW}) {
   PICWINDOW_.onPageClick = [this](UINT button) {
     runCommand(button == WM_LBUTTONDOWN ? id::ZOOMIN : id::ZOOMOUT);
   };
 }
-
-// The boxes and the view go before the window that holds them.
-frmPPrev::~frmPPrev() = default;
 
 paper::RichTextBox& frmPPrev::RTF2() {
   load();
@@ -77,12 +56,6 @@ windowing::ComboBox frmPPrev::CBOPGZOOM() {
   load();
   return control<windowing::ComboBox>(id::CBOPGZOOM);
 }
-windowing::StatusBar frmPPrev::SBMAIN() const {
-  return control<windowing::StatusBar>(id::SBMAIN);
-}
-windowing::ToolBar frmPPrev::TBARMAIN() const {
-  return control<windowing::ToolBar>(id::TBARMAIN);
-}
 
 HWND frmPPrev::makeView(Form& form, const windowing::ControlDesign& design, HWND container,
                         const RECT& place) {
@@ -98,31 +71,15 @@ void frmPPrev::onLoad() {
   prepareList(CBOPGZOOM(), "8");
   ICONMENUS();
   applyView();
-  ready_ = true;
+  becomeReady();
   placeView();
   setFirstFocus(control(id::PICWINDOW));
 }
 
-void frmPPrev::buildToolbar() {
-  const windowing::ToolBar bar = TBARMAIN();
-  bar.setImages(IMGLST);
-  for (const PreviewCommand& command : previewCommands) {
-    if (!command.onToolbar) continue;
-    for (const int start : groupStarts)
-      if (command.number == start) bar.addSeparator();
-    bar.add(command.number, library::imageIndex(command.key));
-  }
-}
-
 // The buttons, then the lists, each after a line, from left to right.
 void frmPPrev::arrangeStrip() {
-  const windowing::ToolBar bar = TBARMAIN();
   const int strip = screenPixels(design::stripHeight);
-  const int barHeight = bar.naturalHeight();
-  int left = screenPixels(design::stripMargin);
-  bar.placePixels(
-      {left, (strip - barHeight) / 2, left + bar.naturalWidth(), (strip + barHeight) / 2});
-  left += bar.naturalWidth() + screenPixels(design::gap);
+  LONG left = TBARMAIN().pixels().right + screenPixels(design::gap);
   for (const int next :
        {id::TXTSEP1, id::CBOPGNO, id::TXTSEP2, id::LBLZOOM, id::CBOPGZOOM, id::LBLPAPER}) {
     RECT place = control(next).pixels();
@@ -131,27 +88,6 @@ void frmPPrev::arrangeStrip() {
     control(next).placePixels(place);
     left = place.right + screenPixels(design::gap);
   }
-}
-
-void frmPPrev::applyView() {
-  const bool toolbar = library::readTruth(library::Setting::previewToolbar);
-  control(id::PICTBAR).setVisible(toolbar);
-  setCommandChecked(id::TOOLBAR, toolbar);
-  const bool statusBar = library::readTruth(library::Setting::previewStatusBar);
-  SBMAIN().setVisible(statusBar);
-  setCommandChecked(id::STATUSBAR, statusBar);
-}
-
-void frmPPrev::toggleBar(int command) {
-  const bool shown = !commandChecked(command);
-  setCommandChecked(command, shown);
-  if (command == id::TOOLBAR) {
-    if (!shown) control(id::PICWINDOW).focus();
-    control(id::PICTBAR).setVisible(shown);
-  } else {
-    SBMAIN().setVisible(shown);
-  }
-  PRINTING().ZOOMSEL();
 }
 
 // The view takes what the bars leave; the paper's size stands at the strip's right end, as long
@@ -176,8 +112,8 @@ void frmPPrev::placeView() {
   control(id::PICWINDOW).placePixels({0, top, client.right, std::max(top, foot)});
 }
 
-void frmPPrev::onSize() {
-  if (ready_) PRINTING().ZOOMSEL();
+void frmPPrev::arrange() {
+  PRINTING().ZOOMSEL();
 }
 
 void frmPPrev::setPaperSize(const std::string& text) {
@@ -201,17 +137,12 @@ void frmPPrev::discardPreview() {
 }
 
 void frmPPrev::onUnload() {
-  hints_.end();
   // A window that was only printed with has nothing to say about how it was left.
-  if (IsWindowVisible(handle())) store();
-}
-
-void frmPPrev::store() {
+  if (!IsWindowVisible(handle())) return;
   LIBRARY().FORMSAVE(library::sharedPlace, *this, true);
   const windowing::ComboBox zooms = CBOPGZOOM();
   library::writeText(library::Setting::previewZoom, zooms.entry(zooms.selected()));
-  library::writeTruth(library::Setting::previewStatusBar, SBMAIN().visible());
-  library::writeTruth(library::Setting::previewToolbar, control(id::PICTBAR).visible());
+  storeView();
 }
 
 frmPPrev& thePreview() {

@@ -1,92 +1,107 @@
-// The menus and commands of the preview, as data.
+// The commands of the preview, their menus, and which of them are available.
 #pragma once
 
 #include <array>
-#include <string>
+#include <optional>
 #include <string_view>
 
+#include "library/command.h"
 #include "library/identifiers.h"
+#include "printing/zoom.h"
 
 namespace printing {
 
-// Numbers of menus; commands have the number they send.
-constexpr int fileMenu = 1;
-constexpr int viewMenu = 2;
-constexpr int zoomMenu = 3;
-constexpr int goToMenu = 4;
-constexpr int helpMenu = 5;
-constexpr int menuBar = 0;
-constexpr int noMenu = -1;
+// clang-format off
+constexpr auto previewCommands = [] {
+  using library::closesWindow, library::menuBar, library::noMenu;
+  using library::Command, library::Key;
+  using enum library::ToolButton;
+  namespace id = library::id::preview;
+  enum { fileMenu = 1, viewMenu, zoomMenu, goToMenu, helpMenu };
 
-struct PreviewCommand {
-  int number;
-  int menu;  ///< the menu it stands in; `noMenu` for what is only on the toolbar
-  std::string_view name;
-  std::string_view caption;   ///< "&" marks the access key
-  std::string_view shortcut;  ///< text shown behind the caption; may be empty
-  std::string_view key;       ///< names the toolbar button and the picture; may be empty
-  bool onToolbar = false;
+  return std::to_array<Command>({
+    {fileMenu, menuBar, "MNUFILETOP", "&File"},
+    {id::PRINT, fileMenu, "MNUFILEPRINT", "&Print...", "PRINT", plain},
+    {id::CLOSE, fileMenu, "MNUFILEEXIT",  "&Close",    "",      none, closesWindow},
+
+    {viewMenu, menuBar, "MNUVIEWTOP", "&View"},
+    {id::TOOLBAR,   viewMenu, "MNUVIEWTOOLBAR",   "&Standard Toolbar", "", none, {}, {id::PICTBAR, library::Setting::previewToolbar}},
+    {id::STATUSBAR, viewMenu, "MNUVIEWSTATUSBAR", "S&tatus Bar",       "", none, {}, {id::SBMAIN, library::Setting::previewStatusBar}},
+    {zoomMenu,      viewMenu, "MNUZOOMTOP",       "&Zoom"},
+    // From large to small, while the list goes from small to large: deliberate.
+    {id::ZOOM200, zoomMenu, "MNUZOOM200", "200 %"},
+    {id::ZOOM150, zoomMenu, "MNUZOOM150", "150 %"},
+    {id::ZOOM100, zoomMenu, "MNUZOOM100", "100 %"},
+    {id::ZOOM75,  zoomMenu, "MNUZOOM75",  "75 %"},
+    {id::ZOOM50,  zoomMenu, "MNUZOOM50",  "50 %"},
+    {id::ZOOM25,  zoomMenu, "MNUZOOM25",  "25 %"},
+    {id::ZOOMPW,  zoomMenu, "MNUZOOMPW",  "&Page Width"},
+    {id::ZOOMWP,  zoomMenu, "MNUZOOMWP",  "&Whole Page"},
+
+    {goToMenu, menuBar, "MNUGOTOP", "&Go To"},
+    {id::FIRST,    goToMenu, "MNUVIEWFIRST",    "&First Page",    "FIRST PAGE",    afterGap, {Key::home}},
+    {id::PREVIOUS, goToMenu, "MNUVIEWPREVIOUS", "&Previous Page", "PREVIOUS PAGE", plain,    {Key::pageUp}},
+    {id::NEXT,     goToMenu, "MNUVIEWNEXT",     "&Next Page",     "NEXT PAGE",     plain,    {Key::pageDown}},
+    {id::LAST,     goToMenu, "MNUVIEWLAST",     "&Last Page",     "LAST PAGE",     plain,    {Key::end}},
+
+    {helpMenu, menuBar, "MNUHELPTOP", "&Help"},
+    {id::ABOUT, helpMenu, "MNUHELPABOUT", "&About", "ABOUT"},
+
+    {id::ZOOMOUT, noMenu, "", "&Zoom Out", "ZOOM OUT", afterGap},
+    {id::ZOOMIN,  noMenu, "", "&Zoom In",  "ZOOM IN",  plain},
+  });
+}();
+// clang-format on
+
+/// What availability follows from: the number of pages, the index of the one on show (from 0), and
+/// the text of the zoom.
+struct PreviewState {
+  int count = 0;
+  int current = 0;
+  std::string_view zoom = {};
 };
 
-namespace id = library::id::preview;
-
-/// Menus and commands in menu order, each menu before what stands in it. The buttons of the
-/// toolbar have the same order.
-constexpr std::array<PreviewCommand, 24> previewCommands = {{
-    {fileMenu, menuBar, "MNUFILETOP", "&File", "", ""},
-    {id::PRINT, fileMenu, "MNUFILEPRINT", "&Print...", "", "PRINT", true},
-    {id::CLOSE, fileMenu, "MNUFILEEXIT", "&Close", "Alt+F4", ""},
-    {viewMenu, menuBar, "MNUVIEWTOP", "&View", "", ""},
-    {id::TOOLBAR, viewMenu, "MNUVIEWTOOLBAR", "&Standard Toolbar", "", ""},
-    {id::STATUSBAR, viewMenu, "MNUVIEWSTATUSBAR", "S&tatus Bar", "", ""},
-    {zoomMenu, viewMenu, "MNUZOOMTOP", "&Zoom", "", ""},
-    // From large to small, while the list goes from small to large: deliberate.
-    {id::ZOOM200, zoomMenu, "MNUZOOM200", "200 %", "", ""},
-    {id::ZOOM150, zoomMenu, "MNUZOOM150", "150 %", "", ""},
-    {id::ZOOM100, zoomMenu, "MNUZOOM100", "100 %", "", ""},
-    {id::ZOOM75, zoomMenu, "MNUZOOM75", "75 %", "", ""},
-    {id::ZOOM50, zoomMenu, "MNUZOOM50", "50 %", "", ""},
-    {id::ZOOM25, zoomMenu, "MNUZOOM25", "25 %", "", ""},
-    {id::ZOOMPW, zoomMenu, "MNUZOOMPW", "&Page Width", "", ""},
-    {id::ZOOMWP, zoomMenu, "MNUZOOMWP", "&Whole Page", "", ""},
-    {goToMenu, menuBar, "MNUGOTOP", "&Go To", "", ""},
-    {id::FIRST, goToMenu, "MNUVIEWFIRST", "&First Page", "Home", "FIRST PAGE", true},
-    {id::PREVIOUS, goToMenu, "MNUVIEWPREVIOUS", "&Previous Page", "PgUp", "PREVIOUS PAGE", true},
-    {id::NEXT, goToMenu, "MNUVIEWNEXT", "&Next Page", "PgDn", "NEXT PAGE", true},
-    {id::LAST, goToMenu, "MNUVIEWLAST", "&Last Page", "End", "LAST PAGE", true},
-    {helpMenu, menuBar, "MNUHELPTOP", "&Help", "", ""},
-    {id::ABOUT, helpMenu, "MNUHELPABOUT", "&About", "", "ABOUT"},
-    {id::ZOOMOUT, noMenu, "", "&Zoom Out", "", "ZOOM OUT", true},
-    {id::ZOOMIN, noMenu, "", "&Zoom In", "", "ZOOM IN", true},
-}};
-
-/// The command or menu with this number; null where there is none.
-[[nodiscard]] constexpr const PreviewCommand* findPreviewCommand(int number) {
-  for (const PreviewCommand& command : previewCommands)
-    if (command.number == number) return &command;
-  return nullptr;
-}
-
-/// Caption as the menu shows it: with a tab and the shortcut's text behind it where it has one.
-[[nodiscard]] inline std::string menuCaption(const PreviewCommand& command) {
-  std::string text(command.caption);
-  if (!command.shortcut.empty()) text += '\t' + std::string(command.shortcut);
-  return text;
-}
-
-namespace detail {
-constexpr bool menusStandBeforeTheirCommands() {
-  for (std::size_t i = 0; i < previewCommands.size(); ++i) {
-    bool known = previewCommands[i].menu <= menuBar;
-    for (std::size_t j = 0; j < i; ++j) {
-      if (previewCommands[j].number == previewCommands[i].number) return false;
-      known = known || previewCommands[j].number == previewCommands[i].menu;
-    }
-    if (!known) return false;
+/// Whether a command is available; nothing for a number that is no command. The compiler notices a
+/// command that has no rule here.
+[[nodiscard]] constexpr std::optional<bool> availability(int command, const PreviewState& state) {
+  using enum library::id::preview::Command;
+  switch (static_cast<library::id::preview::Command>(command)) {
+    case PRINT:
+    case CLOSE:
+    case TOOLBAR:
+    case STATUSBAR:
+    case ZOOM200:
+    case ZOOM150:
+    case ZOOM100:
+    case ZOOM75:
+    case ZOOM50:
+    case ZOOM25:
+    case ZOOMPW:
+    case ZOOMWP:
+    case ABOUT:
+      return true;
+    case FIRST:
+    case PREVIOUS:
+      return state.current > 0;
+    case NEXT:
+    case LAST:
+      return state.current < state.count - 1;
+    case ZOOMOUT:
+      return zoomedOut(state.zoom) != state.zoom;
+    case ZOOMIN:
+      return zoomedIn(state.zoom) != state.zoom;
   }
-  return true;
+  return std::nullopt;
 }
-static_assert(menusStandBeforeTheirCommands());
-}  // namespace detail
+
+static_assert(library::numbersAndNamesAreUnique(previewCommands));
+static_assert(library::menusStandBeforeTheirItems(previewCommands));
+static_assert(library::linesAreBare(previewCommands));
+static_assert(library::picturesAreThere(previewCommands));
+static_assert(library::shortcutsCanWork(previewCommands));
+static_assert(library::holdsEveryCommand(previewCommands, library::id::preview::PRINT,
+                                         [](int number) {
+                                           return availability(number, {}).has_value();
+                                         }));
 
 }  // namespace printing

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <string>
 
-#include "library/identifiers.h"
 #include "library/stored_settings_win.h"
 #include "paper/printer_win.h"
 #include "printing/zoom.h"
@@ -15,7 +14,6 @@
 namespace printing {
 
 using paper::printer;
-namespace id = library::id::preview;
 
 namespace {
 
@@ -102,10 +100,7 @@ void PreviewController::drawPage(std::int32_t page, paper::PagePicture& picture)
 }
 
 void PreviewController::UpdatePageButtons() {
-  const std::int32_t shown = shownPage();
-  for (const int command : {id::FIRST, id::PREVIOUS}) window_.setCommandEnabled(command, shown > 1);
-  for (const int command : {id::NEXT, id::LAST})
-    window_.setCommandEnabled(command, shown < engine_.pageCount());
+  window_.RefreshCommands();
 }
 
 void PreviewController::setZoom(std::string_view text) {
@@ -149,13 +144,10 @@ void PreviewController::ApplyZoomPercent(double percent) {
 }
 
 void PreviewController::UpdateZoomControls() {
-  for (const ZoomLevel& level : zoomLevels) window_.setCommandChecked(level.command, false);
-  const auto index = zoomIndex(selectedText(window_.CBOPGZOOM()));
-  if (!index) return;
-  const ZoomLevel& level = zoomLevels[static_cast<std::size_t>(*index)];
-  window_.setCommandEnabled(id::ZOOMIN, level.canZoomIn);
-  window_.setCommandEnabled(id::ZOOMOUT, level.canZoomOut);
-  window_.setCommandChecked(level.command, true);
+  const std::string zoom = selectedText(window_.CBOPGZOOM());
+  for (const ZoomLevel& level : zoomLevels)
+    window_.setCommandChecked(level.command, level.text == zoom);
+  window_.RefreshCommands();
 }
 
 }  // namespace printing

@@ -45,8 +45,8 @@ class PreviewWindow : public PageBoxes {
   [[nodiscard]] virtual PageView& PICWINDOW() = 0;
   /// Places the view between the bars that are shown.
   virtual void placeView() = 0;
-  /// State of a command, wherever the preview offers it.
-  virtual void setCommandEnabled(int command, bool enabled) = 0;
+  /// Enables the commands that the page and the zoom on show leave to be chosen.
+  virtual void RefreshCommands() = 0;
   virtual void setCommandChecked(int command, bool checked) = 0;
   virtual void setPaperSize(const std::string& text) = 0;
   virtual void ICONMENUS() = 0;

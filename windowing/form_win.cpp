@@ -13,16 +13,17 @@
 #include "windowing/screen_win.h"
 
 namespace windowing {
-namespace {
-
-constexpr char formClass[] = "TellaryForm";
-constexpr char formProperty[] = "TellaryForm";
 
 bool isClass(HWND window, const char* wanted) {
   char name[32] = {};
   GetClassNameA(window, name, sizeof name);
   return lstrcmpiA(name, wanted) == 0;
 }
+
+namespace {
+
+constexpr char formClass[] = "TellaryForm";
+constexpr char formProperty[] = "TellaryForm";
 
 bool isMultilineBox(HWND window) {
   return isClass(window, "Edit") && (GetWindowLongA(window, GWL_STYLE) & ES_MULTILINE) != 0;

@@ -151,6 +151,9 @@ class Form : public Window {
   bool appearMaximised_ = false;
 };
 
+/// Whether a window is of the class `wanted`, whatever the case of its letters.
+[[nodiscard]] bool isClass(HWND window, const char* wanted);
+
 /// The form whose window `window` is or lies in; null when it is none of the program's.
 [[nodiscard]] Form* formOf(HWND window);
 

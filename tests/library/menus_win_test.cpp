@@ -1,17 +1,15 @@
 #include <gtest/gtest.h>
 
-#include "controls/ICOMNU_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/command_form_win.h"
 #include "library/identifiers.h"
 #include "library/images.h"
-#include "library/resource_ids.h"
+#include "values/runtime_error.h"
 
 using namespace library;
 
 namespace {
 
-constexpr windowing::ImageStrip strips[] = {{16, IDB_TOOLBAR16}};
 constexpr windowing::ControlDesign controlRows[] = {
     {"SBMAIN", id::SBMAIN, windowing::kind::statusBar, "", 0, 0, 0, 0}};
 constexpr int title = 7;
@@ -19,7 +17,8 @@ constexpr int title = 7;
 class MenuForm : public CommandForm {
  public:
   explicit MenuForm(const char* name)
-      : CommandForm({name, "Test", WS_OVERLAPPEDWINDOW, 0, 3000, 2000, controlRows}) {
+      : CommandForm({name, "Test", WS_OVERLAPPEDWINDOW, 0, 3000, 2000, controlRows}, {}),
+        menus(iconMenus()) {
     load();
     clsLibrary& shared = LIBRARY();
     shared.MENUCREATE(*this, *this, "&File", "", 0, true, false, title);
@@ -28,11 +27,9 @@ class MenuForm : public CommandForm {
     shared.MENUCREATE(*this, *this, "&Close\tAlt+F4", "", title, false, true, 23);
     shared.MENUCREATE(*this, *this, "&Frobnicate", "", title, true, false, 24);
   }
-  controls::ICOMNU& iconMenus() override { return menus; }
-  const windowing::ImageList& imageList() const override { return images; }
+  void carryOut(int, bool) override {}
 
-  windowing::ImageList images{strips};
-  controls::ICOMNU menus;
+  controls::ICOMNU& menus;
 };
 
 // What the status bar of `shown` says of an item of `owner`.

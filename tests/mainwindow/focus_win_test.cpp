@@ -17,11 +17,14 @@ class Focus : public MainWindowTest {
   Focus() { form.show(); }
 };
 
-TEST_F(Focus, LeavesTheNameBoxThatHasNoNamesLeft) {
-  form.control(id::CBOTBARBOX).focus();
-  ASSERT_TRUE(form.control(id::CBOTBARBOX).focused());
-  run(id::REMOVE);
-  EXPECT_TRUE(form.control(id::TABMAIN).focused());
+TEST_F(Focus, LeavesTheNameBoxThatIsHiddenOrHasNoNamesLeft) {
+  for (const int command : {id::REMOVE, id::STANDARDBAR}) {
+    form.control(id::CBOTBARBOX).focus();
+    ASSERT_TRUE(form.control(id::CBOTBARBOX).focused());
+    run(command);
+    EXPECT_TRUE(form.control(id::TABMAIN).focused()) << command;
+    run(id::ADD);
+  }
 }
 
 TEST_F(Focus, MovedByACommandDoesNotLeaveAWebBox) {

@@ -4,7 +4,6 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "library/command_hints_win.h"
 #include "library/identifiers.h"
 #include "tests/support/main_window_win.h"
 
@@ -39,7 +38,7 @@ TEST_F(Hints, TheSystemMenuIsDescribedWhileItIsOpen) {
 }
 
 TEST_F(Hints, TheToolbarIsWatchedNoLongerThanThePointerIsThere) {
-  constexpr UINT_PTR timer = library::CommandHints::TMR1;
+  constexpr UINT_PTR timer = library::CommandForm::TMR1;
   const windowing::Control bar = form.control(id::TBARMAIN);
   form.show();
   POINT place{5, 5};

@@ -1,7 +1,6 @@
 // What the main window keeps in the settings for its next start.
 #include <gtest/gtest.h>
 
-#include "controls/ICOMNU_win.h"
 #include "dialogs/frmAbout_win.h"
 #include "dialogs/frmProps_win.h"
 #include "library/identifiers.h"
@@ -29,7 +28,7 @@ class Restart : public test_support::MainWindowTest {
           {id::SBMAIN, id::STATUSBAR, "status"}}) {
       const bool visible =
           (GetWindowLongA(form.control(strip).handle(), GWL_STYLE) & WS_VISIBLE) != 0;
-      EXPECT_EQ(visible, form.iconMenus().isChecked(command)) << name;
+      EXPECT_EQ(visible, form.commandChecked(command)) << name;
       if (visible) shown += name;
     }
     return shown;

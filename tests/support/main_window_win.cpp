@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include "controls/ICOMNU_win.h"
 #include "library/identifiers.h"
 
 namespace test_support {
@@ -59,10 +58,6 @@ Names MainWindowTest::names() const {
   Names all;
   for (int i = 0; i < box.count(); ++i) all.push_back(box.entry(i));
   return all;
-}
-
-bool MainWindowTest::enabled(int command) const {
-  return const_cast<mainwindow::frmMain&>(form).iconMenus().isEnabled(command);
 }
 
 void MainWindowTest::open(const std::string& path) {

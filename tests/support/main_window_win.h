@@ -38,7 +38,7 @@ class MainWindowTest : public testing::Test {
   void turnTo(int page);
   [[nodiscard]] std::string status() const;
   [[nodiscard]] Names names() const;
-  [[nodiscard]] bool enabled(int command) const;
+  [[nodiscard]] bool enabled(int command) const { return form.commandEnabled(command); }
   /// Opens a file through the Open command; unsaved work is given up.
   void open(const std::string& path);
 

@@ -1,8 +1,6 @@
-#include "mainwindow/availability.h"
+#include "mainwindow/commands.h"
 
 #include <gtest/gtest.h>
-
-#include "library/identifiers.h"
 
 using namespace mainwindow;
 namespace id = library::id;
@@ -22,7 +20,7 @@ TEST(Availability, FollowsCountAndPosition) {
   for (const auto& row : rows) {
     std::string seen = nameBoxAvailable(row.state) ? "B" : "-";
     for (const auto& [command, letter] : marks)
-      seen += commandAvailable(command, row.state) ? letter : '-';
+      seen += availability(command, row.state).value() ? letter : '-';
     EXPECT_EQ(seen, row.available) << row.state.count << " " << row.state.current;
   }
 }
