@@ -1,159 +1,31 @@
 #!/usr/bin/perl
-# Writes the picture files of Windows from what the renderer gives:
-#   picture_files.pl ico OUT.ico SIZE=PIXELS... [SIZE=FILE.png...]
-#   picture_files.pl bmp OUT.bmp WIDTH HEIGHT BITS PIXELS
-# and, before that, fits a drawing made on a grid of 16 to another size, so that
-# its edges fall on whole pixels:
-#   picture_files.pl fit SIZE IN.svg OUT.svg
-# PIXELS is a file of raw RGBA bytes (straight alpha), top row first.
-#
-# The bitmaps are indexed, and the fourth byte of every palette entry is the alpha
-# of that colour: a quarter of the bytes of a 32-bit bitmap, and no difference to see.
+# The two steps of rendering pictures that no tool takes (tools/render_icons.sh):
+#   picture_files.pl fit SIZE <DRAWING >FITTED
+# fits a drawing made on a grid of 16 to another size, so that its edges fall on whole pixels, and
+#   picture_files.pl bmp WIDTH HEIGHT <PIXELS >BITMAP
+# writes a bitmap of 8 bits whose palette has the alpha of each colour in its fourth bytes: a
+# quarter of the bytes of a 32-bit bitmap. PIXELS are raw RGBA bytes of at most 256 colours.
 use strict;
 use warnings;
 use POSIX qw(floor);
 
-sub slurp {
-  my ($path) = @_;
-  open my $file, '<:raw', $path or die "$path: $!\n";
-  local $/;
-  return scalar <$file>;
-}
-
-sub spill {
-  my ($path, $bytes) = @_;
-  open my $file, '>:raw', $path or die "$path: $!\n";
-  print {$file} $bytes;
-  close $file or die "$path: $!\n";
-}
-
-# One picture of an icon: header of twice the height, 32-bit rows from the bottom
-# up, then the one-bit mask that only old painters look at.
-sub icon_picture {
-  my ($size, $raw) = @_;
-  length($raw) == $size * $size * 4 or die "icon picture of $size: wrong length\n";
-  my ($rows, $mask) = ('', '');
-  for my $y (reverse 0 .. $size - 1) {
-    my $bits = '';
-    for my $x (0 .. $size - 1) {
-      my ($r, $g, $b, $a) = unpack 'C4', substr $raw, ($y * $size + $x) * 4, 4;
-      ($r, $g, $b) = (0, 0, 0) unless $a;
-      $rows .= pack 'C4', $b, $g, $r, $a;
-      $bits .= $a ? '0' : '1';
-    }
-    $bits .= '0' x (-$size % 32);
-    $mask .= pack 'B*', $bits;
-  }
-  return pack('VVVvvVVVVVV', 40, $size, 2 * $size, 1, 32, 0, length($rows) + length($mask),
-    0, 0, 0, 0) . $rows . $mask;
-}
-
-sub write_icon {
-  my ($out, @pictures) = @_;
-  my ($directory, $data) = ('', '');
-  my $offset = 6 + 16 * @pictures;
-  for (@pictures) {
-    my ($size, $path) = /^(\d+)=(.+)$/ or die "not SIZE=FILE: $_\n";
-    my $bytes = $path =~ /\.png$/ ? slurp($path) : icon_picture($size, slurp($path));
-    $directory .= pack 'CCCCvvVV', $size % 256, $size % 256, 0, 0, 1, 32, length $bytes,
-      $offset + length $data;
-    $data .= $bytes;
-  }
-  spill($out, pack('vvv', 0, 1, scalar @pictures) . $directory . $data);
-}
-
-# The palette of at most `limit` colours, and the place in it of each colour of the
-# picture. Colours are compared as they show, weighted by their alpha; a picture
-# with few enough colours keeps each of them exactly.
-sub choose_palette {
-  my ($limit, $seen) = @_;
-  my @colours = sort { $seen->{$b} <=> $seen->{$a} || $a cmp $b } keys %$seen;
-  return (\@colours, { map { $colours[$_] => $_ } 0 .. $#colours }) if @colours <= $limit;
-  my @points = map {
-    my ($r, $g, $b, $a) = unpack 'C4', $_;
-    [$r * $a / 255, $g * $a / 255, $b * $a / 255, $a, $seen->{$_}];
-  } @colours;
-  my $apart = sub {
-    my ($p, $q) = @_;
-    my $sum = 0;
-    $sum += ($p->[$_] - $q->[$_])**2 for 0 .. 3;
-    return $sum;
-  };
-  # Start from colours that lie far apart, then move each to the middle of its own.
-  my @centres = ([@{ $points[0] }]);
-  my @distance = map { $apart->($_, $centres[0]) } @points;
-  while (@centres < $limit) {
-    my ($best, $weight) = (0, -1);
-    for my $i (0 .. $#points) {
-      my $w = $distance[$i] * (1 + log $points[$i][4]);
-      ($best, $weight) = ($i, $w) if $w > $weight;
-    }
-    push @centres, [@{ $points[$best] }];
-    for my $i (0 .. $#points) {
-      my $d = $apart->($points[$i], $centres[-1]);
-      $distance[$i] = $d if $d < $distance[$i];
-    }
-  }
-  my @nearest;
-  for my $round (1 .. 6) {
-    for my $i (0 .. $#points) {
-      my ($best, $least) = (0, 1e9);
-      for my $c (0 .. $#centres) {
-        my $d = $apart->($points[$i], $centres[$c]);
-        ($best, $least) = ($c, $d) if $d < $least;
-      }
-      $nearest[$i] = $best;
-    }
-    last if $round == 6;
-    my @sums = map { [0, 0, 0, 0, 0] } @centres;
-    for my $i (0 .. $#points) {
-      my ($sum, $weight) = ($sums[$nearest[$i]], $points[$i][4]);
-      $sum->[$_] += $points[$i][$_] * $weight for 0 .. 3;
-      $sum->[4] += $weight;
-    }
-    for my $c (0 .. $#centres) {
-      my $weight = $sums[$c][4] or next;
-      $centres[$c] = [map { $sums[$c][$_] / $weight } 0 .. 3];
-    }
-  }
-  my @palette = map {
-    my $a = int($_->[3] + 0.5);
-    my @rgb = map { my $v = $a ? int($_ * 255 / $a + 0.5) : 0; $v > 255 ? 255 : $v } @$_[0 .. 2];
-    pack 'C4', @rgb, $a;
-  } @centres;
-  return (\@palette, { map { $colours[$_] => $nearest[$_] } 0 .. $#colours });
-}
-
 sub write_bitmap {
-  my ($out, $width, $height, $bits, $path) = @_;
-  my $raw = slurp($path);
-  length($raw) == $width * $height * 4 or die "$path: not $width x $height\n";
-  my @pixels = unpack '(a4)*', $raw;
-  my %seen;
+  my ($bytes, $width, $height) = @_;
+  my @pixels = unpack '(a4)*', $bytes;
+  @pixels == $width * $height or die "the picture is not $width x $height\n";
+  my (@palette, %place);
   for (@pixels) {
-    $_ = "\0\0\0\0" if substr($_, 3) eq "\0";
-    $seen{$_}++;
+    $place{$_} //= push(@palette, $_) - 1;
   }
-  my ($palette, $place) = choose_palette(2**$bits, \%seen);
-  my $colours = join '', map { my ($r, $g, $b, $a) = unpack 'C4', $_; pack 'C4', $b, $g, $r, $a }
-    @$palette;
+  @palette <= 256 or die "the picture has more than 256 colours\n";
+  my $colours = join '', map { pack 'C4', (unpack 'C4')[2, 1, 0, 3] } @palette;
   my $rows = '';
   for my $y (reverse 0 .. $height - 1) {
-    my @indices = map { $place->{$_} } @pixels[$y * $width .. ($y + 1) * $width - 1];
-    my $row = '';
-    if ($bits == 8) {
-      $row = pack 'C*', @indices;
-    } else {
-      push @indices, 0 if @indices % 2;
-      $row = pack 'C*', map { $indices[2 * $_] * 16 + $indices[2 * $_ + 1] } 0 .. $#indices / 2;
-    }
-    $rows .= $row . "\0" x (-length($row) % 4);
+    $rows .= pack('C*', @place{ @pixels[$y * $width .. ($y + 1) * $width - 1] }) . "\0" x (-$width % 4);
   }
-  my $info = pack 'VVVvvVVVVVV', 40, $width, $height, 1, $bits, 0, length $rows, 0, 0,
-    scalar @$palette, 0;
+  my $info = pack 'VVVvvVVVVVV', 40, $width, $height, 1, 8, 0, length $rows, 0, 0, scalar @palette, 0;
   my $start = 14 + length($info) + length $colours;
-  spill($out, pack('a2VvvV', 'BM', $start + length $rows, 0, 0, $start) . $info . $colours . $rows);
-  print scalar(keys %seen), " colours kept in ", scalar(@$palette), ": $out\n";
+  print pack('a2VvvV', 'BM', $start + length $rows, 0, 0, $start) . $info . $colours . $rows;
 }
 
 # Where the coordinate `c` of the grid of 16 goes at `size` pixels. Edges of areas
@@ -197,10 +69,9 @@ sub fit_path {
 }
 
 sub fit_drawing {
-  my ($size, $in, $out) = @_;
+  my ($svg, $size) = @_;
   my $scale = $size / 16;
-  my $svg = slurp($in);
-  $svg =~ s/viewBox="0 0 16 16"/viewBox="0 0 $size $size"/ or die "$in: not on a grid of 16\n";
+  $svg =~ s/viewBox="0 0 16 16"/viewBox="0 0 $size $size"/ or die "the drawing is not on a grid of 16\n";
   $svg =~ s{<(path|rect|circle|ellipse)\b([^>]*?)/>}{
     my ($kind, $text) = ($1, $2);
     my %a = $text =~ /([\w-]+)="([^"]*)"/g;
@@ -236,11 +107,12 @@ sub fit_drawing {
     }
     "<$kind" . join('', map { qq( $_="$a{$_}") } sort keys %a) . '/>';
   }ge;
-  spill($out, $svg);
+  print $svg;
 }
 
 my $what = shift // '';
-if ($what eq 'ico') { write_icon(@ARGV) }
-elsif ($what eq 'bmp') { write_bitmap(@ARGV) }
-elsif ($what eq 'fit') { fit_drawing(@ARGV) }
+binmode $_ for *STDIN, *STDOUT;
+my $given = do { local $/; <STDIN> };
+if ($what eq 'fit') { fit_drawing($given, @ARGV) }
+elsif ($what eq 'bmp') { write_bitmap($given, @ARGV) }
 else { die "usage: see the head of this file\n" }

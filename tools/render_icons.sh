@@ -1,77 +1,84 @@
 #!/bin/sh
 # Renders every picture of the program from app/icons/src into the files that the
 # resources take. The results are committed, so that a build needs no renderer:
-# run this after changing a drawing. Needs rsvg-convert, ImageMagick and perl.
+# run this after changing a drawing.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 icons=$here/../app/icons
+"$here/setup.sh" render
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# NAME.SIZE.svg, where it exists, is a drawing made for that size alone.
-drawing() {
-  if [ -f "$icons/src/$1.$2.svg" ]; then echo "$icons/src/$1.$2.svg"; else echo "$icons/src/$1.svg"; fi
+# render SIZE OUT.png DRAWING [HEIGHT]
+render() {
+  rsvg-convert -w "$1" -h "${4:-$1}" "$3" -o "$2"
 }
 
-# icon NAME SIZE...: an .ico; 64 and 256 go in as PNG, which keeps them small, the others as
-# 32-bit bitmaps.
+# icon NAME SIZE...: an .ico; what is larger than 48 goes in as PNG, which keeps it small, the
+# others as 32-bit bitmaps. NAME.SIZE.svg, where it exists, is a drawing made for that size alone.
 icon() {
   name=$1
   shift
   set -- "$@" --
   while [ "$1" != -- ]; do
-    size=$1
-    shift
-    base=$scratch/$name-$size
-    rsvg-convert -w "$size" -h "$size" "$(drawing "$name" "$size")" -o "$base.png"
-    if [ "$size" -ge 64 ]; then
-      convert "$base.png" -strip -define png:compression-level=9 -define png:compression-filter=5 \
-        -define png:exclude-chunks=all "PNG32:$base.small.png"
-      set -- "$@" "$size=$base.small.png"
+    drawing=$icons/src/$name.$1.svg
+    [ -f "$drawing" ] || drawing=$icons/src/$name.svg
+    picture=$scratch/$name-$1.png
+    render "$1" "$picture" "$drawing"
+    if [ "$1" -gt 48 ]; then
+      convert "$picture" -strip -define png:compression-level=9 -define png:compression-filter=5 \
+        -define png:exclude-chunks=all "PNG32:$picture"
+      set -- "$@" --raw="$picture"
     else
-      convert "$base.png" -depth 8 "RGBA:$base.rgba"
-      set -- "$@" "$size=$base.rgba"
+      set -- "$@" "$picture"
     fi
+    shift
   done
   shift
-  perl "$here/picture_files.pl" ico "$icons/$name.ico" "$@"
+  icotool --create --output="$icons/$name.ico" "$@"
 }
 
 icon tellary 16 20 24 32 48 256
 icon contact 16 32
 icon document 16 20 24 32 48 256
 
+# few COLOURS PICTURE: chooses so many colours for it, in place
+few() {
+  pngquant --speed 1 --nofs --strip --force --ext .png "$1" "$2"
+}
+
 # The pictures of the commands in one row, in the order that library/images.h has.
 keys=$(sed -n '/imageKeys{/,/};/s/[^"]*"\([A-Z ]*\)"[^"]*/\1;/gp' "$here/../library/images.h" | tr -d '\n')
 strip() {
   size=$1
-  count=0
   set --
   IFS=';'
   for key in $keys; do
     name=$(echo "$key" | tr 'A-Z ' 'a-z_')
     # The drawings are made on a grid of 16; a size that is no multiple of it is fitted.
-    if [ -f "$icons/src/$name.$size.svg" ]; then
-      fitted=$icons/src/$name.$size.svg
-    else
-      fitted=$scratch/$name-$size.svg
-      perl "$here/picture_files.pl" fit "$size" "$icons/src/$name.svg" "$fitted"
+    drawing=$icons/src/$name.$size.svg
+    if [ ! -f "$drawing" ]; then
+      drawing=$scratch/$name.svg
+      perl "$here/picture_files.pl" fit "$size" <"$icons/src/$name.svg" >"$drawing"
     fi
-    rsvg-convert -w "$size" -h "$size" "$fitted" -o "$scratch/$name-$size.png"
-    set -- "$@" "$scratch/$name-$size.png"
-    count=$((count + 1))
+    picture=$scratch/$name-$size.png
+    render "$size" "$picture" "$drawing"
+    set -- "$@" "$picture"
   done
   unset IFS
-  convert "$@" +append -depth 8 "RGBA:$scratch/strip.rgba"
-  perl "$here/picture_files.pl" bmp "$icons/toolbar$size.bmp" $((count * size)) "$size" 8 "$scratch/strip.rgba"
+  row=$scratch/strip$size.png
+  convert "$@" +append "PNG32:$row"
+  few 256 "$row"
+  convert "$row" -depth 8 RGBA:- |
+    perl "$here/picture_files.pl" bmp $(($# * size)) "$size" >"$icons/toolbar$size.bmp"
 }
 for size in 16 20 24 32; do strip "$size"; done
 
 # logo DPI WIDTH HEIGHT
 logo() {
-  rsvg-convert -w "$2" -h "$3" "$icons/src/logo.svg" -o "$scratch/logo.png"
-  convert "$scratch/logo.png" -depth 8 "RGBA:$scratch/logo.rgba"
-  perl "$here/picture_files.pl" bmp "$icons/logo$1.bmp" "$2" "$3" 4 "$scratch/logo.rgba"
+  render "$2" "$scratch/logo.png" "$icons/src/logo.svg" "$3"
+  few 16 "$scratch/logo.png"
+  convert "$scratch/logo.png" -compress none "BMP3:$icons/logo$1.bmp"
 }
 logo 96 200 60
 logo 144 300 90

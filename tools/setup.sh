@@ -3,6 +3,7 @@
 #
 #   setup.sh run     what building and running the program needs
 #   setup.sh test    that, and what the tests and checks need (the default)
+#   setup.sh render  what rendering the pictures anew needs, and no more
 set -euo pipefail
 
 run_packages=(
@@ -17,6 +18,7 @@ test_packages=(
   clang-format-14 clang-tidy-14                  # checks
   ghostscript poppler-utils                      # reading what was printed
 )
+render_packages=(librsvg2-bin imagemagick icoutils pngquant perl)
 
 say() { echo "setup: $*"; }
 fail() {
@@ -27,7 +29,8 @@ fail() {
 case ${1:-test} in
   run) packages=("${run_packages[@]}") ;;
   test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
-  *) fail "unknown set '$1' (run or test)" ;;
+  render) packages=("${render_packages[@]}") ;;
+  *) fail "unknown set '$1' (run, test or render)" ;;
 esac
 
 installed() {
