@@ -11,15 +11,15 @@
 
 #include "bench/measuring.h"
 #include "document/reader.h"
-#include "library/identifiers.h"
 #include "mainwindow/document_file_win.h"
 #include "mainwindow/frmMain_design_win.h"
+#include "mainwindow/frmMain_ids.h"
 #include "mainwindow/frmMain_win.h"
 #include "mainwindow/name_box_win.h"
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 using mainwindow::frmMain;
 using windowing::ComboBox;
 

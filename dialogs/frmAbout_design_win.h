@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controls/TXTSEP_win.h"
-#include "library/identifiers.h"
+#include "dialogs/frmAbout_ids.h"
 #include "windowing/form_win.h"
 
 namespace dialogs::about_design {
@@ -11,7 +11,7 @@ namespace dialogs::about_design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
-namespace id = library::id::about;
+namespace id = dialogs::about_id;
 
 constexpr int formWidth = 6600;
 constexpr int formHeight = 5175;

@@ -16,7 +16,7 @@
 namespace dialogs {
 
 using library::LIBRARY;
-namespace id = library::id::about;
+namespace id = dialogs::about_id;
 
 namespace {
 

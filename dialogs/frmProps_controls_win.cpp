@@ -13,7 +13,7 @@
 
 namespace dialogs {
 
-namespace id = library::id::props;
+namespace id = dialogs::props_id;
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "controls/PANEL_win.h"
 #include "controls/TXTSEP_win.h"
-#include "library/identifiers.h"
+#include "dialogs/frmProps_ids.h"
 #include "windowing/form_win.h"
 
 namespace dialogs::props_design {
@@ -12,7 +12,7 @@ namespace dialogs::props_design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
-namespace id = library::id::props;
+namespace id = dialogs::props_id;
 
 constexpr int formWidth = 5850;
 constexpr int margin = 90;       ///< round the tab strip

@@ -22,7 +22,7 @@ namespace dialogs {
 using library::LIBRARY;
 using library::modLibrary;
 using values::ignoringErrors;
-namespace id = library::id::props;
+namespace id = dialogs::props_id;
 
 namespace {
 

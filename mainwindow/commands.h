@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "library/command.h"
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 
 namespace mainwindow {
 
@@ -14,8 +14,7 @@ constexpr auto mainCommands = [] {
   using library::closesWindow, library::line, library::menuBar;
   using library::Command, library::Held, library::Key;
   using enum library::ToolButton;
-  namespace id = library::id;
-  enum { fileMenu = 1, editMenu, viewMenu, goToMenu, helpMenu };
+    enum { fileMenu = 1, editMenu, viewMenu, goToMenu, helpMenu };
 
   return std::to_array<Command>({
     {fileMenu, menuBar, "MNUFILETOP", "&File"},
@@ -73,8 +72,8 @@ struct CommandState {
 /// Whether a command is available; nothing for a number that is no command. The compiler notices a
 /// command that has no rule here.
 [[nodiscard]] constexpr std::optional<bool> availability(int command, const CommandState& state) {
-  using enum library::id::MainCommand;
-  switch (static_cast<library::id::MainCommand>(command)) {
+  using enum mainwindow::id::MainCommand;
+  switch (static_cast<mainwindow::id::MainCommand>(command)) {
     case NEW:
     case OPEN:
     case SAVEAS:
@@ -109,7 +108,7 @@ static_assert(library::menusStandBeforeTheirItems(mainCommands));
 static_assert(library::linesAreBare(mainCommands));
 static_assert(library::picturesAreThere(mainCommands));
 static_assert(library::shortcutsCanWork(mainCommands));
-static_assert(library::holdsEveryCommand(mainCommands, library::id::NEW, [](int number) {
+static_assert(library::holdsEveryCommand(mainCommands, mainwindow::id::NEW, [](int number) {
   return availability(number, {}).has_value();
 }));
 

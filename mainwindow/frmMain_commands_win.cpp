@@ -11,8 +11,6 @@
 namespace mainwindow {
 
 using library::LIBRARY;
-namespace id = library::id;
-
 void frmMain::carryOut(int command, bool byButton) {
   switch (static_cast<id::MainCommand>(command)) {
     case id::NEW:

@@ -20,8 +20,6 @@
 namespace mainwindow {
 
 using windowing::PaintingSuspended;
-namespace id = library::id;
-
 namespace {
 
 bool multipleBytes() {

@@ -7,7 +7,7 @@
 
 #include "controls/TXTBTN_win.h"
 #include "document/fields.h"
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "windowing/form_win.h"
 
 namespace mainwindow::design {
@@ -16,8 +16,6 @@ using document::Slot;
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
-namespace id = library::id;
-
 // Strips and the body.
 constexpr int formWidth = 8790;
 constexpr int toolbarHeight = 480;

@@ -30,8 +30,6 @@ namespace mainwindow {
 using library::LIBRARY;
 using values::ErrorNumber;
 using values::RuntimeError;
-namespace id = library::id;
-
 namespace {
 
 constexpr char filter[] = "Tellary Document (*.tly)|*.tly";

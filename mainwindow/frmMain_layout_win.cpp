@@ -21,8 +21,6 @@
 namespace mainwindow {
 
 using library::LIBRARY;
-namespace id = library::id;
-
 namespace {}  // namespace
 
 frmMain::frmMain() : CommandForm(design::form, {mainCommands, id::TABMAIN}) {}

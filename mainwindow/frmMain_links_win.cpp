@@ -13,8 +13,6 @@ namespace mainwindow {
 using controls::TXTBTN;
 using library::LIBRARY;
 using windowing::handleText;
-namespace id = library::id;
-
 namespace {
 
 bool isWeb(int box) {

@@ -1,5 +1,5 @@
 // Printing the contact on screen.
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "mainwindow/frmMain_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/compose_report_win.h"
@@ -8,8 +8,6 @@
 #include "windowing/hourglass_win.h"
 
 namespace mainwindow {
-
-namespace id = library::id;
 
 // The box is made when something is printed for the first time: most sessions never do, and the
 // system's rich text library takes its time to load.

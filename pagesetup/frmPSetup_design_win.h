@@ -5,7 +5,7 @@
 #include "controls/PANEL_win.h"
 #include "controls/SPIN_win.h"
 #include "controls/TXTSEP_win.h"
-#include "library/identifiers.h"
+#include "pagesetup/frmPSetup_ids.h"
 #include "windowing/form_win.h"
 
 namespace pagesetup::psetup_design {
@@ -13,8 +13,6 @@ namespace pagesetup::psetup_design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
-namespace id = library::id::psetup;
-
 constexpr int formWidth = 6900;
 constexpr int margin = 90;   ///< round the tab strip
 constexpr int tabRow = 390;  ///< height of the row of tabs

@@ -13,8 +13,6 @@
 
 namespace pagesetup {
 
-namespace id = library::id::psetup;
-
 namespace {
 
 /// A box to tick, the group that it belongs to, and the item of the sample that it shows or

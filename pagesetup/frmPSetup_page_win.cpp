@@ -23,8 +23,6 @@ using library::Setting;
 using paper::Orientation;
 using paper::printer;
 using values::ignoringErrors;
-namespace id = library::id::psetup;
-
 namespace {
 
 struct StoredMargin {

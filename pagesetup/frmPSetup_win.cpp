@@ -13,7 +13,6 @@
 namespace pagesetup {
 
 using library::LIBRARY;
-namespace id = library::id::psetup;
 using values::ignoringErrors;
 
 namespace {

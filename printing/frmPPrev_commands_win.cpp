@@ -13,8 +13,6 @@
 
 namespace printing {
 
-namespace id = library::id::preview;
-
 void frmPPrev::ICONMENUS() {
   load();
   CommandForm::ICONMENUS();

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "controls/TXTSEP_win.h"
-#include "library/identifiers.h"
+#include "printing/frmPPrev_ids.h"
 #include "printing/frmPPrev_win.h"
 #include "windowing/form_win.h"
 
@@ -14,8 +14,6 @@ namespace printing::design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
-namespace id = library::id::preview;
-
 constexpr int formWidth = 9900;
 constexpr int formHeight = 6600;
 constexpr int stripHeight = 480;

@@ -16,8 +16,6 @@ namespace printing {
 
 using library::LIBRARY;
 using windowing::screenPixels;
-namespace id = library::id::preview;
-
 namespace {
 
 void prepareList(const windowing::ComboBox& list, const char* rows) {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "library/identifiers.h"
+#include "printing/frmPPrev_ids.h"
 #include "values/handles_win.h"
 #include "values/system_error_win.h"
 #include "windowing/application_win.h"
@@ -76,7 +76,7 @@ HWND PageView::create(HWND container, int id, const RECT& place) {
   creation.parent = container;
   creation.menu = reinterpret_cast<HMENU>(static_cast<INT_PTR>(id));
   Window::create(creation);
-  namespace numbers = library::id::preview;
+  namespace numbers = printing::id;
   SCRHBAR = child("SCROLLBAR", SBS_HORZ, handle(), numbers::SCRHBAR);
   SCRVBAR = child("SCROLLBAR", SBS_VERT, handle(), numbers::SCRVBAR);
   PICFILL = child(windowing::containerClass(), 0, handle(), numbers::PICFILL);

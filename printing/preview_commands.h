@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "library/command.h"
-#include "library/identifiers.h"
+#include "printing/frmPPrev_ids.h"
 #include "printing/zoom.h"
 
 namespace printing {
@@ -16,8 +16,7 @@ constexpr auto previewCommands = [] {
   using library::closesWindow, library::menuBar, library::noMenu;
   using library::Command, library::Key;
   using enum library::ToolButton;
-  namespace id = library::id::preview;
-  enum { fileMenu = 1, viewMenu, zoomMenu, goToMenu, helpMenu };
+    enum { fileMenu = 1, viewMenu, zoomMenu, goToMenu, helpMenu };
 
   return std::to_array<Command>({
     {fileMenu, menuBar, "MNUFILETOP", "&File"},
@@ -64,8 +63,8 @@ struct PreviewState {
 /// Whether a command is available; nothing for a number that is no command. The compiler notices a
 /// command that has no rule here.
 [[nodiscard]] constexpr std::optional<bool> availability(int command, const PreviewState& state) {
-  using enum library::id::preview::Command;
-  switch (static_cast<library::id::preview::Command>(command)) {
+  using enum printing::id::Command;
+  switch (static_cast<printing::id::Command>(command)) {
     case PRINT:
     case CLOSE:
     case TOOLBAR:
@@ -99,9 +98,8 @@ static_assert(library::menusStandBeforeTheirItems(previewCommands));
 static_assert(library::linesAreBare(previewCommands));
 static_assert(library::picturesAreThere(previewCommands));
 static_assert(library::shortcutsCanWork(previewCommands));
-static_assert(library::holdsEveryCommand(previewCommands, library::id::preview::PRINT,
-                                         [](int number) {
-                                           return availability(number, {}).has_value();
-                                         }));
+static_assert(library::holdsEveryCommand(previewCommands, printing::id::PRINT, [](int number) {
+  return availability(number, {}).has_value();
+}));
 
 }  // namespace printing

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "library/identifiers.h"
+#include "printing/frmPPrev_ids.h"
 
 namespace printing {
 
@@ -19,14 +19,14 @@ constexpr int steppedZooms = 6;  ///< the percentages, which zooming in and out 
 
 /// All zooms in the order of the list: the percentages, smallest first, and the fitted ones.
 constexpr std::array<ZoomLevel, 8> zoomLevels = {{
-    {"25 %", library::id::preview::ZOOM25},
-    {"50 %", library::id::preview::ZOOM50},
-    {"75 %", library::id::preview::ZOOM75},
-    {"100 %", library::id::preview::ZOOM100},
-    {"150 %", library::id::preview::ZOOM150},
-    {"200 %", library::id::preview::ZOOM200},
-    {"Page Width", library::id::preview::ZOOMPW},
-    {"Whole Page", library::id::preview::ZOOMWP},
+    {"25 %", printing::id::ZOOM25},
+    {"50 %", printing::id::ZOOM50},
+    {"75 %", printing::id::ZOOM75},
+    {"100 %", printing::id::ZOOM100},
+    {"150 %", printing::id::ZOOM150},
+    {"200 %", printing::id::ZOOM200},
+    {"Page Width", printing::id::ZOOMPW},
+    {"Whole Page", printing::id::ZOOMWP},
 }};
 
 constexpr std::string_view pageWidthZoom = "Page Width";

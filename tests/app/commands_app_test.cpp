@@ -6,7 +6,7 @@ namespace {
 using drive::fullContacts;
 using drive::place;
 using drive::Program;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 constexpr int surnameBox = id::textItem(0);
 constexpr int commentsBox = id::textItem(22);

@@ -10,7 +10,7 @@ using drive::Contact;
 using drive::fullContacts;
 using drive::place;
 using drive::Program;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class Contacts : public drive::AppTest {
  protected:

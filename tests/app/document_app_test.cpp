@@ -11,7 +11,7 @@ using drive::Dialog;
 using drive::fullContacts;
 using drive::place;
 using drive::Program;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 constexpr char saveFirst[] = "New|You have unsaved work, do you want to save first ?";
 

@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::string_view_literals;
 using test_support::RawValue;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 // Names that places of windows are kept under.
 constexpr const char* placeNames[] = {"frmMain", "frmPSetup", library::sharedPlace};

@@ -8,7 +8,7 @@ namespace {
 
 using drive::boxOf;
 using drive::Program;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class KilledSave : public drive::AppTest {
  protected:

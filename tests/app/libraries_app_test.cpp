@@ -8,7 +8,7 @@
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class Libraries : public drive::AppTest {
  protected:

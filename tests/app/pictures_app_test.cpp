@@ -4,7 +4,7 @@
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class Pictures : public drive::AppTest {
  protected:

@@ -12,9 +12,9 @@ class Printing : public drive::AppTest {};
 TEST_F(Printing, TheButtonPrintsTheContactOnScreen) {
   const TestPrinters printers;
   const drive::Program& program = startOn(drive::fullContacts(2));
-  program.command(library::id::NEXT);
+  program.command(mainwindow::id::NEXT);
   program.enter(drive::boxOf[drive::surname], "Wu");
-  program.clickButton(library::id::PRINT);
+  program.clickButton(mainwindow::id::PRINT);
   EXPECT_FALSE(program.hasDialog()) << "the button asks nothing";
   const auto pages = test_support::pagesOf(TestPrinters::letterJob());
   ASSERT_EQ(pages.size(), 1U);

@@ -11,7 +11,7 @@ namespace {
 using drive::fullContacts;
 using drive::KeyAside;
 using drive::Program;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class Shell : public drive::AppTest {
  protected:

@@ -6,7 +6,7 @@ namespace {
 using drive::Contact;
 using drive::place;
 using drive::Program;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class Start : public drive::AppTest {};
 

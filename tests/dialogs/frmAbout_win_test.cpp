@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "library/identifiers.h"
+#include "dialogs/frmAbout_ids.h"
 #include "tests/support/scratch_registry_win.h"
 #include "values/handles_win.h"
 #include "windowing/application_win.h"
@@ -16,7 +16,7 @@ namespace dialogs {
 namespace {
 
 using test_support::ScratchRegistry;
-namespace id = library::id::about;
+namespace id = dialogs::about_id;
 
 constexpr char windowsKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
 

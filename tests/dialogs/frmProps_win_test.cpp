@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <string>
 
-#include "library/identifiers.h"
+#include "dialogs/frmProps_ids.h"
 #include "library/modLibrary_win.h"
 #include "paper/richtextbox_win.h"
 #include "printing/clsPrinting_win.h"
@@ -25,7 +25,7 @@ namespace {
 using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
-namespace id = library::id::props;
+namespace id = dialogs::props_id;
 
 constexpr char placeKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\GLOBAL\\Window";
 constexpr char marginKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items";

@@ -2,7 +2,6 @@
 
 #include "library/clsLibrary_win.h"
 #include "library/command_form_win.h"
-#include "library/identifiers.h"
 #include "library/images.h"
 #include "values/runtime_error.h"
 
@@ -10,8 +9,9 @@ using namespace library;
 
 namespace {
 
+constexpr int statusBar = 12;
 constexpr windowing::ControlDesign controlRows[] = {
-    {"SBMAIN", id::SBMAIN, windowing::kind::statusBar, "", 0, 0, 0, 0}};
+    {"SBMAIN", statusBar, windowing::kind::statusBar, "", 0, 0, 0, 0}};
 constexpr int title = 7;
 
 class MenuForm : public CommandForm {
@@ -35,7 +35,7 @@ class MenuForm : public CommandForm {
 // What the status bar of `shown` says of an item of `owner`.
 std::string described(MenuForm& owner, MenuForm& shown, int number, bool clear = false) {
   LIBRARY().STATUSTEXTDESC(owner, shown, number, clear, "tellary");
-  return shown.control<windowing::StatusBar>(id::SBMAIN).panel();
+  return shown.control<windowing::StatusBar>(statusBar).panel();
 }
 
 TEST(LibraryMenus, CreatesItemsWithPictureAndState) {

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 using namespace mainwindow;
-namespace id = library::id;
-
 TEST(Availability, FollowsCountAndPosition) {
   const struct {
     CommandState state;

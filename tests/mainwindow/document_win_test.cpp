@@ -5,13 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "library/clsLibrary_win.h"
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/short_memory_win.h"
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 using library::Setting;
 using test_support::MainWindowTest;
 using test_support::Names;

@@ -4,7 +4,7 @@
 #include <commdlg.h>
 #include <gtest/gtest.h>
 
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "tests/support/dialog_driver_win.h"
 #include "tests/support/main_window_win.h"
 
@@ -15,7 +15,7 @@ extern "C" FileDialogEntry saveEntry asm("__imp__GetSaveFileNameA@4");
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 FileDialogEntry realEntry = nullptr;
 DWORD askedFlags = 0;

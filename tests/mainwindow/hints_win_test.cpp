@@ -4,12 +4,12 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "tests/support/main_window_win.h"
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 class Hints : public test_support::MainWindowTest {};
 

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "paper/print_dialog_win.h"
 #include "paper/printer_win.h"
 #include "tests/support/main_window_win.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 using test_support::TestPrinters;
 
 class PrintingContacts : public test_support::MainWindowTest {

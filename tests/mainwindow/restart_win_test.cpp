@@ -3,7 +3,7 @@
 
 #include "dialogs/frmAbout_win.h"
 #include "dialogs/frmProps_win.h"
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "pagesetup/frmPSetup_win.h"
 #include "printing/frmPPrev_win.h"
 #include "tests/support/main_window_win.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 using library::Setting;
 
 class Restart : public test_support::MainWindowTest {

@@ -2,14 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "document/fields.h"
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "tests/support/failing_files_win.h"
 #include "tests/support/main_window_win.h"
 
 namespace mainwindow {
 namespace {
 
-namespace id = library::id;
 using support::bytesOf;
 using support::FailingFiles;
 using support::Failure;

@@ -4,14 +4,14 @@
 #include <gtest/gtest.h>
 
 #include "controls/TXTBTN_win.h"
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 #include "tests/support/failing_files_win.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/short_memory_win.h"
 
 namespace {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 using test_support::RefusingBox;
 using test_support::ShortMemory;
 

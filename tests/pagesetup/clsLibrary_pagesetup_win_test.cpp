@@ -8,8 +8,9 @@
 #include <functional>
 #include <string>
 
-#include "library/identifiers.h"
 #include "library/modLibrary_win.h"
+#include "mainwindow/frmMain_ids.h"
+#include "pagesetup/frmPSetup_ids.h"
 #include "paper/printer_win.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/printers_win.h"
@@ -19,7 +20,7 @@ namespace pagesetup {
 namespace {
 
 using test_support::TestPrinters;
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 // What is done to the page setup once it is open; it is closed then.
 std::function<void(windowing::Form&)> onOpen;
@@ -70,9 +71,9 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
                                          return mapped(root);
                                        });
     runAndLook(command, [&, shown = tab](const windowing::Form& setup) {
-      EXPECT_EQ(setup.control(id::psetup::TABSTRIP1).send(TCM_GETCURSEL), shown);
-      EXPECT_EQ(setup.control(id::psetup::FRAMHEADERFOOTER).visible(), shown == 1);
-      EXPECT_EQ(setup.control(id::psetup::FRAMPAGE).visible(), shown == 0);
+      EXPECT_EQ(setup.control(pagesetup::id::TABSTRIP1).send(TCM_GETCURSEL), shown);
+      EXPECT_EQ(setup.control(pagesetup::id::FRAMHEADERFOOTER).visible(), shown == 1);
+      EXPECT_EQ(setup.control(pagesetup::id::FRAMPAGE).visible(), shown == 0);
       EXPECT_FALSE(IsWindowEnabled(form.handle()));
       EXPECT_EQ(GetWindow(setup.handle(), GW_OWNER), form.handle());
       EXPECT_EQ(status(), "");
@@ -88,11 +89,11 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
 TEST_F(PageSetupCommands, WithoutAPrinterTheUserIsToldAndTheMarginsCanBeSet) {
   ASSERT_TRUE(paper::printerNames().empty());
   runAndLook(id::PAGESETUP, [](const windowing::Form& setup) {
-    EXPECT_EQ(setup.control(id::psetup::CBOPRINTERS).send(CB_GETCOUNT), 0);
-    EXPECT_EQ(setup.control(id::psetup::UDNLEFT).text(), "1.0");
-    EXPECT_FALSE(setup.control(id::psetup::BTNOK).enabled());
-    setup.control(id::psetup::UDNLEFT).setText("1.5");
-    setup.control(id::psetup::BTNOK).send(BM_CLICK);
+    EXPECT_EQ(setup.control(pagesetup::id::CBOPRINTERS).send(CB_GETCOUNT), 0);
+    EXPECT_EQ(setup.control(pagesetup::id::UDNLEFT).text(), "1.0");
+    EXPECT_FALSE(setup.control(pagesetup::id::BTNOK).enabled());
+    setup.control(pagesetup::id::UDNLEFT).setText("1.5");
+    setup.control(pagesetup::id::BTNOK).send(BM_CLICK);
   });
   EXPECT_EQ(test_support::ScratchRegistry::text(
                 registry.user(), "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items",

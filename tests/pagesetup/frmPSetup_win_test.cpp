@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "library/identifiers.h"
 #include "library/modLibrary_win.h"
+#include "pagesetup/frmPSetup_ids.h"
 #include "pagesetup/paper_table.h"
 #include "pagesetup/stored_options_win.h"
 #include "paper/printer_win.h"
@@ -26,8 +26,6 @@ using paper::Orientation;
 using paper::printer;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
-namespace id = library::id::psetup;
-
 constexpr Setting edges[] = {Setting::leftMargin, Setting::rightMargin, Setting::topMargin,
                              Setting::bottomMargin};
 constexpr int marginBoxes[] = {id::UDNLEFT, id::UDNRIGHT, id::UDNTOP, id::UDNBOTTOM};

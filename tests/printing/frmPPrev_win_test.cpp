@@ -4,9 +4,9 @@
 
 #include <functional>
 
-#include "library/identifiers.h"
 #include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
+#include "printing/frmPPrev_ids.h"
 #include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/recording_win.h"
@@ -26,8 +26,6 @@ using test_support::TestPrinters;
 using windowing::ComboBox;
 using windowing::screenPixels;
 using windowing::screenTwips;
-namespace id = library::id::preview;
-
 std::string lines(int last) {
   std::string text;
   for (int line = 1; line <= last; ++line) text += "Line " + std::to_string(line) + "\r\n";

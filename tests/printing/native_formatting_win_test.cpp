@@ -7,8 +7,8 @@
 #include <sstream>
 #include <vector>
 
+#include "dialogs/frmProps_ids.h"
 #include "dialogs/frmProps_win.h"
-#include "library/identifiers.h"
 #include "library/modLibrary_win.h"
 #include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
@@ -77,8 +77,8 @@ class NativePages : public testing::Test {
     report.setPlain(text);
     properties.setDocumentText([&] { return report.text(); });
     properties.UPDATEINFO();
-    pages.figures = properties.control(library::id::props::TXTDOCPAGES).text() + " of " +
-                    properties.control(library::id::props::TXTDOCLINES).text();
+    pages.figures = properties.control(dialogs::props_id::TXTDOCPAGES).text() + " of " +
+                    properties.control(dialogs::props_id::TXTDOCLINES).text();
 
     pages.ranges = rangesOf(report);
     engine_.INITIALIZEPATH(thePreview(), report);

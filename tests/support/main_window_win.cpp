@@ -2,11 +2,11 @@
 
 #include <commctrl.h>
 
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 
 namespace test_support {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 MainWindowTest::MainWindowTest() {
   windowing::Seams& seams = windowing::seams();

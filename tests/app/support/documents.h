@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 
 namespace drive {
 
@@ -19,7 +19,7 @@ constexpr std::size_t surname = 0, firstNames = 1, homeEmail = 13, homeWebsite =
 
 /// The box that shows each text of a contact.
 constexpr std::array<int, 28> boxOf = [] {
-  namespace id = library::id;
+  namespace id = mainwindow::id;
   std::array<int, 28> boxes{};
   std::size_t at = 0;
   for (int item = 0; item <= 12; ++item) boxes[at++] = id::textItem(item);

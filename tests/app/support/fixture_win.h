@@ -9,7 +9,6 @@
 #include <optional>
 #include <string>
 
-#include "library/identifiers.h"
 #include "tests/app/support/documents.h"
 #include "tests/app/support/program_win.h"
 #include "tests/support/scratch_folder_win.h"

@@ -6,7 +6,7 @@
 
 namespace drive {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 namespace drive {
 
-namespace id = library::id;
+namespace id = mainwindow::id;
 
 namespace {
 

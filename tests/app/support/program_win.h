@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "library/identifiers.h"
+#include "mainwindow/frmMain_ids.h"
 
 namespace drive {
 
@@ -74,12 +74,12 @@ class Program {
   LRESULT send(HWND to, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
   // The main window at a glance.
-  [[nodiscard]] std::string title() const { return text(library::id::LBLDESC); }
+  [[nodiscard]] std::string title() const { return text(mainwindow::id::LBLDESC); }
   [[nodiscard]] std::string status() const;
   [[nodiscard]] std::vector<std::string> names() const;
   [[nodiscard]] int chosenName() const;
   [[nodiscard]] bool buttonEnabled(int command) const;
-  [[nodiscard]] bool modified() const { return buttonEnabled(library::id::SAVE); }
+  [[nodiscard]] bool modified() const { return buttonEnabled(mainwindow::id::SAVE); }
   /// Identifier of the control with the focus, 0 for none.
   [[nodiscard]] int focus() const;
 
