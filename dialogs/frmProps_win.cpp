@@ -7,6 +7,7 @@
 #include "library/modLibrary_win.h"
 #include "library/path_utilities.h"
 #include "library/proper_case_win.h"
+#include "library/restore_place_win.h"
 #include "library/settings.h"
 #include "library/text_utilities.h"
 #include "paper/text_format.h"
@@ -69,11 +70,7 @@ void frmProps::onLoad() {
     SetWindowPos(frame, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
   control(id::TXTDOCUMENT).setFont(windowing::font(paper::documentTypeface, paper::documentPoints));
-  try {
-    LIBRARY().FORMLOAD(library::sharedPlace, *this, false);
-  } catch (const values::RuntimeError&) {
-    // A stored place that is none: the dialog stays where its design put it.
-  }
+  library::restorePlace(library::sharedPlace, *this, false);
   LIBRARY().RESIZEBTNCLOSE(*this);
   UPDATEINFO();
   setFirstFocus(TABPROPS());

@@ -7,6 +7,7 @@
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "library/resource_ids.h"
+#include "library/restore_place_win.h"
 #include "library/stored_settings_win.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/frmMain_design_win.h"
@@ -59,11 +60,7 @@ void frmMain::onLoad() {
 
   LIBRARY().COMBOINIT(windowing::handleText(CBOTBARBOX().handle()), "15", CBOTBARBOX(), true);
   ICONMENUS();
-  try {
-    LIBRARY().FORMLOAD(name(), *this, false);
-  } catch (const values::RuntimeError&) {
-    // A stored place that is none: the window stays where its design put it.
-  }
+  library::restorePlace(name(), *this, false);
   applyView();
   // The boxes are not greyed first only to be freed by the new document.
   SETSAVE("False");

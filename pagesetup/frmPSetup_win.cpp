@@ -4,8 +4,8 @@
 #include "controls/PANEL_win.h"
 #include "controls/TXTSEP_win.h"
 #include "library/clsLibrary_win.h"
+#include "library/restore_place_win.h"
 #include "pagesetup/frmPSetup_design_win.h"
-#include "values/runtime_error.h"
 #include "windowing/application_win.h"
 #include "windowing/container_win.h"
 #include "windowing/handle_text_win.h"
@@ -13,7 +13,6 @@
 namespace pagesetup {
 
 using library::LIBRARY;
-using values::ignoringErrors;
 
 namespace {
 
@@ -77,7 +76,7 @@ void frmPSetup::onLoad() {
     SetWindowPos(control(page).handle(), HWND_TOP, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   selectTab(tabs[0].key);
-  ignoringErrors([this] { LIBRARY().FORMLOAD(name(), *this, false); });
+  library::restorePlace(name(), *this, false);
   LIBRARY().RESIZEBTNSOKCANCEL(*this);
   loadPage();
   loadHeaderFooter();

@@ -4,11 +4,11 @@
 #include <algorithm>
 
 #include "library/clsLibrary_win.h"
+#include "library/restore_place_win.h"
 #include "library/stored_settings_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_design_win.h"
 #include "printing/preview_commands.h"
-#include "values/runtime_error.h"
 #include "windowing/handle_text_win.h"
 #include "windowing/screen_win.h"
 
@@ -119,11 +119,7 @@ void frmPPrev::setPaperSize(const std::string& text) {
 }
 
 void frmPPrev::restorePlace() {
-  try {
-    LIBRARY().FORMLOAD(library::sharedPlace, *this, true);
-  } catch (const values::RuntimeError&) {
-    // A stored place that is none: the window stays where its design put it.
-  }
+  library::restorePlace(library::sharedPlace, *this, true);
 }
 
 void frmPPrev::showPreview() {

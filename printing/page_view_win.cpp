@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "controls/drawing_win.h"
 #include "printing/frmPPrev_ids.h"
 #include "values/handles_win.h"
 #include "values/system_error_win.h"
@@ -15,6 +16,7 @@
 namespace printing {
 namespace {
 
+using controls::fill;
 using windowing::scaled;
 using windowing::screenPixels;
 using windowing::screenTwips;
@@ -57,11 +59,6 @@ COLORREF darker(COLORREF colour, int hundredths) {
     return static_cast<BYTE>(channel - channel * hundredths / 100);
   };
   return RGB(part(GetRValue(colour)), part(GetGValue(colour)), part(GetBValue(colour)));
-}
-
-void fill(HDC dc, const RECT& area, COLORREF colour) {
-  const values::BrushHandle brush(CreateSolidBrush(colour));
-  FillRect(dc, &area, brush.get());
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ TEST(Commands, AreDescribed) {
        {Commands(mainwindow::mainCommands), Commands(printing::previewCommands)}) {
     for (const Command& command : table) {
       const bool known = commandDescription(command.caption, {}).has_value();
-      EXPECT_TRUE(known || command.number < id::NEW) << command.caption;
+      EXPECT_TRUE(known || command.number < mainwindow::id::NEW) << command.caption;
     }
   }
 }
