@@ -74,27 +74,18 @@ constexpr ControlDesign separator(const char* name, int lineId, int top, int con
   return {name,       lineId,   controls::separatorKind, "", labelLeft, top, lineWidth,
           lineHeight, container};
 }
+constexpr int tickLeft(int index) {
+  return labelLeft + index * tickPitch;
+}
 constexpr ControlDesign tick(int index, const char* caption) {
-  return {"CHKATTR",
-          id::CHKATTR + index,
-          index == 0 ? tickKind : fixedTickKind,
-          caption,
-          labelLeft + index * tickPitch,
-          tickTop,
-          tickSize,
-          tickSize,
-          id::FRAMGENERAL};
+  const ControlKind& kind = index == 0 ? tickKind : fixedTickKind;
+  return {"CHKATTR", id::CHKATTR + index, kind, caption, tickLeft(index), tickTop, tickSize,
+          tickSize,  id::FRAMGENERAL};
 }
 constexpr ControlDesign tickLabel(int index, const char* name, const char* caption) {
-  return {name,
-          id::LBLREAD + index,
-          tickLabelKind,
-          caption,
-          labelLeft + index * tickPitch + tickSize + 45,
-          tickTop - 15,
-          tickLabelWidth,
-          tickSize + 30,
-          id::FRAMGENERAL};
+  const int left = tickLeft(index) + tickSize + 45;
+  return {name,         id::LBLREAD + index, tickLabelKind, caption,        left,
+          tickTop - 15, tickLabelWidth,      tickSize + 30, id::FRAMGENERAL};
 }
 
 // clang-format off

@@ -57,76 +57,26 @@ constexpr int none = -1;
 constexpr int threeFields = groupTop + 3 * fieldPitch + 30;
 constexpr int extrasTop = 2 * margin + threeFields - 45;
 
+constexpr int sideHeight = framesHeight - 75 - margin;  ///< of the groups of an address
+
+// clang-format off
 constexpr std::array<Group, 7> groups{{
-    {"FRAMPERSONAL",
-     id::FRAMPERSONAL,
-     id::FRAMGENERAL,
-     "Personal",
-     margin,
-     75,
-     columnWidth,
-     threeFields,
-     {slotOf(Slot::FirstNames), slotOf(Slot::Surname), slotOf(Slot::DateOfBirth), none, none,
-      none}},
-    {"FRAMJOB",
-     id::FRAMJOB,
-     id::FRAMGENERAL,
-     "General",
-     column2,
-     75,
-     columnWidth,
-     threeFields,
-     {slotOf(Slot::JobTitle), slotOf(Slot::MobilePhone), slotOf(Slot::Pager), none, none, none}},
-    {"FRAMEXTRAS",
-     id::FRAMEXTRAS,
-     id::FRAMGENERAL,
-     "Extras",
-     margin,
-     extrasTop,
-     framesWidth - 2 * margin,
-     framesHeight - margin - extrasTop,
-     {slotOf(Slot::Other1), slotOf(Slot::Other2), none, none, none, none}},
-    {"FRAMHOMEADDRESS",
-     id::FRAMHOMEADDRESS,
-     id::FRAMADDRESS,
-     "Address",
-     margin,
-     75,
-     columnWidth,
-     framesHeight - 75 - margin,
-     {slotOf(Slot::HomeAddress1), slotOf(Slot::HomeAddress2), slotOf(Slot::HomeCity),
-      slotOf(Slot::HomeCountry), slotOf(Slot::HomePostcode), none}},
-    {"FRAMHOMECONTACT",
-     id::FRAMHOMECONTACT,
-     id::FRAMADDRESS,
-     "Contact by",
-     column2,
-     75,
-     columnWidth,
-     framesHeight - 75 - margin,
-     {slotOf(Slot::HomePhone), slotOf(Slot::HomeFax), slotOf(Slot::HomeEmail),
-      slotOf(Slot::HomeWebsite), none, none}},
-    {"FRAMWORKADDRESS",
-     id::FRAMWORKADDRESS,
-     id::FRAMADDRESSWORK,
-     "Address",
-     margin,
-     75,
-     columnWidth,
-     framesHeight - 75 - margin,
-     {slotOf(Slot::Company), slotOf(Slot::WorkAddress1), slotOf(Slot::WorkAddress2),
-      slotOf(Slot::WorkCity), slotOf(Slot::WorkCountry), slotOf(Slot::WorkPostcode)}},
-    {"FRAMWORKCONTACT",
-     id::FRAMWORKCONTACT,
-     id::FRAMADDRESSWORK,
-     "Contact by",
-     column2,
-     75,
-     columnWidth,
-     framesHeight - 75 - margin,
-     {slotOf(Slot::WorkPhone), slotOf(Slot::WorkFax), slotOf(Slot::WorkEmail),
-      slotOf(Slot::WorkWebsite), none, none}},
+  {"FRAMPERSONAL", id::FRAMPERSONAL, id::FRAMGENERAL, "Personal", margin, 75, columnWidth, threeFields,
+   {slotOf(Slot::FirstNames), slotOf(Slot::Surname), slotOf(Slot::DateOfBirth), none, none, none}},
+  {"FRAMJOB", id::FRAMJOB, id::FRAMGENERAL, "General", column2, 75, columnWidth, threeFields,
+   {slotOf(Slot::JobTitle), slotOf(Slot::MobilePhone), slotOf(Slot::Pager), none, none, none}},
+  {"FRAMEXTRAS", id::FRAMEXTRAS, id::FRAMGENERAL, "Extras", margin, extrasTop, framesWidth - 2 * margin, framesHeight - margin - extrasTop,
+   {slotOf(Slot::Other1), slotOf(Slot::Other2), none, none, none, none}},
+  {"FRAMHOMEADDRESS", id::FRAMHOMEADDRESS, id::FRAMADDRESS, "Address", margin, 75, columnWidth, sideHeight,
+   {slotOf(Slot::HomeAddress1), slotOf(Slot::HomeAddress2), slotOf(Slot::HomeCity), slotOf(Slot::HomeCountry), slotOf(Slot::HomePostcode), none}},
+  {"FRAMHOMECONTACT", id::FRAMHOMECONTACT, id::FRAMADDRESS, "Contact by", column2, 75, columnWidth, sideHeight,
+   {slotOf(Slot::HomePhone), slotOf(Slot::HomeFax), slotOf(Slot::HomeEmail), slotOf(Slot::HomeWebsite), none, none}},
+  {"FRAMWORKADDRESS", id::FRAMWORKADDRESS, id::FRAMADDRESSWORK, "Address", margin, 75, columnWidth, sideHeight,
+   {slotOf(Slot::Company), slotOf(Slot::WorkAddress1), slotOf(Slot::WorkAddress2), slotOf(Slot::WorkCity), slotOf(Slot::WorkCountry), slotOf(Slot::WorkPostcode)}},
+  {"FRAMWORKCONTACT", id::FRAMWORKCONTACT, id::FRAMADDRESSWORK, "Contact by", column2, 75, columnWidth, sideHeight,
+   {slotOf(Slot::WorkPhone), slotOf(Slot::WorkFax), slotOf(Slot::WorkEmail), slotOf(Slot::WorkWebsite), none, none}},
 }};
+// clang-format on
 
 // The comments box takes the right of the Extras group.
 constexpr int commentsLeft = column2 + groupSide;
@@ -160,16 +110,11 @@ constexpr ControlKind boxKind(const document::Field& field) {
   return field.slot == Slot::Comments ? kind::multilineBox : kind::textBox;
 }
 
+constexpr int frameLeft = bodyMargin + framesInset;
+constexpr int frameTop = bodyMargin + framesTop;
 constexpr ControlDesign frame(const char* name, int frameId) {
-  return {name,
-          frameId,
-          kind::page,
-          "",
-          bodyMargin + framesInset,
-          bodyMargin + framesTop,
-          framesWidth,
-          framesHeight,
-          id::PICMAINBOX};
+  return {name,        frameId,      kind::page,    "", frameLeft, frameTop,
+          framesWidth, framesHeight, id::PICMAINBOX};
 }
 
 /// The pages in the order of their tabs.

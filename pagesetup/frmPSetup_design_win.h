@@ -111,28 +111,24 @@ constexpr ControlDesign group(const char* name, int groupId, const char* caption
   return {name,       groupId,     kind::group,         caption, edge, top,
           innerWidth, groupHeight, id::FRAMHEADERFOOTER};
 }
-constexpr ControlDesign master(const char* name, int boxId, const char* caption, int groupTop) {
+constexpr ControlDesign check(const char* name, int boxId, const char* caption, int left, int top) {
   return {name,
           boxId,
           kind::checkBox,
           caption,
-          edge + groupInset,
-          groupTop + masterDrop,
+          left,
+          top,
           itemPitch - gap,
           checkHeight,
           id::FRAMHEADERFOOTER};
 }
+constexpr ControlDesign master(const char* name, int boxId, const char* caption, int groupTop) {
+  return check(name, boxId, caption, edge + groupInset, groupTop + masterDrop);
+}
 constexpr ControlDesign item(const char* name, int boxId, const char* caption, int groupTop,
                              int place) {
-  return {name,
-          boxId,
-          kind::checkBox,
-          caption,
-          edge + groupInset + itemIndent + place * itemPitch,
-          groupTop + itemsDrop,
-          itemPitch - gap,
-          checkHeight,
-          id::FRAMHEADERFOOTER};
+  const int left = edge + groupInset + itemIndent + place * itemPitch;
+  return check(name, boxId, caption, left, groupTop + itemsDrop);
 }
 constexpr ControlDesign strip(const char* name, int stripId, int groupTop) {
   return {name,       stripId,           kind::container,
