@@ -1,11 +1,12 @@
 #!/bin/bash
 # Builds everything and runs every test, on a fresh Debian 12 too: test.sh [--quick]
 #
-#   --quick   the native tests only, without Wine and fuzzing
+#   --quick   the native tests only, without Wine, fuzzing and clang-tidy
 #
 # The last line is "N passed, N failed": single test cases and fuzz targets; what cannot be built
 # counts as one failure. The exit code is
-# zero only if all was built, something ran, nothing failed and the sources are in format.
+# zero only if all was built, something ran, nothing failed, the sources are in format and
+# clang-tidy has no findings.
 set -uo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$root" || exit 1
@@ -97,6 +98,13 @@ check_format() {
     trouble "some sources are not in format (clang-format -i puts them right)"
 }
 
+check_lint() {
+  say "reading the sources with clang-tidy"
+  tools/lint.sh >"$results/lint.log" 2>&1 && return
+  tail -n 60 "$results/lint.log"
+  trouble "clang-tidy has findings (build/results/lint.log)"
+}
+
 tools/setup.sh test || {
   trouble "the machine could not be set up"
   finish
@@ -127,5 +135,6 @@ if [[ $quick == no ]]; then
   if [[ ${#targets[@]} -gt 0 ]] && build fuzz "${targets[@]}"; then
     run_tests fuzz -L fuzz
   fi
+  check_lint
 fi
 finish

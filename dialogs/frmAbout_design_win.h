@@ -11,7 +11,6 @@ namespace dialogs::about_design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
-namespace id = dialogs::about_id;
 
 constexpr int formWidth = 6600;
 constexpr int formHeight = 5175;
@@ -35,27 +34,27 @@ constexpr ControlKind pointerKind{"STATIC", SS_ICON};
 
 // clang-format off
 constexpr ControlDesign controls[] = {
-  {"FRAMTITLE",      id::FRAMTITLE,      kind::container,  "", 0, 0, formWidth, titleHeight},
-  {"LBLPROGRAMNAME", id::LBLPROGRAMNAME, kind::plainLabel, "Title", margin, 330, 2850, 600, id::FRAMTITLE},
-  {"IMGLOGO",        id::IMGLOGO,        logoKind,     "", formWidth - logoWidth - 150, 150, logoWidth, logoHeight, id::FRAMTITLE},
-  {"IMGCURSOR",      id::IMGCURSOR,      pointerKind,     "", 0, 0, 480, 480, id::FRAMTITLE},
-  {"LNTITLE1",       id::LNTITLE1,       kind::label,      "", 0, titleHeight, formWidth, line},
-  {"LNTITLE2",       id::LNTITLE2,       kind::label,      "", 0, titleHeight + line, formWidth, line},
-  {"LBLVERS",        id::LBLVERS,        kind::label,      "Version:", margin, 1425, valueLeft - margin, lineHeight},
-  {"LBLVERSNO",      id::LBLVERSNO,      kind::plainLabel, "Number", valueLeft, 1425, valueWidth, lineHeight},
-  {"LBLREGISTERED",  id::LBLREGISTERED,  kind::label,      "Registered to:", margin, 1680, valueLeft - margin, lineHeight},
-  {"LBLREGNAME",     id::LBLREGNAME,     kind::plainLabel, "Name", valueLeft, 1680, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
-  {"LBLREGCO",       id::LBLREGCO,       kind::plainLabel, "Company", valueLeft, 1905, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
-  {"LBLWRITTEN",     id::LBLWRITTEN,     kind::plainLabel, "Written By", margin, 2220, textWidth, lineHeight},
-  {"LBLCOPYRIGHT",   id::LBLCOPYRIGHT,   kind::plainLabel, "Copyright", margin, 2445, textWidth, lineHeight},
-  {"LBLTHANKS",      id::LBLTHANKS,      kind::plainLabel,
+  {"FRAMTITLE",      about_id::FRAMTITLE,      kind::container,  "", 0, 0, formWidth, titleHeight},
+  {"LBLPROGRAMNAME", about_id::LBLPROGRAMNAME, kind::plainLabel, "Title", margin, 330, 2850, 600, about_id::FRAMTITLE},
+  {"IMGLOGO",        about_id::IMGLOGO,        logoKind,     "", formWidth - logoWidth - 150, 150, logoWidth, logoHeight, about_id::FRAMTITLE},
+  {"IMGCURSOR",      about_id::IMGCURSOR,      pointerKind,     "", 0, 0, 480, 480, about_id::FRAMTITLE},
+  {"LNTITLE1",       about_id::LNTITLE1,       kind::label,      "", 0, titleHeight, formWidth, line},
+  {"LNTITLE2",       about_id::LNTITLE2,       kind::label,      "", 0, titleHeight + line, formWidth, line},
+  {"LBLVERS",        about_id::LBLVERS,        kind::label,      "Version:", margin, 1425, valueLeft - margin, lineHeight},
+  {"LBLVERSNO",      about_id::LBLVERSNO,      kind::plainLabel, "Number", valueLeft, 1425, valueWidth, lineHeight},
+  {"LBLREGISTERED",  about_id::LBLREGISTERED,  kind::label,      "Registered to:", margin, 1680, valueLeft - margin, lineHeight},
+  {"LBLREGNAME",     about_id::LBLREGNAME,     kind::plainLabel, "Name", valueLeft, 1680, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
+  {"LBLREGCO",       about_id::LBLREGCO,       kind::plainLabel, "Company", valueLeft, 1905, valueWidth, lineHeight, 0, SS_ENDELLIPSIS},
+  {"LBLWRITTEN",     about_id::LBLWRITTEN,     kind::plainLabel, "Written By", margin, 2220, textWidth, lineHeight},
+  {"LBLCOPYRIGHT",   about_id::LBLCOPYRIGHT,   kind::plainLabel, "Copyright", margin, 2445, textWidth, lineHeight},
+  {"LBLTHANKS",      about_id::LBLTHANKS,      kind::plainLabel,
    "This program contains the runtime library of the GNU C++ compiler, written by the Free Software "
    "Foundation and its contributors and used under the GCC Runtime Library Exception, and start-up "
    "code of the MinGW-w64 project.",
    margin, 2775, textWidth, thanksHeight},
-  {"LBLWARNING",     id::LBLWARNING,     kind::plainLabel, "", margin, 3510, textWidth, warningHeight},
-  {"TSEP2",          id::TSEP2,          controls::separatorKind,     "", 135, 4545, formWidth - 270, 2 * line},
-  {"BTNCLOSE",       id::BTNCLOSE,       kind::defaultButton, "&Close", formWidth - 135 - buttonWidth, 4665, buttonWidth, buttonHeight},
+  {"LBLWARNING",     about_id::LBLWARNING,     kind::plainLabel, "", margin, 3510, textWidth, warningHeight},
+  {"TSEP2",          about_id::TSEP2,          controls::separatorKind,     "", 135, 4545, formWidth - 270, 2 * line},
+  {"BTNCLOSE",       about_id::BTNCLOSE,       kind::defaultButton, "&Close", formWidth - 135 - buttonWidth, 4665, buttonWidth, buttonHeight},
 };
 // clang-format on
 

@@ -16,7 +16,6 @@
 namespace dialogs {
 
 using library::LIBRARY;
-namespace id = dialogs::about_id;
 
 namespace {
 
@@ -61,32 +60,33 @@ void centreOnScreen(windowing::Form& form) {
 frmAbout::frmAbout() : Form(about_design::form) {}
 
 void frmAbout::onLoad() {
-  windowing::setSurface(control(id::FRAMTITLE).handle(), windowing::Surface::window);
-  control(id::LBLPROGRAMNAME).setFont(windowing::font("Times New Roman", 24, true));
+  windowing::setSurface(control(about_id::FRAMTITLE).handle(), windowing::Surface::window);
+  control(about_id::LBLPROGRAMNAME).setFont(windowing::font("Times New Roman", 24, true));
   centreOnScreen(*this);
-  setFirstFocus(control(id::BTNCLOSE));
+  setFirstFocus(control(about_id::BTNCLOSE));
 
-  control(id::LBLPROGRAMNAME).setText(upperCase(windowing::productName()));
-  control(id::LBLVERSNO).setText(LIBRARY().GETAPPNUMBER());
-  control(id::LBLREGNAME).setText(LIBRARY().GETCOMPANYNAME());
-  control(id::LBLREGCO).setText(LIBRARY().GETCOMPANYREG());
-  control(id::LBLCOPYRIGHT).setText(windowing::legalCopyright());
-  control(id::LBLWRITTEN).setText("Written and Developed by " + windowing::companyName());
+  control(about_id::LBLPROGRAMNAME).setText(upperCase(windowing::productName()));
+  control(about_id::LBLVERSNO).setText(LIBRARY().GETAPPNUMBER());
+  control(about_id::LBLREGNAME).setText(LIBRARY().GETCOMPANYNAME());
+  control(about_id::LBLREGCO).setText(LIBRARY().GETCOMPANYREG());
+  control(about_id::LBLCOPYRIGHT).setText(windowing::legalCopyright());
+  control(about_id::LBLWRITTEN).setText("Written and Developed by " + windowing::companyName());
   logoPointer_ = LoadCursorA(nullptr, IDC_HAND);
-  control(id::IMGCURSOR).send(STM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(logoPointer_));
-  control(id::LBLWARNING).setText(warning);
+  control(about_id::IMGCURSOR)
+      .send(STM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(logoPointer_));
+  control(about_id::LBLWARNING).setText(warning);
 }
 
 void frmAbout::onClick(int clicked) {
-  if (clicked == id::BTNCLOSE) unload();
-  if (clicked == id::IMGLOGO)
+  if (clicked == about_id::BTNCLOSE) unload();
+  if (clicked == about_id::IMGLOGO)
     LIBRARY().INTERNETACCESS(windowing::handleText(handle()), "", library::makerSite);
 }
 
 // The two lines below the title make one edge: dark above light.
 HBRUSH frmAbout::onColour(HDC, int asked) {
-  if (asked == id::LNTITLE1) return GetSysColorBrush(COLOR_BTNSHADOW);
-  if (asked == id::LNTITLE2) return GetSysColorBrush(COLOR_BTNHIGHLIGHT);
+  if (asked == about_id::LNTITLE1) return GetSysColorBrush(COLOR_BTNSHADOW);
+  if (asked == about_id::LNTITLE2) return GetSysColorBrush(COLOR_BTNHIGHLIGHT);
   return nullptr;
 }
 
@@ -108,11 +108,11 @@ LRESULT frmAbout::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-      if (item.CtlID == id::IMGLOGO) drawLogo(item.hDC, item.rcItem);
+      if (item.CtlID == about_id::IMGLOGO) drawLogo(item.hDC, item.rcItem);
       return TRUE;
     }
     case WM_SETCURSOR:
-      if (reinterpret_cast<HWND>(wParam) != control(id::IMGLOGO).handle()) break;
+      if (reinterpret_cast<HWND>(wParam) != control(about_id::IMGLOGO).handle()) break;
       SetCursor(logoPointer_);
       return TRUE;
     default:

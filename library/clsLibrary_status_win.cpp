@@ -22,7 +22,7 @@ void clsLibrary::STATUSBARCAPTION(windowing::Form& SBFORM, const std::string& ST
   bar.setPanel(complete ? STATUSTEXT : STATUSTEXT + ".");
 }
 
-void clsLibrary::SYSTEMMENUDESC(windowing::Form& SBFORM, std::uint32_t CODE) {
+void clsLibrary::describeSystemCommand(windowing::Form& SBFORM, std::uint32_t CODE) {
   STATUSBARCAPTION(SBFORM, systemCommandDescription(CODE), false);
 }
 

@@ -96,7 +96,7 @@ class clsLibrary {
   void GETTBARDESCRIPTIONS(CommandForm& FORM, const std::string& BUTTONKEY,
                            const std::string& NOUN);
   /// Describes a command of the system menu; any other code clears the text.
-  void SYSTEMMENUDESC(windowing::Form& SBFORM, std::uint32_t CODE);
+  void describeSystemCommand(windowing::Form& SBFORM, std::uint32_t CODE);
   /// Whether the pointer lies in a rectangle of the form's client area, in pixels; right and bottom
   /// edge lie outside.
   bool MOUSEMOVE(windowing::Form& FORM, int CONTROLLEFT, int CONTROLRIGHT, int CONTROLTOP,

@@ -50,7 +50,7 @@ CommandForm::CommandForm(const windowing::FormDesign& design, const CommandDesig
     : Form(design), commands_(commands), IMGLST(imageStrips) {
   ICOMNU.onHighlight = [this](int number) { describeItem(number); };
   ICOMNU.onSystemHighlight = [this](std::uint32_t code) {
-    LIBRARY().SYSTEMMENUDESC(*this, code);
+    LIBRARY().describeSystemCommand(*this, code);
     described_ = SBMAIN().panel();
   };
 }

@@ -2,7 +2,9 @@
 # Runs clang-tidy over the project's own sources in both lanes: lint.sh [FILE ...]
 #
 # Files that know nothing of Windows are read as the host lane compiles them, the others as the
-# product lane does. With names given, only those files are read.
+# product lane does. With names given, only those files are read. The files of a folder are read
+# as one, for most of the time goes into the system's headers; where they do not go together (two
+# give a name different meanings), each is read alone.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -21,49 +23,67 @@ done
 
 tools/setup.sh test
 tidy=$(command -v clang-tidy-14 || command -v clang-tidy) || fail "clang-tidy is missing"
-mkdir -p build
-for preset in host product; do
-  cmake --preset "$preset" >"build/lint-$preset.log" 2>&1 </dev/null ||
-    fail "$preset could not be configured (build/lint-$preset.log)"
-done
-
-# Prints the files that a lane compiles, this project's only.
-compiled() {
-  sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "build/$1/compile_commands.json" |
-    grep "^$root/" | grep -v "^$root/build" | sort -u
-}
-# Keeps the wanted ones of the names read.
-only_wanted() {
-  if [[ ${#wanted[@]} -eq 0 ]]; then
-    cat
-  else
-    grep -xF -f <(printf '%s\n' "${wanted[@]}") || true
-  fi
-}
-
 # clang has to be told where the cross compiler keeps its C++ headers.
 headers=$(echo /usr/lib/gcc/i686-w64-mingw32/*-posix/include/c++)
 [[ -d $headers ]] || fail "the cross compiler's C++ headers were not found ($headers)"
+work=$root/build/lint
+rm -rf "$work"
+mkdir -p "$work"
 
-bad=0
-windows_names='_(win|win_test|app_test)\.cpp$|/tests/app/'
-# lint LANE FILES [clang-tidy option ...]
-lint() {
-  local lane=$1 files=$2
-  shift 2
-  [[ -n $files ]] || return 0
-  echo "lint: $(echo "$files" | wc -l) files of the $lane lane"
-  echo "$files" | tr '\n' '\0' |
-    xargs -0 -n 1 -P "$(nproc)" "$tidy" --quiet -p "build/$lane" "$@" 2>"build/lint-$lane.log" || bad=1
-  # The counts of suppressed warnings are of no interest, anything else is.
-  grep -vE 'warnings? (generated|treated as errors)|^Suppressed|^Use -header-filter' "build/lint-$lane.log" >&2 || true
+# Prints "FOLDER<tab>FILE<tab>OPTIONS" for the files of a lane, this project's only.
+files_of() {
+  cmake --preset "$1" >"$work/$1.log" 2>&1 </dev/null ||
+    fail "$1 could not be configured (build/lint/$1.log)"
+  sed -n 's/^ *"\(command\|file\)": "\(.*\)",\{0,1\}$/\2/p' "build/$1/compile_commands.json" |
+    paste - - | awk -F '\t' -v OFS='\t' -v root="$root/" -v lane="$1" '
+      index($2, root) != 1 || index($2, root "build") == 1 || $2 !~ /\.cpp$/ || seen[$2]++ { next }
+      ($2 ~ /_(win|win_test|app_test)\.cpp$|\/tests\/app\//) == (lane == "product") {
+        folder = substr($2, length(root) + 1)
+        sub(/\/[^\/]*$/, "", folder)
+        gsub(/^[^ ]+| -o [^ ]+| -c [^ ]+/, "", $1)
+        print folder, $2, $1
+      }'
 }
 
-lint host "$(compiled host | grep -vE "$windows_names" | only_wanted)"
-# The Windows headers paste a lower-case "l" to their constants, so that check has no say there.
-lint product "$(compiled product | grep -E "$windows_names" | only_wanted)" \
-  --checks=-cert-dcl16-c --extra-arg-before=--target=i686-w64-mingw32 \
-  "--extra-arg=-isystem$headers" "--extra-arg=-isystem$headers/i686-w64-mingw32"
+# lint LANE NAME OPTIONS FILE ...: reads the files as one; prints findings.
+lint() {
+  local lane=$1 name=$2 options=$3 checks=() one=$work/$1-$2.cpp log=$work/$1-$2.log file bad=0
+  shift 3
+  printf '#include "%s"  // NOLINT\n' "$@" >"$one"
+  if [[ $lane == product ]]; then
+    options+=" --target=i686-w64-mingw32 -isystem$headers -isystem$headers/i686-w64-mingw32"
+    # The Windows headers paste a lower-case "l" to their constants, so that check has no say there.
+    checks=(--checks=-cert-dcl16-c)
+  fi
+  # shellcheck disable=SC2086
+  if "$tidy" --quiet "--header-filter=^$root/" "${checks[@]}" "$one" -- $options \
+    -Xclang -analyzer-opt-analyze-headers >"$log" 2>"$log.err" </dev/null; then return 0; fi
+  if [[ $# -eq 1 ]] || ! grep -q 'clang-diagnostic-error' "$log"; then
+    cat "$log"
+    return 1
+  fi
+  for file in "$@"; do
+    lint "$lane" "$name-$(basename "$file" .cpp)" "$options" "$file" || bad=1
+  done
+  return $bad
+}
+
+bad=0 count=0
+for lane in product host; do
+  files_of "$lane" >"$work/$lane"
+  while read -r folder; do
+    sources=() options=
+    while IFS=$'\t' read -r file flags; do
+      sources+=("$file") options=$flags
+    done < <(awk -F '\t' -v OFS='\t' -v folder="$folder" '$1 == folder { print $2, $3 }' "$work/$lane" |
+      if [[ ${#wanted[@]} -eq 0 ]]; then cat; else grep -F -f <(printf '%s\t\n' "${wanted[@]}") || true; fi)
+    [[ ${#sources[@]} -gt 0 ]] || continue
+    count=$((count + ${#sources[@]}))
+    [[ $(jobs -rp | wc -l) -lt $(nproc) ]] || wait -n || bad=1
+    lint "$lane" "${folder//\//-}" "$options" "${sources[@]}" &
+  done < <(cut -f 1 "$work/$lane" | sort | uniq -c | sort -rn | awk '{ print $2 }') # the longest first
+done
+while [[ -n $(jobs -p) ]]; do wait -n || bad=1; done
 
 [[ $bad -eq 0 ]] || fail "there are findings"
-echo "lint: no findings"
+echo "lint: no findings in $count files"

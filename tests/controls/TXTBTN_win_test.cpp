@@ -11,12 +11,12 @@ using controls::test::ControlForm;
 
 namespace {
 
-constexpr windowing::ImageStrip strips[] = {{16, IDB_TOOLBAR16}};
+constexpr windowing::ImageStrip buttonStrips[] = {{16, IDB_TOOLBAR16}};
 constexpr LPARAM repeated = 1 | (1 << 30);
 
 class TxtBtn : public ::testing::Test {
  protected:
-  windowing::ImageList images{strips};
+  windowing::ImageList images{buttonStrips};
   ControlForm form{linkBoxKind};
   TXTBTN box{form.tested()};
 

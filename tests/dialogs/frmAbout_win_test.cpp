@@ -16,7 +16,6 @@ namespace dialogs {
 namespace {
 
 using test_support::ScratchRegistry;
-namespace id = dialogs::about_id;
 
 constexpr char windowsKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
 
@@ -33,25 +32,25 @@ TEST_F(AboutBox, NamesTheOwnersOfTheirOwnPlacesWithoutAccessKeys) {
   ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOrganization", "Machine");
   ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOwner", "User");
   form_.load();
-  EXPECT_EQ(text(id::LBLREGNAME) + text(id::LBLREGCO), "");
+  EXPECT_EQ(text(about_id::LBLREGNAME) + text(about_id::LBLREGCO), "");
   form_.unload();
   ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOwner", "Mill & Sons");
   ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOrganization", "A && B");
   form_.load();
-  EXPECT_EQ(text(id::LBLPROGRAMNAME), "TELLARY");
-  EXPECT_EQ(text(id::LBLVERSNO), "5.3");
-  EXPECT_EQ(text(id::LBLWRITTEN), "Written and Developed by " + windowing::companyName());
-  EXPECT_EQ(text(id::LBLCOPYRIGHT), windowing::legalCopyright());
-  EXPECT_EQ(text(id::LBLREGNAME), "Mill & Sons");
-  EXPECT_EQ(text(id::LBLREGCO), "A && B");
-  for (const int control : {id::LBLREGNAME, id::LBLREGCO})
+  EXPECT_EQ(text(about_id::LBLPROGRAMNAME), "TELLARY");
+  EXPECT_EQ(text(about_id::LBLVERSNO), "5.3");
+  EXPECT_EQ(text(about_id::LBLWRITTEN), "Written and Developed by " + windowing::companyName());
+  EXPECT_EQ(text(about_id::LBLCOPYRIGHT), windowing::legalCopyright());
+  EXPECT_EQ(text(about_id::LBLREGNAME), "Mill & Sons");
+  EXPECT_EQ(text(about_id::LBLREGCO), "A && B");
+  for (const int control : {about_id::LBLREGNAME, about_id::LBLREGCO})
     EXPECT_TRUE(GetWindowLongA(form_.control(control).handle(), GWL_STYLE) & SS_NOPREFIX);
 }
 
 TEST_F(AboutBox, ShowsEveryTextWhole) {
   form_.load();
   const values::WindowDc dc(form_.handle());
-  for (int control = id::FRAMTITLE; control <= id::BTNCLOSE; ++control) {
+  for (int control = about_id::FRAMTITLE; control <= about_id::BTNCLOSE; ++control) {
     const windowing::Control label = form_.control(control);
     const auto font = reinterpret_cast<HFONT>(label.send(WM_GETFONT));
     const std::string shown = label.text();
@@ -82,9 +81,9 @@ TEST_F(AboutBox, LogoOpensTheMakersSite) {
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     return GetCursor();
   };
-  EXPECT_EQ(pointerOver(id::IMGLOGO), LoadCursorA(nullptr, IDC_HAND));
-  EXPECT_EQ(pointerOver(id::FRAMTITLE), LoadCursorA(nullptr, IDC_ARROW));
-  const HWND logo = form_.control(id::IMGLOGO).handle();
+  EXPECT_EQ(pointerOver(about_id::IMGLOGO), LoadCursorA(nullptr, IDC_HAND));
+  EXPECT_EQ(pointerOver(about_id::FRAMTITLE), LoadCursorA(nullptr, IDC_ARROW));
+  const HWND logo = form_.control(about_id::IMGLOGO).handle();
   for (const bool takesInput : {true, false}) {
     EnableWindow(form_.handle(), takesInput);
     SendMessageA(logo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
@@ -106,7 +105,7 @@ TEST_F(AboutBox, OpensInTheMiddleAndClosesByButtonEnterAndEscape) {
     OffsetRect(&place, 40, 40);
     form_.moveOuter(place);
     // Without an answer the box would stay for good.
-    PostMessageA(form_.control(id::BTNCLOSE).handle(), message, key, 0);
+    PostMessageA(form_.control(about_id::BTNCLOSE).handle(), message, key, 0);
     form_.showModal();
     EXPECT_FALSE(form_.loaded());
   }

@@ -26,7 +26,7 @@ TEST(StatusBar, CaptionsEndInOneFullStop) {
     LIBRARY().STATUSBARCAPTION(form, text, false);
     EXPECT_EQ(bar.panel(), expected);
   }
-  LIBRARY().SYSTEMMENUDESC(form, SC_MINIMIZE);
+  LIBRARY().describeSystemCommand(form, SC_MINIMIZE);
   EXPECT_EQ(bar.panel(), "Reduce the window to an icon.");
   PlainForm none("frmNone", std::span(test_support::plainFormControls).first(1));
   EXPECT_THROW(LIBRARY().STATUSBARCAPTION(none, "x", false), values::RuntimeError);

@@ -20,7 +20,6 @@ namespace pagesetup {
 namespace {
 
 using test_support::TestPrinters;
-namespace id = mainwindow::id;
 
 // What is done to the page setup once it is open; it is closed then.
 std::function<void(windowing::Form&)> onOpen;
@@ -59,7 +58,8 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
   const TestPrinters printers;
   paper::printer().select(TestPrinters::a4);
   paper::printer().select(TestPrinters::letter);
-  for (const auto& [command, tab] : {std::pair{id::PAGESETUP, 0}, {id::HEADERFOOTER, 1}}) {
+  for (const auto& [command, tab] :
+       {std::pair{mainwindow::id::PAGESETUP, 0}, {mainwindow::id::HEADERFOOTER, 1}}) {
     std::string whileLoading;
     HCURSOR pointer = nullptr;
     const windowing::Replaced watching(windowing::seams().settingsRoot,
@@ -88,7 +88,7 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
 
 TEST_F(PageSetupCommands, WithoutAPrinterTheUserIsToldAndTheMarginsCanBeSet) {
   ASSERT_TRUE(paper::printerNames().empty());
-  runAndLook(id::PAGESETUP, [](const windowing::Form& setup) {
+  runAndLook(mainwindow::id::PAGESETUP, [](const windowing::Form& setup) {
     EXPECT_EQ(setup.control(pagesetup::id::CBOPRINTERS).send(CB_GETCOUNT), 0);
     EXPECT_EQ(setup.control(pagesetup::id::UDNLEFT).text(), "1.0");
     EXPECT_FALSE(setup.control(pagesetup::id::BTNOK).enabled());

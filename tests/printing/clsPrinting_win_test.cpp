@@ -21,16 +21,11 @@ using library::Setting;
 using paper::printer;
 using paper::RichTextBox;
 using test_support::JobPage;
+using test_support::lines;
 using test_support::pagesOf;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 using windowing::Replaced;
-
-std::string lines(int last) {
-  std::string text;
-  for (int line = 1; line <= last; ++line) text += "Line " + std::to_string(line) + "\r\n";
-  return text;
-}
 
 // Texts of all pages but for the six of header and footer.
 std::size_t bodyLines(const std::vector<JobPage>& pages) {

@@ -21,17 +21,12 @@ namespace {
 using library::Setting;
 using paper::printer;
 using test_support::JobPage;
+using test_support::lines;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 using windowing::ComboBox;
 using windowing::screenPixels;
 using windowing::screenTwips;
-std::string lines(int last) {
-  std::string text;
-  for (int line = 1; line <= last; ++line) text += "Line " + std::to_string(line) + "\r\n";
-  return text;
-}
-
 // Runs once in the message loop that shows the preview, and closes the preview after it.
 std::function<void()> duringPreview;
 

@@ -9,7 +9,7 @@
 namespace test_support {
 namespace {
 
-NativeFormatting* current = nullptr;
+NativeFormatting* standIn = nullptr;
 WNDPROC standard = nullptr;
 
 // A break is one character, CR.
@@ -48,7 +48,7 @@ NativeFormatting::NativeFormatting(bool answers) : answers_(answers) {
   LoadLibraryA("riched20.dll");
   ofClass_ = CreateWindowExA(0, RICHEDIT_CLASSA, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr,
                              nullptr, nullptr);
-  current = this;
+  standIn = this;
   standard = reinterpret_cast<WNDPROC>(
       SetClassLongPtrA(ofClass_, GCLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
@@ -56,17 +56,17 @@ NativeFormatting::NativeFormatting(bool answers) : answers_(answers) {
 NativeFormatting::~NativeFormatting() {
   SetClassLongPtrA(ofClass_, GCLP_WNDPROC, reinterpret_cast<LONG_PTR>(standard));
   DestroyWindow(ofClass_);
-  current = nullptr;
+  standIn = nullptr;
 }
 
 LRESULT CALLBACK NativeFormatting::procedure(HWND control, UINT message, WPARAM wParam,
                                              LPARAM lParam) {
-  const bool asked = current != nullptr && current->answers_ && message == EM_FORMATRANGE;
-  if (current != nullptr && message == EM_GETTEXTEX) ++current->takenOver_;
+  const bool asked = standIn != nullptr && standIn->answers_ && message == EM_FORMATRANGE;
+  if (standIn != nullptr && message == EM_GETTEXTEX) ++standIn->takenOver_;
   if (!asked) return CallWindowProcA(standard, control, message, wParam, lParam);
   if (lParam != 0)
-    return current->format(control, *reinterpret_cast<FORMATRANGE*>(lParam), wParam != FALSE);
-  current->kept_.erase(control);
+    return standIn->format(control, *reinterpret_cast<FORMATRANGE*>(lParam), wParam != FALSE);
+  standIn->kept_.erase(control);
   return 0;
 }
 

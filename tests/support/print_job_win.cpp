@@ -71,4 +71,10 @@ std::vector<JobPage> pagesOf(const std::string& postScript) {
   return pages;
 }
 
+std::string lines(int last) {
+  std::string text;
+  for (int line = 1; line <= last; ++line) text += "Line " + std::to_string(line) + "\r\n";
+  return text;
+}
+
 }  // namespace test_support

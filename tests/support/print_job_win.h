@@ -6,6 +6,9 @@
 
 namespace test_support {
 
+/// The lines "Line 1" to "Line " and `last`.
+[[nodiscard]] std::string lines(int last);
+
 /// Characters drawn after one move; places are device pixels from the printable corner, y the
 /// base line.
 struct JobText {
