@@ -1,5 +1,5 @@
-// The program killed in the middle of saving a full document. TELLARY_KILLS is the number of
-// kills; a handful without it.
+// The program killed in the middle of saving a full document; run by hand, since it takes long and
+// is random. TELLARY_KILLS is the number of kills; a handful without it.
 #include <random>
 
 #include "tests/app/support/fixture_win.h"
@@ -10,7 +10,7 @@ using drive::boxOf;
 using drive::Program;
 namespace id = mainwindow::id;
 
-class KilledSave : public drive::AppTest {
+class DISABLED_KilledSave : public drive::AppTest {
  protected:
   /// The document with this surname in front. One of another length moves all that follows, so
   /// a mixture of two documents is neither of them.
@@ -24,7 +24,7 @@ class KilledSave : public drive::AppTest {
   const std::string file_ = folder_.file("full.tly", documentOf("old"));
 };
 
-TEST_F(KilledSave, LeavesTheWholeOldOrNewDocument) {
+TEST_F(DISABLED_KilledSave, LeavesTheWholeOldOrNewDocument) {
   // The time that a save takes.
   std::string before = "saved";
   start(file_).enter(boxOf[drive::surname], before);

@@ -81,14 +81,6 @@ TEST(Reader, ReplacesTheList) {
   EXPECT_EQ(list.count(), 0);
 }
 
-TEST(Reader, CountsWhateverFollowsTheLastContactAsABrokenOne) {
-  for (const std::string_view tail : {"\r\n"sv, " "sv, ","sv, "\x1A"sv, "\""sv, "\0"sv}) {
-    ContactList list;
-    EXPECT_EQ(read(lines(28).append(tail), list).result, ReadResult::inputPastEnd);
-    EXPECT_EQ(list.count(), 1);
-  }
-}
-
 TEST(Reader, CutAtEveryByte) {
   const std::string first = lines(28, "first ");
   const std::string both = first + lines(28, "second ");

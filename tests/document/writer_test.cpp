@@ -128,20 +128,5 @@ TEST(Writer, LargeTextsAndListsComeInPieces) {
   EXPECT_TRUE(written(list) == composed(list));
 }
 
-TEST(Writer, SamplesComeBackByteForByte) {
-  const struct {
-    const char* name;
-    int contacts;
-  } samples[] = {{"empty.tly", 0}, {"one.tly", 1}, {"friends.tly", 12}, {"thousand.tly", 1000}};
-  for (const auto& c : samples) {
-    SCOPED_TRACE(c.name);
-    const std::string text = sample(c.name);
-    ContactList list;
-    EXPECT_EQ(read(text, list).result, ReadResult::whole);
-    EXPECT_EQ(list.count(), c.contacts);
-    EXPECT_EQ(written(list), text);
-  }
-}
-
 }  // namespace
 }  // namespace document

@@ -81,27 +81,6 @@ TEST_F(Contacts, APageThatIsFirstShownTakesNothingWhereThereIsNoContact) {
   EXPECT_FALSE(form.control(id::CBOPWEBSITE).enabled());
 }
 
-TEST_F(Contacts, AWebAddressGetsItsSchemeWhenTheBoxIsLeft) {
-  open(contactsFile({"Ash"}));
-  const struct {
-    int box;
-    const char* typed;
-    const char* left;
-  } rows[] = {{id::CBOPWEBSITE, "www.x.example", "http://www.x.example"},
-              {id::CBOPWORKWEBSITE, "x", "http://x"},
-              {id::CBOPWEBSITE, "https://x.example", "https://x.example"},
-              {id::CBOPWEBSITE, "HTTP://X", "HTTP://X"},
-              {id::CBOPWEBSITE, "", ""},
-              {id::CBOPEMAIL, "ann", "ann"}};
-  for (const auto& [box, typed, left] : rows) {
-    type(box, typed);
-    form.SETSAVE("False");
-    notice(box, controls::TXTBTN::left);
-    EXPECT_EQ(text(box), left);
-    EXPECT_EQ(form.modified(), left != std::string(typed)) << typed;
-  }
-}
-
 TEST_F(Contacts, LinksAreNotOpenedBelowADialog) {
   open(contactsFile({"Ash"}));
   type(id::CBOPEMAIL, "ann");

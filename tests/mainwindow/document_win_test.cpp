@@ -31,27 +31,6 @@ TEST_F(Document, OpenAsksForDocumentsWhereTheLastOneWas) {
   EXPECT_EQ(text(id::textItem(0)), "Ash") << "a cancelled dialog changes nothing";
 }
 
-TEST_F(Document, NewAndOpenAskAboutUnsavedWorkAndObeyTheAnswer) {
-  const std::string path = contactsFile({"Ash"});
-  for (const int command : {id::NEW, id::OPEN}) {
-    for (const int answer : {IDCANCEL, IDNO, IDYES}) {
-      SCOPED_TRACE(std::to_string(command) + " answered " + std::to_string(answer));
-      boxes.clear();
-      open(path);
-      form.SETSAVE("TRUE");
-      answers.push_back(answer);
-      run(command);
-      ASSERT_EQ(boxes.size(), 1U);
-      EXPECT_EQ(boxes[0].text, "You have unsaved work, do you want to save first ?");
-      EXPECT_EQ(boxes[0].title, "New");
-      EXPECT_EQ(boxes[0].flags, 35U);
-      const bool stays = answer == IDCANCEL || command == id::OPEN;
-      EXPECT_EQ(form.documentPath(), stays ? path : "");
-      EXPECT_EQ(form.modified(), answer == IDCANCEL || (answer == IDNO && command == id::OPEN));
-    }
-  }
-}
-
 TEST_F(Document, WhoeverWantsToEndTheProgramWaitsForTheQuestionOnScreen) {
   open(contactsFile({"Ash"}));
   form.SETSAVE("TRUE");

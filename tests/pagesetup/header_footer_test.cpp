@@ -54,36 +54,6 @@ TEST(HeaderAndFooter, StandWhereTheFamilyPutsThem) {
             "1240,14600-10800|1740,14760 Ann Bee|7240,14760 Untitled|6035,14760 3|");
 }
 
-TEST(HeaderAndFooter, CentreByTheNumberOfCharacters) {
-  HeaderFooterOptions options;
-  options[Setting::header] = options[Setting::headerTitle] = "1";
-  options[Setting::footer] = options[Setting::footerPageNumber] = "1";
-  options[Setting::headerTitleText] = std::string(254, 'x');
-  Page page = letterPage();
-  page.number = "10";
-  EXPECT_EQ(drawn(options, page),
-            "-15070,740 " + options[Setting::headerTitleText] + "|5950,14760 10|");
-  // Bytes of two that are one character count once, and so does a first one that stands alone.
-  const std::pair<std::string, const char*> titles[] = {{"\x83\x5C\x95\x5C", "6350,740 "},
-                                                        {"a\x83\x5Cz\x83", "6180,740 "}};
-  for (const auto& [title, place] : titles) {
-    options[Setting::headerTitleText] = title;
-    EXPECT_EQ(drawn(options, page), place + title + "|5950,14760 10|");
-  }
-  page.surface = Surface::preview;
-  page.width = 12241;
-  page.number.clear();
-  EXPECT_EQ(headerAndFooter(options, page, isLeadByte).at(1).x, 6120.5) << "fractions are kept";
-}
-
-TEST(HeaderAndFooter, TakeTheMarginsCrossedAndUnclamped) {
-  Page page = letterPage();
-  page.margins = {0, 576, 2880, 1440};  // the bottom one is the page's right one, as handed over
-  EXPECT_EQ(drawn(defaults(), page),
-            "-200,276-10800|200,-124 05/02/2024|9740,-124 9:05:07|5245,-124 Tellary Report.|"
-            "-200,13160-10800|300,13320 Ann Bee|8240,13320 Untitled|6035,13320 3|");
-}
-
 TEST(HeaderAndFooter, SwitchesAreOnOnlyWhenExactlyOne) {
   for (const char* off : {"0", "2", "", "True", "01", " 1", "1.0"}) {
     HeaderFooterOptions options = defaults();

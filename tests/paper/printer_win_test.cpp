@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "paper/richtextbox_win.h"
+#include "tests/support/error_of.h"
 #include "tests/support/printers_win.h"
-#include "tests/support/recording_win.h"
 #include "values/runtime_error.h"
 
 namespace paper {
@@ -23,17 +22,7 @@ int pagesOf(const std::string& job) {
   return occurrences(job, "\n%%Page:");
 }
 
-// Number of the error that `step` raises, 0 for none.
-template <typename Step>
-int errorOf(Step step) {
-  try {
-    step();
-    return 0;
-  } catch (const values::RuntimeError& error) {
-    return static_cast<int>(error.number());
-  }
-}
-
+using test_support::errorOf;
 constexpr int printerError = static_cast<int>(values::ErrorNumber::printer);
 constexpr int invalidCall = static_cast<int>(values::ErrorNumber::invalidCall);
 
@@ -148,33 +137,6 @@ TEST_F(Printers, PrintAgainAfterAnError) {
   printer_.startOutput();
   printer_.endDocument();
   EXPECT_EQ(pagesOf(TestPrinters::letterJob()), 1);
-}
-
-TEST_F(Printers, SetLinesOfRichTextAlikeOnPaperAndOnScreen) {
-  const HWND window =
-      CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
-  RichTextBox box("RTF3");
-  box.create(window, 1, {0, 0, 10, 10});
-  std::string text;
-  for (int i = 0; i < 60; ++i) text += "Some words, wide and ill. ";
-  box.setPlain(text);
-  test_support::Recording paper(printer_.dc()), screen;
-  const int screenDpi = GetDeviceCaps(screen.dc(), LOGPIXELSX);
-  for (const HDC dc : {paper.dc(), screen.dc()}) {
-    FORMATRANGE range{dc, printer_.dc(), {1440, 1440, 7200, 7200}, {}, {0, -1}};
-    EXPECT_EQ(box.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&range)), box.length());
-  }
-  const test_support::Drawing printed = paper.drawing(), shown = screen.drawing();
-  ASSERT_GT(printed.texts.size(), 5U);
-  EXPECT_EQ(printed.joined(), shown.joined());
-  EXPECT_EQ(printed.texts[0].x, 600);
-  for (std::size_t i = 0; i < printed.texts.size(); ++i) {
-    const auto onScreen = [&](int pixels) { return pixels * screenDpi / 600.0; };
-    EXPECT_NEAR(shown.texts[i].x, onScreen(printed.texts[i].x), 1);
-    EXPECT_NEAR(shown.texts[i].y, onScreen(printed.texts[i].y), 1);
-    EXPECT_NEAR(shown.texts[i].width, onScreen(printed.texts[i].width), 1);
-  }
-  DestroyWindow(window);
 }
 
 }  // namespace

@@ -172,17 +172,11 @@ TEST_F(Preview, ZoomsByMenuListAndSteps) {
     const char* text;
     int command;
     const char* stepping;  // in and out
-    const char* in;
-    const char* out;
   };
-  const Row rows[] = {{"25 %", id::ZOOM25, "10", "50 %", "25 %"},
-                      {"50 %", id::ZOOM50, "11", "75 %", "25 %"},
-                      {"75 %", id::ZOOM75, "11", "100 %", "50 %"},
-                      {"100 %", id::ZOOM100, "11", "150 %", "75 %"},
-                      {"150 %", id::ZOOM150, "11", "200 %", "100 %"},
-                      {"200 %", id::ZOOM200, "01", "200 %", "150 %"},
-                      {"Page Width", id::ZOOMPW, "00", "Page Width", "Page Width"},
-                      {"Whole Page", id::ZOOMWP, "00", "Whole Page", "Whole Page"}};
+  const Row rows[] = {{"25 %", id::ZOOM25, "10"},       {"50 %", id::ZOOM50, "11"},
+                      {"75 %", id::ZOOM75, "11"},       {"100 %", id::ZOOM100, "11"},
+                      {"150 %", id::ZOOM150, "11"},     {"200 %", id::ZOOM200, "01"},
+                      {"Page Width", id::ZOOMPW, "00"}, {"Whole Page", id::ZOOMWP, "00"}};
   preview([&] {
     frmPPrev& form = thePreview();
     const auto expectRow = [&](const Row& row) {
@@ -202,13 +196,10 @@ TEST_F(Preview, ZoomsByMenuListAndSteps) {
       choose(form.CBOPGZOOM(), static_cast<int>((i + 3) % std::size(rows)));
       expectRow(rows[(i + 3) % std::size(rows)]);
     }
-    for (const Row& row : rows) {
-      form.runCommand(row.command);
-      PRINTING().ZOOMIN();
-      EXPECT_EQ(zoom(), row.in);
-      form.runCommand(row.command);
-      PRINTING().ZOOMOUT();
-      EXPECT_EQ(zoom(), row.out);
+    form.runCommand(id::ZOOM75);
+    for (const auto& [command, shown] : {std::pair{id::ZOOMIN, "100 %"}, {id::ZOOMOUT, "75 %"}}) {
+      form.runCommand(command);
+      EXPECT_EQ(zoom(), shown);
     }
     // By the buttons of the mouse, on the page and only there.
     form.runCommand(id::ZOOM50);

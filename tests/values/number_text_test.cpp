@@ -4,23 +4,10 @@
 
 #include <cmath>
 
-#include "values/runtime_error.h"
+#include "tests/support/error_of.h"
 
 using namespace values;
-
-namespace {
-
-template <typename Step>
-int errorOf(Step step) {
-  try {
-    step();
-  } catch (const RuntimeError& error) {
-    return static_cast<int>(error.number());
-  }
-  return 0;
-}
-
-}  // namespace
+using test_support::errorOf;
 
 TEST(NumberText, ReadsWholeTextsWithPointOrTheUsersSign) {
   const std::pair<const char*, double> good[] = {
