@@ -45,7 +45,7 @@ if(EXISTS /usr/src/googletest)
   file(GLOB_RECURSE win_tests CONFIGURE_DEPENDS tests/*_win_test.cpp)
   file(GLOB win_support CONFIGURE_DEPENDS tests/support/*_win.cpp)
   file(GLOB_RECURSE app_tests CONFIGURE_DEPENDS tests/app/*_app_test.cpp)
-  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp tests/support/print*_win.cpp tests/support/bitmap_win.cpp)
+  file(GLOB app_support CONFIGURE_DEPENDS tests/app/support/*.cpp tests/support/print*_win.cpp)
 
   if(win_tests)
     add_executable(tests_win ${win_tests} ${win_support} app/tellary.rc)
@@ -63,17 +63,9 @@ if(EXISTS /usr/src/googletest)
   if(app_tests)
     add_executable(tests_app ${app_tests} ${app_support})
     target_link_libraries(tests_app PRIVATE tellary_windows winspool gmock gtest gtest_main)
-    # All but the pictures go without a screen, several times faster.
-    add_test(NAME app COMMAND tests_app --gtest_filter=-Pictures.*)
-    set(app_environment "TELLARY_EXE=$<TARGET_FILE:Tellary>;TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples")
+    add_test(NAME app COMMAND tests_app)
     set_tests_properties(app PROPERTIES LABELS app ENVIRONMENT
-      "${app_environment};TELLARY_PICTURES=${CMAKE_BINARY_DIR}/pictures")
-    foreach(dpi 96 144 192)
-      add_test(NAME app_pictures_${dpi} COMMAND ${CMAKE_SOURCE_DIR}/tools/on_screen.sh
-        $<TARGET_FILE:tests_app> --gtest_filter=Pictures.*)
-      set_tests_properties(app_pictures_${dpi} PROPERTIES LABELS app ENVIRONMENT
-        "${app_environment};DPI=${dpi};TELLARY_PICTURES=${CMAKE_BINARY_DIR}/pictures-${dpi}")
-    endforeach()
+      "TELLARY_EXE=$<TARGET_FILE:Tellary>;TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples")
   endif()
 endif()
 

@@ -56,12 +56,12 @@ class Looks : public test_support::MainWindowTest {
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
   }
   /// Writes the picture of a menu, known by its access key.
-  void drawMenu(char letter, const char* name) {
+  void drawMenu(windowing::Form& shown, char letter, const char* name) {
     inMenu_ = [this, name](HWND menu) { write(menu, name); };
     SetTimer(nullptr, 0, 50, whileMenuIsOpen);
-    form.show();
+    shown.show();
     settle();
-    SendMessageA(form.handle(), WM_SYSCOMMAND, SC_KEYMENU, letter);
+    SendMessageA(shown.handle(), WM_SYSCOMMAND, SC_KEYMENU, letter);
     EXPECT_FALSE(inMenu_) << name << " did not open";
   }
   static void CALLBACK whileMenuIsOpen(HWND, UINT, UINT_PTR timer, DWORD) {
@@ -105,11 +105,14 @@ TEST_F(Looks, OfEveryForm) {
     draw(form, pages[page]);
   }
   for (const auto& [letter, name] : {std::pair{'f', "file-menu"}, {'v', "view-menu"}})
-    drawMenu(letter, name);
+    drawMenu(form, letter, name);
   // The toolbar's Print composes the report that is previewed.
   SendMessageA(form.handle(), WM_COMMAND, id::PRINT,
                reinterpret_cast<LPARAM>(form.control(id::TBARMAIN).handle()));
-  inPreview_ = [this] { write(printing::thePreview().handle(), "preview"); };
+  inPreview_ = [this] {
+    write(printing::thePreview().handle(), "preview");
+    drawMenu(printing::thePreview(), 'v', "preview-view-menu");
+  };
   SetTimer(nullptr, 0, 20, whilePreviewIsOpen);
   run(id::PRINTPREVIEW);
   EXPECT_FALSE(inPreview_) << "the preview did not open";

@@ -2,19 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/menu_drawing_win.h"
-#include "library/images.h"
-#include "library/resource_ids.h"
-#include "values/runtime_error.h"
 #include "windowing/form_win.h"
-#include "windowing/screen_win.h"
 
 using namespace controls;
-using values::MemoryDc;
 
 namespace {
 
-constexpr windowing::ImageStrip strips[] = {{16, IDB_TOOLBAR16}};
 constexpr windowing::FormDesign design = {"frmTest", "Test", WS_OVERLAPPEDWINDOW, 0, 3000,
                                           2000,      {}};
 enum Number { file = 1, open, save, line, zoom, width, view, bar };
@@ -88,35 +81,6 @@ TEST(IcoMnu, HighlightsCarryNumbers) {
   form.select(GetSystemMenu(form.handle(), FALSE), SC_CLOSE, MF_SYSMENU | MF_HILITE);
   EXPECT_EQ(form.systemHighlights, (std::vector<std::uint32_t>{61536}));
   EXPECT_EQ(form.highlights.size(), 6u);
-}
-
-// Painted into memory: pixels from the column `left` on that do not show the menu's ground.
-int marks(const MenuItemLook& look, UINT state, LONG left, LONG right) {
-  const windowing::ImageList images(strips);
-  const SIZE size = menuItemSize(look, &images);
-  const values::WindowDc screen(nullptr);
-  const MemoryDc dc(CreateCompatibleDC(screen.get()));
-  const values::BitmapHandle bitmap(CreateCompatibleBitmap(screen.get(), size.cx, size.cy));
-  const values::Selected chosen(dc.get(), bitmap.get());
-  drawMenuItem(dc.get(), {0, 0, size.cx, size.cy}, look, state, &images);
-  int count = 0;
-  for (int y = 0; y < size.cy; ++y)
-    for (LONG x = left; x < std::min(right, size.cx); ++x)
-      if (GetPixel(dc.get(), x, y) != GetSysColor(COLOR_MENU)) ++count;
-  return count;
-}
-
-TEST(MenuDrawing, ShowsPictureCheckMarkShortcutAndArrow) {
-  const LONG column = windowing::scaled(24);
-  const MenuItemLook plain{"&Open"};
-  const LONG end = menuItemSize(plain, nullptr).cx + windowing::scaled(2);
-  EXPECT_EQ(marks(plain, 0, 0, column), 0);
-  EXPECT_GT(marks(plain, 0, column, end), 20) << "words";
-  EXPECT_GT(marks({"&Open", false, false, library::imageIndex("OPEN")}, 0, 0, column), 60);
-  EXPECT_GT(marks(plain, ODS_CHECKED, 0, column), 10) << "check mark";
-  EXPECT_GT(marks(plain, ODS_SELECTED, column, end), marks(plain, 0, column, end));
-  EXPECT_GT(marks({"&Open\tCtrl+O"}, 0, end, 10000), 20) << "shortcut";
-  EXPECT_GT(marks({"&Open", false, true}, 0, 0, 10000), marks(plain, 0, 0, 10000) + 8) << "arrow";
 }
 
 }  // namespace

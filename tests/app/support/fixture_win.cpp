@@ -1,7 +1,5 @@
 #include "tests/app/support/fixture_win.h"
 
-#include "tests/app/support/picture_win.h"
-
 namespace drive {
 
 namespace {
@@ -58,7 +56,6 @@ void AppTest::SetUp() {
 }
 
 void AppTest::TearDown() {
-  if (HasFailure()) takePicture(GetDesktopWindow(), picturesFolder() + "\\failed.bmp");
   program_.reset();
 }
 

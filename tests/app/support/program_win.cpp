@@ -111,10 +111,6 @@ std::string programUnderTest() {
   return windowsPath(environment("TELLARY_EXE"));
 }
 
-std::string picturesFolder() {
-  return windowsPath(environment("TELLARY_PICTURES"));
-}
-
 HWND waitForMainWindow() {
   HWND found = nullptr;
   waitFor("a main window", [&found] {

@@ -125,8 +125,6 @@ class Program {
 
 /// Path of the program under test as Windows names it.
 [[nodiscard]] std::string programUnderTest();
-/// Folder for pictures; need not exist.
-[[nodiscard]] std::string picturesFolder();
 /// `path` of this machine as Windows names it; paths that are Windows' already stay.
 [[nodiscard]] std::string windowsPath(const std::string& path);
 /// Value of an environment variable; raises when it is not set.
