@@ -8,9 +8,10 @@ list(FILTER host_tests EXCLUDE REGEX "_(win|app)_test\\.cpp$")
 if(host_tests)
   add_executable(tests_host ${host_tests})
   target_link_libraries(tests_host PRIVATE tellary_core GTest::gmock GTest::gtest GTest::gtest_main)
-  add_test(NAME host COMMAND tests_host)
+  add_test(NAME host COMMAND ${CMAKE_SOURCE_DIR}/tools/whole_run.sh $<TARGET_FILE:tests_host>)
   set_tests_properties(host PROPERTIES LABELS host ENVIRONMENT
     "TELLARY_SAMPLES=${CMAKE_SOURCE_DIR}/samples")
+  add_crashing(${CMAKE_SOURCE_DIR}/tools/whole_run.sh host GTest::gtest)
 endif()
 
 file(GLOB tools CONFIGURE_DEPENDS tools/*.cpp)
