@@ -30,7 +30,7 @@ if ! { cmake --preset product && cmake --build --preset product --target Tellary
   fail "the program could not be built; all of it is in build/run-build.log"
 fi
 
-# A display that cannot be reached counts as none.
+# A display that does not answer is ignored.
 host_display=${DISPLAY:-}
 if [[ -n $host_display ]] && ! xdotool getdisplaygeometry >/dev/null 2>&1; then
   say "the display $host_display cannot be reached"

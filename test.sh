@@ -3,10 +3,9 @@
 #
 #   --quick   the native tests only, without Wine, fuzzing and clang-tidy
 #
-# The last line is "N passed, N failed": single test cases and fuzz targets; what cannot be built
-# counts as one failure. The exit code is
-# zero only if all was built, something ran, nothing failed, the sources are in format and
-# clang-tidy has no findings.
+# The last line is "N passed, N failed" and counts test cases and fuzz targets; a lane that cannot be
+# built counts as one failure. The exit code is zero only if everything was built, at least one test
+# ran, none failed, the sources are formatted and clang-tidy has no findings.
 set -uo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$root" || exit 1
@@ -37,7 +36,7 @@ finish() {
     echo "test: trouble: $line" >&2
   done
   [[ $skipped -eq 0 ]] || say "$skipped skipped"
-  # Everything else has been written by now; this is the closing line.
+  # This has to be the last line of all output.
   echo "$passed passed, $failed failed"
   [[ $failed -eq 0 && $passed -gt 0 && ${#troubles[@]} -eq 0 ]]
   exit
@@ -54,7 +53,7 @@ build() {
     >"$log" 2>&1 </dev/null; then
     grep -nE 'error|Error|FAILED' "$log" | head -n 40 >&2
     tail -n 20 "$log" >&2
-    # Its tests could not pass: "0 failed" would mislead whoever reads only the closing line.
+    # Counted as failed; otherwise the last line could say "0 failed" although tests are missing.
     failed=$((failed + 1))
     trouble "$preset was not built (${log#"$root/"})"
     return 1
@@ -79,7 +78,7 @@ run_tests() {
   [[ $code -eq 0 || $bad -gt 0 ]] || trouble "ctest failed on $preset (${log#"$root/"})"
 }
 
-# The project's sources: what is tracked, or what lies in its folders where git cannot tell.
+# The project's sources: the files that git tracks; without git, all files in its folders.
 sources() {
   git ls-files '*.cpp' '*.h' 2>/dev/null | grep . ||
     find app document mainwindow printing pagesetup library dialogs controls paper windowing files values tests fuzz \
@@ -127,7 +126,7 @@ if [[ $quick == no ]]; then
     run_tests product
     if build product-checked; then run_tests product-checked -R '^win$'; fi
   fi
-  # The native tests have run in the host lane; here only the fuzz targets are of interest.
+  # Only the fuzz targets; the native tests have run in the host lane.
   targets=()
   for file in fuzz/*_fuzz.cpp; do
     [[ ! -f $file ]] || targets+=("$(basename "$file" .cpp)")

@@ -1,4 +1,4 @@
-// How long the document takes, held against floors measured in the same run:
+// Measures reading and writing a document, against floors measured in the same run:
 //   document_bench [SAMPLE]      (default samples/thousand.tly, from the root of the tree)
 #include <benchmark/benchmark.h>
 
@@ -42,8 +42,8 @@ Bytes slurp(const std::string& path) {
   return bytes;
 }
 
-/// Reading a full document against one read and a newline scan of the same bytes. Both run in
-/// turn in every iteration, so that a slow moment of the machine meets both.
+/// Reading a full document against one read and a newline scan of the same bytes. Both run in every
+/// iteration, so that both are slow when the machine is slow.
 void readFull(benchmark::State& state, const std::string& path) {
   double floor = 0;
   double reading = 0;
@@ -64,7 +64,7 @@ void readFull(benchmark::State& state, const std::string& path) {
   state.counters["ratio"] = reading / floor;
 }
 
-/// Composing the text of a full document, against nothing.
+/// Composing the text of a full document, without a floor.
 void writeFull(benchmark::State& state, const std::string& path) {
   ContactList list;
   document::read(slurp(path), list);

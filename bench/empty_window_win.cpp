@@ -1,4 +1,4 @@
-// The least a program with a window can be: what starting the real one is held against.
+// The smallest program with a window; its start is the floor for the start of Tellary.
 #include <windows.h>
 
 namespace {

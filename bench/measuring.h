@@ -1,4 +1,4 @@
-// Taking times and telling figures, for the measuring programs.
+// Measuring times and printing figures, for the measuring programs.
 #pragma once
 
 #include <algorithm>
@@ -23,7 +23,7 @@ template <typename Work>
   return figures[figures.size() / 2];
 }
 
-/// What was measured in each round, and what it is held against.
+/// The measured value and the floor of each round.
 struct Figure {
   std::vector<double> measured;
   std::vector<double> floor;

@@ -56,7 +56,7 @@ class Paper {
   HWND window_ = nullptr;
 };
 
-/// Ends the program where what is measured is not what it should be.
+/// Ends the program where the thing to be measured is not as expected.
 inline void require(bool good, const char* what) {
   if (good) return;
   std::printf("%s\n", what);

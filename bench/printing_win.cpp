@@ -1,5 +1,6 @@
-// Printing and the preview: what a page costs, first and last, and how long the user waits for
-// one, against the drawing calls themselves. Prints into a file, on a printer of its own.
+// Measures printing and the preview: how long the first and the last page take, and how long the
+// user waits for one, against the drawing calls themselves. Prints into a file, on a printer of its
+// own.
 #include <windows.h>
 
 #include <psapi.h>
@@ -23,14 +24,13 @@ constexpr int linesOf200Pages = 11900;
 constexpr int linesOf3Pages = 120;
 constexpr int linesOf500Pages = 29500;
 
-/// The preview, which stays open behind the program's back so that it can be worked with.
+/// A preview whose window stays open without being modal, so that the program can use it.
 class OpenPreview : public printing::frmPPrev {
  public:
   void showPreview() override {
     show();
     settle();
   }
-  /// Lets all that has to be painted be painted.
   void settle() const {
     RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     MSG message{};
@@ -38,7 +38,7 @@ class OpenPreview : public printing::frmPPrev {
   }
 };
 
-/// One program at work: its preview, its print engine, and the report that is printed.
+/// A preview, a print engine and the report that is printed.
 struct Program {
   OpenPreview preview;
   printing::clsPrinting engine{preview};
@@ -53,7 +53,7 @@ struct Program {
   }
 };
 
-/// When each page of a job was begun, by the question for the time in its header.
+/// The times at which the pages of a job begin. The header of each page asks for the time.
 std::vector<double> pageTimes(Program& program) {
   std::vector<std::chrono::steady_clock::time_point> begun;
   const auto clock = windowing::seams().localTime;
@@ -156,7 +156,7 @@ double zoomStep(Program& program) {
   });
 }
 
-/// Drawing the page on show once, at the size that the zoom gives it.
+/// Drawing the page that is shown once, at the size of the zoom.
 double drawOnce(Program& program) {
   const RECT whole = program.preview.PICWINDOW().pagePixels();
   const values::WindowDc screen(nullptr);

@@ -30,7 +30,7 @@ void writeFlushRename(const std::string& bytes, const char* temporary, const cha
   check(MoveFileExA(temporary, path, MOVEFILE_REPLACE_EXISTING) != FALSE, "renaming");
 }
 
-// Nothing hangs on the old file that a new one lacks, as is the rule on Windows.
+// As usual on Windows: a new file can be given everything that belongs to the old one.
 class WindowsFiles : public files::FileCalls {
  public:
   bool securityIsWhole() override { return true; }

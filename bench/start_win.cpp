@@ -1,6 +1,6 @@
-// How long the program takes from its start until it waits for the user, with and without a
-// full document, and how much memory it takes; against an empty window, and against the
-// system's own text editor:
+// Measures how long the program takes from its start until it waits for the user, with and without
+// a full document, and how much memory it takes; against an empty window and against the system's
+// own text editor:
 //   bench_start_win TELLARY.EXE EMPTY_WINDOW.EXE FULL_DOCUMENT
 #include <windows.h>
 
@@ -58,7 +58,7 @@ struct Start {
   double peakBytes = 0;
 };
 
-/// Starts a program, waits until its window is there and it waits for input, and closes it.
+/// Starts a program, waits until its window is painted and it waits for input, and closes it.
 Start start(const std::string& command) {
   Start result;
   std::string line = command;
@@ -66,7 +66,7 @@ Start start(const std::string& command) {
   info.cb = sizeof info;
   PROCESS_INFORMATION child{};
   HWND window = nullptr;
-  // What the program before still leaves to be cleared away must not count for this one.
+  // The end of the program before must not be measured with this one.
   Sleep(500);
   result.milliseconds = bench::milliseconds([&] {
     if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &info,
@@ -77,7 +77,7 @@ Start start(const std::string& command) {
       window = windowOf(child.dwProcessId);
       if (window == nullptr) Sleep(1);
     } while (window == nullptr);
-    // A program counts as idle before it has come back to its message loop and has painted.
+    // WaitForInputIdle returns before the program is back in its message loop and has painted.
     SendMessageA(window, WM_NULL, 0, 0);
     while (!painted(window)) Sleep(1);
   });
@@ -91,7 +91,7 @@ Start start(const std::string& command) {
   return result;
 }
 
-/// One read and a scan for line ends; answers the file's size.
+/// One read and a scan for line ends. Returns the file's size.
 double readAndScan(const std::string& path) {
   const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                   OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
@@ -139,7 +139,7 @@ int main(int argc, char** argv) {
   opening.tell("opening 32,767 contacts / reading floor (ms)", 4.5);
   memory.tell("peak memory over the empty window / file (MB)", 4.0);
 
-  // Taken once: it is long.
+  // Measured only once, because it takes long.
   bench::Figure editor;
   editor.add(bench::median(full), start("notepad.exe " + document).milliseconds);
   editor.tell("start with 32,767 contacts / notepad (ms, once)", 0.02);

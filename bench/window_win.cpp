@@ -1,5 +1,5 @@
-// The main window at work on a full document: stepping, typing, adding, removing, and filling
-// the name box, against the least that the controls themselves take:
+// Measures the main window with a full document: stepping, typing, adding, removing and filling the
+// name box, against the time of the controls alone:
 //   bench_window_win FULL_DOCUMENT THOUSAND_CONTACTS
 #include <windows.h>
 
@@ -25,7 +25,7 @@ using windowing::ComboBox;
 
 constexpr int turns = 20;
 
-/// The main window's controls without anything behind them: boxes are the system's own.
+/// A form with the controls of the main window and no code behind them; its boxes are the system's.
 class BareForm : public windowing::Form {
  public:
   BareForm() : Form(bareDesign()) {}
@@ -50,14 +50,14 @@ class BareForm : public windowing::Form {
   }
 };
 
-/// Lets all of a window be painted that has to be, and the messages be handled that wait.
+/// Paints what has to be painted of a window, and handles the messages that wait.
 void settle(const windowing::Form& form) {
   RedrawWindow(form.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   MSG message{};
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) windowing::dispatchMessage(message);
 }
 
-/// Average of some runs of `work`, each with the painting that it causes.
+/// Average time of several runs of `work`, painting included.
 template <typename Work>
 double average(const windowing::Form& form, const Work& work) {
   settle(form);
@@ -91,7 +91,7 @@ double step(frmMain& form) {
   return average(form, [&](int) { form.runCommand(id::NEXT); });
 }
 
-// A letter, and the same taken back.
+// A letter in one turn, Backspace in the next.
 char typed(int turn) {
   return turn % 2 == 0 ? 'x' : '\b';
 }
@@ -167,7 +167,7 @@ double typeFloor(const BareForm& bare, const document::ContactList& list) {
   });
 }
 
-/// The fastest of the ways there are, with all texts at hand.
+/// The fastest way to fill the list, when all texts are in memory.
 double fillFloor(const ComboBox& box, const std::vector<std::string>& entries) {
   double fastest = 1e9;
   for (const bool storage : {false, true}) {

@@ -8,7 +8,8 @@
 namespace dialogs {
 namespace {
 
-// Letters A to Z; a double-byte character may have the value of one as its second byte.
+// Changes the letters a to z only, and no second byte of a double-byte character, which may have
+// the value of a letter.
 std::string upperCase(std::string_view text, library::LeadByteTest isLead) {
   std::string upper(text);
   for (std::size_t i = 0; i < upper.size(); ++i) {

@@ -1,4 +1,4 @@
-// What the properties dialog works out without asking the system.
+// The parts of the properties dialog that need no question to the system.
 #pragma once
 
 #include <string>
@@ -15,16 +15,16 @@ struct ShownPages {
   friend bool operator==(const ShownPages&, const ShownPages&) = default;
 };
 
-/// Pages of a kind of document, named in any case: "UNTITLED" and "DOCUMENT" have a page of
-/// figures, "PICTURE" one of the picture; every other kind, "TEMPLATE" among them, has none.
+/// The pages for a kind of document: for "UNTITLED" and "DOCUMENT" the page of figures, for
+/// "PICTURE" the one of the picture, for any other kind ("TEMPLATE") neither. Case does not matter.
 [[nodiscard]] ShownPages pagesOfKind(std::string_view kind);
 
-/// Type of a file as the shell names it, or its extension in upper case and " file" where the
-/// shell has no name for it.
+/// The shell's name for the type of a file; where it has none, the extension in upper case and
+/// " file".
 [[nodiscard]] std::string fileTypeText(std::string_view shellName, std::string_view fileName,
                                        library::LeadByteTest isLead = library::noLeadBytes);
 
-/// Folder of the file at `path`; the root of a drive with its "\".
+/// Folder of the file at `path`. Only the root of a drive has a "\" at its end.
 [[nodiscard]] std::string locationText(std::string_view path,
                                        library::LeadByteTest isLead = library::noLeadBytes);
 
@@ -36,8 +36,8 @@ struct ReportPage {
   double lineHeight = 0;
 };
 
-/// Pages that `lines` lines take, no line split between two; at least one. A page too low for
-/// a line takes one all the same. Raises an invalid call for a page that is none.
+/// How many pages `lines` lines need, at least one. No line is split between two pages, and each
+/// page takes at least one line. Raises an invalid call for a page without a height.
 [[nodiscard]] int pageCount(int lines, const ReportPage& page);
 
 }  // namespace dialogs

@@ -14,7 +14,7 @@ namespace {
   throw values::RuntimeError(values::ErrorNumber::fileNotFound, "File not found: " + path);
 }
 
-// The answer of one of the functions that format a date or a time into a buffer.
+// Calls a function that formats a date or a time into a buffer, and returns its text.
 template <typename Format>
 std::string formatted(Format format) {
   const int size = format(nullptr, 0);

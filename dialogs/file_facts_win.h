@@ -1,4 +1,4 @@
-// What the system knows of a file.
+// The facts of a file that the system knows.
 #pragma once
 
 #include <windows.h>
@@ -16,25 +16,25 @@ struct FileFacts {
   DWORD attributes = 0;
   std::uint64_t size = 0;  ///< bytes
   FILETIME lastWrite{};
-  std::string typeName;     ///< of the shell; empty where it has none
-  values::IconHandle icon;  ///< of the shell; may be none
+  std::string typeName;     ///< the shell's name for its type; empty where it has none
+  values::IconHandle icon;  ///< the shell's icon for it; may be empty
 };
 
-/// `path` from its drive or share on. Raises an error of the system.
+/// The full path of `path`. Raises an error of the system.
 [[nodiscard]] std::string fullPath(const std::string& path);
 
-/// Facts of the file at the full path `path`. Raises file not found; a path with wildcards
-/// names no file.
+/// Facts of the file at the full path `path`. Raises file not found, also for a path with
+/// wildcards.
 [[nodiscard]] FileFacts fileFacts(const std::string& path);
 
-/// A time of a file in the user's time zone, as the user writes long dates and long times, with a
-/// blank between the two. Raises an error of the system.
+/// A time of a file in the user's time zone: the long date, a blank and the long time, in the
+/// user's formats. Raises an error of the system.
 [[nodiscard]] std::string dateTimeText(const FILETIME& time);
 
-/// Gives the file the read-only attribute, or takes it away; whether that was done.
+/// Sets or removes the read-only attribute of a file. True where that succeeded.
 bool setReadOnly(const std::string& path, bool readOnly);
 
-/// What the header of a picture file says; nothing where it is none or cannot be read.
+/// The header of a picture file; no value where the file is no picture or cannot be read.
 [[nodiscard]] std::optional<ImageHeader> GETIMAGEFILEINFO(const std::string& path);
 
 }  // namespace dialogs

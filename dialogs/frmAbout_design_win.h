@@ -1,5 +1,5 @@
-// The about box as its designer laid it out: places in twips, 15 to the pixel at 96 dots per
-// inch. Captions that a text takes the place of at run time tell the designer which it is.
+// The design of the about box. Places are twips, 15 to the pixel at 96 dots per inch. A caption
+// such as "Title" is replaced by a text at run time.
 #pragma once
 
 #include "controls/TXTSEP_win.h"
@@ -17,7 +17,7 @@ constexpr int formHeight = 5175;
 constexpr int titleHeight = 1200;
 constexpr int margin = 240;
 constexpr int textWidth = formWidth - 2 * margin;
-constexpr int valueLeft = 1500;  ///< what stands behind "Version:" and "Registered to:"
+constexpr int valueLeft = 1500;  ///< of the texts behind "Version:" and "Registered to:"
 constexpr int valueWidth = formWidth - margin - valueLeft;
 constexpr int line = 15;
 constexpr int lineHeight = 210;  ///< of a text of one line
@@ -29,7 +29,7 @@ constexpr int buttonWidth = 1200;
 constexpr int buttonHeight = 375;
 
 constexpr ControlKind logoKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY};
-/// Never shown: it only holds the pointer that the logo takes.
+/// Never shown. It holds the pointer that is shown over the logo.
 constexpr ControlKind pointerKind{"STATIC", SS_ICON};
 
 // clang-format off

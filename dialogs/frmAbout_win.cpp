@@ -19,7 +19,7 @@ using library::LIBRARY;
 
 namespace {
 
-// The two blanks after the first sentence are meant.
+// Deliberate: two blanks after the first sentence.
 constexpr char warning[] =
     "Warning: This computer program is protected by copyright law and international treaties.  "
     "Unauthorized reproduction or distribution of this program, or any portion of it, may result "
@@ -33,7 +33,7 @@ struct LogoPicture {
 };
 constexpr LogoPicture logoPictures[] = {{96, IDB_LOGO96}, {144, IDB_LOGO144}, {192, IDB_LOGO192}};
 
-// The smallest picture that need not grow, or the largest.
+// The smallest picture that is large enough; the largest where none is.
 int logoResource() {
   for (const LogoPicture& picture : logoPictures)
     if (picture.dpi >= windowing::screenDpi()) return picture.resource;
@@ -83,7 +83,7 @@ void frmAbout::onClick(int clicked) {
     LIBRARY().INTERNETACCESS(windowing::handleText(handle()), "", library::makerSite);
 }
 
-// The two lines below the title make one edge: dark above light.
+// The two lines below the title look like one edge: the upper one is dark, the lower one light.
 HBRUSH frmAbout::onColour(HDC, int asked) {
   if (asked == about_id::LNTITLE1) return GetSysColorBrush(COLOR_BTNSHADOW);
   if (asked == about_id::LNTITLE2) return GetSysColorBrush(COLOR_BTNHIGHLIGHT);

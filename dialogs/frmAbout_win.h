@@ -5,7 +5,7 @@
 
 namespace dialogs {
 
-/// Shown modally. It opens in the middle of the screen each time; its place is not stored.
+/// Shown modally, always in the middle of the screen; its place is not stored.
 class frmAbout : public windowing::Form {
  public:
   frmAbout();

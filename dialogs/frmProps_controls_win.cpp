@@ -1,4 +1,4 @@
-// The controls of the properties that are not of the usual kinds.
+// The icon and the check boxes of the properties.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -21,7 +21,7 @@ constexpr int tickCount = 3;
 
 }  // namespace
 
-// A document without a file, or whose file is gone, has the icon of all documents.
+// Where the file has no icon, or there is no file, the icon of documents is shown.
 void frmProps::showIcon(HICON icon) const {
   HANDLE shown = icon;
   if (shown == nullptr)
@@ -30,8 +30,8 @@ void frmProps::showIcon(HICON icon) const {
   control(id::PICICON).send(STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(shown));
 }
 
-// The labels of the boxes to tick: black also beside a box that is grey, since what it shows is
-// to be read; and around the text the mark of the box that has the focus.
+// Draws the label of a check box. It is black beside a disabled one too, so that it can be read.
+// When the check box has the focus, the focus mark is drawn round the label.
 void frmProps::drawTickLabel(const DRAWITEMSTRUCT& item) const {
   const auto behind = reinterpret_cast<HBRUSH>(
       SendMessageA(GetParent(item.hwndItem), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(item.hDC),
@@ -72,7 +72,7 @@ LRESULT frmProps::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       case MAKEWPARAM(id::LBLREAD, STN_DBLCLK):
       case MAKEWPARAM(id::CHKATTR, BN_DOUBLECLICKED):
         if (!IsWindowEnabled(handle())) return 0;
-        // A click on the text is one on its box.
+        // A click on the label counts as a click on its check box.
         if (CHKATTR(0).enabled()) CHKATTR(0).focus();
         changeReadOnly();
         return 0;

@@ -1,5 +1,5 @@
-// The properties dialog as its designer laid it out: places in twips, 15 to the pixel at 96 dots
-// per inch. The order of the rows is the order in which the user tabs.
+// The design of the properties dialog. Places are twips, 15 to the pixel at 96 dots per inch. The
+// order of the rows is the tab order.
 #pragma once
 
 #include "controls/PANEL_win.h"
@@ -19,7 +19,7 @@ constexpr int margin = 90;       ///< round the tab strip
 constexpr int tabRow = 390;      ///< height of the row of tabs
 constexpr int headHeight = 780;  ///< icon and name, above every page
 constexpr int pageHeight = 2130;
-constexpr int inset = 30;  ///< from the tab strip's sides to what lies on it
+constexpr int inset = 30;  ///< from the tab strip's sides to its pages
 constexpr int tabWidth = formWidth - 2 * margin;
 constexpr int tabHeight = tabRow + headHeight + pageHeight + inset;
 constexpr int footHeight = 675;  ///< the strip of the Close button
@@ -48,11 +48,11 @@ constexpr int tickLabelWidth = 1350;
 constexpr int buttonWidth = 1200;
 constexpr int buttonHeight = 375;
 
-/// A fact is a read-only box without an edge: a longer one scrolls, and all can be copied.
+/// A read-only text box without an edge. A long text can be scrolled, and each can be copied.
 constexpr ControlKind factKind{"EDIT", WS_VISIBLE | WS_TABSTOP | ES_READONLY | ES_AUTOHSCROLL};
 constexpr ControlKind iconKind{"STATIC", WS_VISIBLE | SS_ICON | SS_CENTERIMAGE};
 constexpr ControlKind hiddenTextKind{"EDIT", ES_MULTILINE | ES_AUTOVSCROLL};
-/// Not a box that ticks itself: it shows what the file says after the click.
+/// A check box that does not tick itself: after a click it shows the file's attribute.
 constexpr ControlKind tickKind{"BUTTON", WS_VISIBLE | WS_TABSTOP | BS_CHECKBOX | BS_NOTIFY};
 constexpr ControlKind fixedTickKind{"BUTTON", WS_VISIBLE | WS_DISABLED | BS_CHECKBOX};
 constexpr ControlKind tickLabelKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW | SS_NOTIFY};

@@ -1,4 +1,4 @@
-// The dialog itself: its pages, and what its facts are.
+// The dialog itself: its pages and their texts.
 #include "dialogs/frmProps_win.h"
 
 #include "dialogs/document_facts.h"
@@ -27,7 +27,7 @@ namespace id = dialogs::props_id;
 
 namespace {
 
-/// The pages by their tabs.
+/// A page and the caption of its tab.
 struct Page {
   const char* caption;
   int frame;
@@ -35,7 +35,7 @@ struct Page {
 constexpr Page pages[] = {
     {"GENERAL", id::FRAMGENERAL}, {"DOCUMENT", id::FRAMDOCUMENT}, {"PICTURE", id::FRAMPIC}};
 
-/// What the boxes to tick show of a file, in the order of their labels.
+/// The attributes of the check boxes, in the order of their labels.
 constexpr DWORD tickAttributes[] = {FILE_ATTRIBUTE_READONLY, FILE_ATTRIBUTE_HIDDEN,
                                     FILE_ATTRIBUTE_ARCHIVE};
 
@@ -46,7 +46,7 @@ constexpr int documentFacts[] = {id::TXTDOCPATH, id::TXTDOCPAGES, id::TXTDOCLINE
 constexpr int pictureFacts[] = {id::TXTPICTYPE, id::TXTPICPIXELDEPTH, id::TXTPICWIDTH,
                                 id::TXTPICHEIGHT};
 
-// A drive's root has no name but itself.
+// The name of a file. The root of a drive has none, so its path is shown.
 std::string shownName(const std::string& path) {
   const std::string name = library::fileNameOf(path, values::isLeadByte);
   return name.empty() ? path : name;
@@ -91,7 +91,7 @@ void frmProps::UPDATEINFO() {
   showTabs(frames);
 }
 
-// The tabs of the pages that do not apply are not there at all.
+// Makes the tabs of the pages that are shown; the others have no tab.
 void frmProps::showTabs(const std::vector<int>& frames) {
   while (TABPROPS().count() > 0) TABPROPS().removeAt(0);
   frames_ = frames;
@@ -144,7 +144,7 @@ void frmProps::fillGeneral() {
     showAttributes();
     showIcon(facts_.icon.get());
   } catch (const values::RuntimeError&) {
-    // A file that cannot be asked has no more facts; what is known of it so far is shown.
+    // Where a fact cannot be read, those behind it stay empty.
   }
 }
 
@@ -163,8 +163,8 @@ void frmProps::fillDocument() {
   });
 }
 
-// The lines of the text as they break between the margins of a page; without a printer there is
-// no page, and they end only where the text itself breaks them.
+// Counts the lines of the text, wrapped between the margins of a page. Without a printer there is
+// no page; lines then end only where the text has line ends.
 int frmProps::documentLines(const std::string& text) const {
   constexpr double endless = 300000;
   double width = endless;
@@ -205,7 +205,8 @@ void frmProps::showAttributes() {
   CHKATTR(0).setEnabled(!path_.empty());
 }
 
-// The box follows the file, not the click: where the attribute cannot be changed, the box stays.
+// Changes the read-only attribute and shows the attribute that the file has then. Where it cannot
+// be changed, the check box stays as it was.
 void frmProps::changeReadOnly() {
   if (path_.empty()) return;
   if (!setReadOnly(path_, !ATTRREADONLY())) windowing::seams().beep();

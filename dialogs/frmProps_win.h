@@ -1,5 +1,5 @@
-// The properties of the open document: facts about its file, figures of its text, and for the
-// maker's products that show pictures, facts about the picture.
+// The properties of the open document: facts about its file, figures of its text and, in those of
+// the maker's products that show pictures, facts about the picture.
 #pragma once
 
 #include <functional>
@@ -19,16 +19,17 @@ class frmProps : public windowing::Form {
   frmProps();
   ~frmProps() override { unload(); }
 
-  /// Gives the text whose figures are shown; figures stay empty without it, or where it raises.
+  /// Sets the function that gives the text to count. Without it, or where it raises an error, the
+  /// figures stay empty.
   void setDocumentText(std::function<std::string()> text) { documentText_ = std::move(text); }
-  /// Where the paper is asked for instead of the current printer.
+  /// Sets a function that gives the paper, in place of the current printer.
   void setPaper(std::function<ReportPaper()> paper) { paper_ = std::move(paper); }
 
   /// Fills the loaded form anew, for the current document and its kind.
   void UPDATEINFO();
   /// Whether the document's file is marked read-only.
   [[nodiscard]] bool ATTRREADONLY() const;
-  /// `path` with the letters that the disk has; see library/proper_case_win.h.
+  /// `path` spelled as on the disk; see library/proper_case_win.h.
   [[nodiscard]] static std::string PROPERCASEPATH(const std::string& path);
   /// `text` up to its first NUL.
   [[nodiscard]] static std::string TRIMNULL(const std::string& text);
@@ -60,8 +61,8 @@ class frmProps : public windowing::Form {
 
   std::function<std::string()> documentText_;
   std::function<ReportPaper()> paper_ = [] { return reportPaper(paper::printer()); };
-  std::vector<int> frames_;  ///< of the tabs, in their order
-  std::string path_;         ///< of the file the facts are of; empty where there is none
+  std::vector<int> frames_;  ///< the pages, in the order of their tabs
+  std::string path_;         ///< the file whose facts are shown; empty where there is none
   FileFacts facts_;
 };
 

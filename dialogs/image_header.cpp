@@ -8,8 +8,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// Numbers at places of a text of bytes. A place past the end makes all of the reading fail, so
-// that callers check once.
+// Reads numbers from bytes. A number past the end makes `whole` false, so that callers need to
+// check only once.
 class Bytes {
  public:
   explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
@@ -34,7 +34,7 @@ class Bytes {
 
 using Header = std::optional<ImageHeader>;
 
-// A header that holds together: all of it was there, and the picture has an extent.
+// The header, if all its bytes were there and the picture has a size.
 Header checked(const Bytes& bytes, const ImageHeader& header) {
   const bool possible =
       bytes.whole() && header.width != 0 && header.height != 0 && header.depth != 0;
@@ -43,7 +43,7 @@ Header checked(const Bytes& bytes, const ImageHeader& header) {
 
 Header readBmp(Bytes bytes) {
   constexpr std::uint32_t coreSize = 12;  // the old header, with sides of 16 bits
-  constexpr std::uint32_t infoSize = 40;  // the least of its successors
+  constexpr std::uint32_t infoSize = 40;  // the smallest of the later headers
   constexpr std::uint32_t signBit = 0x80000000U;
   constexpr std::array<std::uint32_t, 6> depths{1, 4, 8, 16, 24, 32};
 
@@ -59,7 +59,7 @@ Header readBmp(Bytes bytes) {
     header.height = bytes.little32(22);
     depth = bytes.little16(28);
     if ((header.width & signBit) != 0) return std::nullopt;
-    // A negative height says that the picture begins with its top row.
+    // A negative height means that the top row comes first.
     if ((header.height & signBit) != 0) header.height = 0U - header.height;
     if (header.height == signBit) return std::nullopt;
   }
@@ -78,7 +78,7 @@ struct PngColour {
 constexpr PngColour pngColours[] = {
     {0, 1, 1, 16},  // grey
     {2, 3, 8, 16},  // red, green, blue
-    {3, 1, 1, 8},   // places in a palette
+    {3, 1, 1, 8},   // indexes into a palette
     {4, 2, 8, 16},  // grey and alpha
     {6, 4, 8, 16},  // red, green, blue and alpha
 };
@@ -99,19 +99,19 @@ Header readPng(Bytes bytes) {
   return checked(bytes, header);
 }
 
-// Markers of a JPEG file that begin a picture's frame: all ways of coding, but not the tables
-// and the reserved one that stand among their numbers.
+// Markers of a JPEG file that begin a frame. The three numbers left out are two tables and a
+// reserved one.
 constexpr bool beginsFrame(std::uint32_t marker) {
   return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-// Markers that stand alone, without a length behind them.
+// Markers that have no length behind them.
 constexpr bool standsAlone(std::uint32_t marker) {
   return marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
 }
 
 Header readJpegFrame(Bytes bytes, std::size_t at) {
-  constexpr std::uint32_t frameSize = 8;  // without its components
+  constexpr std::uint32_t frameSize = 8;  // of a frame without components
   constexpr std::uint32_t componentSize = 3;
   const std::uint32_t length = bytes.big16(at);
   const std::uint32_t precision = bytes.byte(at + 2);
@@ -133,7 +133,7 @@ Header readJpeg(Bytes bytes) {
     while (at < bytes.size() && bytes.byte(at) == fill) ++at;
     const std::uint32_t marker = bytes.byte(at++);
     if (standsAlone(marker)) continue;
-    // The frame stands before the first scan.
+    // No frame can follow the first scan.
     if (marker == 0 || marker == scan || marker == end) return std::nullopt;
     if (beginsFrame(marker)) return readJpegFrame(bytes, at);
     const std::uint32_t length = bytes.big16(at);
@@ -147,7 +147,7 @@ Header readGif(Bytes bytes) {
   constexpr std::uint32_t hasTable = 0x80;
   constexpr std::uint32_t sizeBits = 0x07;
   const std::uint32_t flags = bytes.byte(10);
-  // Without a table of the whole file, the colours that the picture was made from count.
+  // A file without a colour table tells the depth of the original colours.
   const std::uint32_t bits = (flags & hasTable) != 0 ? flags & sizeBits : flags >> 4 & sizeBits;
   return checked(
       bytes, {ImageType::gif, bytes.little16(6), bytes.little16(8), static_cast<int>(bits) + 1});

@@ -1,4 +1,4 @@
-// What the first bytes of a picture file say of the picture.
+// Reading the header of a picture file.
 #pragma once
 
 #include <cstddef>
@@ -17,12 +17,12 @@ struct ImageHeader {
   int depth = 0;             ///< bits per pixel
 };
 
-/// As much of a file as is worth reading for its header. That of a JPEG file comes last of what
-/// stands before the picture, behind previews and colour profiles.
+/// How much of a file is read to find its header. In a JPEG file the header comes behind previews
+/// and colour profiles.
 constexpr std::size_t imageHeaderBytes = std::size_t{1024} * 1024;
 
-/// The header at the start of `bytes`; nothing where they are no picture of a known type, or
-/// where its header is cut or says what cannot be.
+/// The header at the start of `bytes`. No value where they are no picture of a known type, or the
+/// header is incomplete or has impossible numbers.
 [[nodiscard]] std::optional<ImageHeader> readImageHeader(std::string_view bytes);
 
 /// "BMP", "PNG", "JPEG" or "GIF".

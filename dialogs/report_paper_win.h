@@ -1,11 +1,11 @@
-// The paper that a report would be printed on.
+// Paper and margins of a printed report.
 #pragma once
 
 #include "paper/printer_win.h"
 
 namespace dialogs {
 
-/// Paper of a printer and the report's type on it, twips.
+/// Size of a printer's paper and of the report's text on it, twips.
 struct ReportPaper {
   double width = 0;
   double height = 0;
@@ -15,7 +15,7 @@ struct ReportPaper {
 /// Paper in `printer`. Raises a printer error where no printer is installed.
 [[nodiscard]] ReportPaper reportPaper(paper::Printer& printer);
 
-/// The margins of printed pages as they are stored, inches.
+/// The stored margins of printed pages, inches.
 struct ReportMargins {
   double left = 1;
   double right = 1;

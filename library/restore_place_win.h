@@ -7,8 +7,8 @@
 
 namespace library {
 
-/// Puts a form where the user left it. Where what is stored makes no sense, the form stays where
-/// its design put it.
+/// Puts a form where the user left it. Where the stored place is invalid, the form stays where its
+/// design put it.
 inline void restorePlace(const std::string& name, windowing::Form& form, bool sizable) {
   values::ignoringErrors([&] { LIBRARY().FORMLOAD(name, form, sizable); });
 }

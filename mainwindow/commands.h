@@ -41,7 +41,7 @@ constexpr auto mainCommands = [] {
     {id::HEADERFOOTER, viewMenu, "MNUVIEWHEADERFOOTER", "&Header/Footer...", "HEADERFOOTER", afterGap},
     {id::PROPERTIES,   viewMenu, "MNUVIEWPROPERTIES",   "&Properties...",    "PROPERTIES"},
 
-    // One page is one contact.
+    // "Page" means a contact here.
     {goToMenu, menuBar, "MNUGOTOTOP", "&Go To"},
     {id::FIRST,    goToMenu, "MNUGOTOFIRST",    "&First Page",    "FIRST PAGE",    afterGap, {Key::home}},
     {id::PREVIOUS, goToMenu, "MNUGOTOPREVIOUS", "&Previous Page", "PREVIOUS PAGE", plain,    {Key::pageUp}},
@@ -56,21 +56,22 @@ constexpr auto mainCommands = [] {
 }();
 // clang-format on
 
-/// What availability follows from: the number of contacts, the index of the one on screen (from
-/// 0), and the modified state, which is the available state of Save and kept nowhere else.
+/// What decides which commands are available: the number of contacts, the index of the one on
+/// screen (from 0), and the modified state, which is stored nowhere but as the enabled state of
+/// Save.
 struct CommandState {
   int count = 0;
   int current = 0;
   bool modified = false;
 };
 
-/// Whether the name box takes a choice.
+/// Whether a name can be chosen in the name box.
 [[nodiscard]] constexpr bool nameBoxAvailable(const CommandState& state) {
   return state.count > 0;
 }
 
-/// Whether a command is available; nothing for a number that is no command. The compiler notices a
-/// command that has no rule here.
+/// Whether a command is available. No value for a number that is no command. The compiler reports a
+/// command without a case here.
 [[nodiscard]] constexpr std::optional<bool> availability(int command, const CommandState& state) {
   using enum mainwindow::id::MainCommand;
   switch (static_cast<mainwindow::id::MainCommand>(command)) {

@@ -13,7 +13,8 @@ namespace mainwindow {
 
 namespace {
 
-// Asks nothing of the file but who it is, so that it may be held open by others.
+// Reads the facts of a file, also of one that other programs have open. Opens it without access to
+// its content, which no other program can prevent.
 bool identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& facts) {
   const values::FileHandle file(
       CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -36,7 +37,7 @@ FileStamp stampOf(const BY_HANDLE_FILE_INFORMATION& facts) {
 FileContent readFile(const std::string& path, files::FileCalls& calls) {
   const values::FileHandle file(calls.open(path, GENERIC_READ, OPEN_EXISTING));
   if (!file) values::raiseLastError();
-  // A device would be read for ever.
+  // Reading a device might never end.
   if (GetFileType(file.get()) != FILE_TYPE_DISK) throw values::systemError(ERROR_ACCESS_DENIED);
   BY_HANDLE_FILE_INFORMATION facts{};
   if (!calls.information(file.get(), facts)) values::raiseLastError();
@@ -50,7 +51,7 @@ FileContent readFile(const std::string& path, files::FileCalls& calls) {
     DWORD done = 0;
     if (!calls.read(file.get(), bytes.data() + at, static_cast<DWORD>(bytes.size() - at), done))
       values::raiseLastError();
-    if (done == 0) break;  // the file grew shorter meanwhile
+    if (done == 0) break;  // the file has become shorter
     at += done;
   }
   const bool whole = at == bytes.size();
@@ -75,8 +76,8 @@ bool sameFile(const std::string& one, const std::string& other) {
 }
 
 bool isFolder(const std::string& path) {
-  // Where the system takes a name for a device ("con", "C:\\nul"), the full path says so. It is not
-  // asked anything then: a device may never answer.
+  // The full path tells when Windows takes a name for a device ("con", "C:\\nul"). A device is not
+  // asked for its attributes, since it may never answer.
   const std::string full = fullPathOf(path);
   if (full.empty() || full.starts_with(R"(\\.\)") || full.starts_with(R"(\\?\)")) return false;
   const DWORD attributes = GetFileAttributesA(full.c_str());

@@ -10,7 +10,7 @@
 
 namespace mainwindow {
 
-/// By what a file that somebody else has written to is known.
+/// Size and time of a file; when they change, another program has written to it.
 struct FileStamp {
   std::uint64_t size = 0;       ///< bytes
   std::uint64_t lastWrite = 0;  ///< 100 nanoseconds, from 1601 on
@@ -19,24 +19,24 @@ struct FileStamp {
 
 struct FileContent {
   document::Bytes bytes;
-  bool whole = false;  ///< false: the file turned out shorter than it said it was
+  bool whole = false;  ///< false: the file was shorter than its size said
   FileStamp stamp;     ///< as it was when it was opened
 };
 
-/// The whole content of a file, read in one go. Raises what keeps it from being opened or read
-/// (file not found, permission denied, ...); a folder or a device is no document.
+/// The whole content of a file, read at once. Raises where it cannot be opened or read (file not
+/// found, permission denied, ...), and for a folder or a device.
 [[nodiscard]] FileContent readFile(const std::string& path, files::FileCalls& calls);
 
-/// Size and time of the file `path` now; nothing where there is none, or none that answers.
+/// Size and time of the file `path` now. No value where there is no file or it does not answer.
 [[nodiscard]] std::optional<FileStamp> stampOf(const std::string& path);
 
-/// Whether two paths lead to one file, however they are written.
+/// Whether two paths lead to the same file, even if they are spelled differently.
 [[nodiscard]] bool sameFile(const std::string& one, const std::string& other);
 
-/// Whether `path` is a folder that is there; a device is none, under whatever name it goes.
+/// Whether `path` is a folder that exists. False for a device.
 [[nodiscard]] bool isFolder(const std::string& path);
 
-/// A path as the system understands it: from the drive on, without dots. Empty where it cannot.
+/// The full path of `path`, without "." and "..". Empty where Windows cannot tell it.
 [[nodiscard]] std::string fullPathOf(const std::string& path);
 
 }  // namespace mainwindow

@@ -65,7 +65,7 @@ void frmMain::addByUser() {
         windowing::productName(), MB_OK | MB_ICONEXCLAMATION);
     return;
   }
-  // Edits that cannot be stored call it off while all is still as it was.
+  // Stored first: if that fails, nothing has changed yet.
   StoreCurrent();
   AddContact();
   focusFirstField();
@@ -75,7 +75,7 @@ void frmMain::RefreshCommands() {
   const CommandState state{list_.count(), list_.current(), modified()};
   enableCommands([&state](int command) { return availability(command, state); });
   const bool anyName = nameBoxAvailable(state);
-  // A disabled control that kept the focus would leave the keyboard dead.
+  // The focus must not stay on a disabled control: keys would have no effect.
   if (!anyName && CBOTBARBOX().focused()) TABMAIN().focus();
   CBOTBARBOX().setEnabled(anyName);
 }

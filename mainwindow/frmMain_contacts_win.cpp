@@ -30,15 +30,17 @@ bool multipleBytes() {
   return multiple;
 }
 
-// An empty box that stays empty needs no painting; it only has to forget what could be undone.
+// Whether a box is empty already; then it need not be filled and painted. Empties its undo buffer,
+// which still holds the text of another contact.
 bool staysEmpty(const document::Field& field, const windowing::TextBox& box) {
   if (field.box != document::Box::TXTITEMS || box.send(WM_GETTEXTLENGTH) != 0) return false;
   box.send(EM_EMPTYUNDOBUFFER);
   return true;
 }
 
-// Fills a box and keeps in `shown` what it gives back. False where it has not taken the text: on
-// Wine it says even then that it has, and shows the one before.
+// Fills a box and sets `shown` to the text that it then has. False where it has not taken the whole
+// text. The text is read back because on Wine a box reports success even when it keeps its old
+// text.
 bool fillBox(const windowing::Control& box, std::string_view text, std::string& shown) {
   try {
     const std::string wanted(text);
@@ -46,13 +48,14 @@ bool fillBox(const windowing::Control& box, std::string_view text, std::string& 
     shown = box.text();
     return taken && shownWhole(wanted, shown, multipleBytes());
   } catch (const std::exception&) {
-    return false;  // too little memory
+    return false;  // not enough memory
   }
 }
 
 }  // namespace
 
-// A box that cannot take the text shows none, rather than another contact's.
+// Shows a text in its box. A box that cannot take it is emptied, so that it does not show the text
+// of another contact. False then.
 bool frmMain::showField(const BoxOnPage& place, std::string_view text) {
   const auto& [field, box] = place;
   std::string& shown = shown_[static_cast<std::size_t>(field->slot)];
@@ -66,7 +69,7 @@ bool frmMain::showField(const BoxOnPage& place, std::string_view text) {
   return false;
 }
 
-// Filling the boxes raises their change notices; that is no editing.
+// `filling` tells the handlers of change notices that the user has not edited anything.
 void frmMain::showTexts(const document::ContactList::Texts& texts) {
   const While filling(filling_);
   bool whole = true;
@@ -75,8 +78,8 @@ void frmMain::showTexts(const document::ContactList::Texts& texts) {
   if (whole != shownWhole_) setShownWhole(whole);
 }
 
-// The boxes of a contact that they could not take are locked, for nothing of them is stored. The
-// user is told once a document, when the step that came upon it is done.
+// Locks the boxes while they do not hold the whole contact, since nothing is stored from them then.
+// Tells the user once for each document, after the command that showed the contact.
 void frmMain::setShownWhole(bool whole) {
   shownWhole_ = whole;
   for (const auto& [field, box] : boxesOn(madePages_)) box.setReadOnly(!whole);
@@ -101,9 +104,9 @@ std::vector<frmMain::BoxOnPage> frmMain::boxesOn(std::span<const int> pages) con
   return found;
 }
 
-// A page is made when it is first shown, with what the contact on screen has for it. Until all of
-// that has gone well its boxes count for nothing: an empty one would pass for one that the user
-// has emptied.
+// Makes a page, when it is first shown, and fills it with texts of the contact on screen. The page
+// is added to `madePages_` only when that has succeeded. Otherwise an empty box would look as if
+// the user had emptied it.
 void frmMain::makePage(int page) {
   if (std::ranges::count(madePages_, page) != 0) return;
   createControls(page);
@@ -115,7 +118,7 @@ void frmMain::makePage(int page) {
     box.box.setEnabled(list_.count() > 0);
     if (!showField(box, texts[static_cast<std::size_t>(box.field->slot)])) whole = false;
   }
-  // What was typed into the others so far is stored before they are locked.
+  // Edits in the boxes of other pages are stored before all boxes are locked.
   if (!whole) StoreCurrent();
   madePages_.push_back(page);
   if (!whole) setShownWhole(false);
@@ -139,14 +142,14 @@ void frmMain::StoreCurrent() {
 }
 
 void frmMain::AddContact() {
-  // The list grows before anything else is touched: a full one leaves all as it was.
+  // First of all: where the list is full, nothing must change.
   if (!list_.append()) values::raiseOverflow();
   list_.ClearLastRecord();
-  // The contact still on screen keeps the edits made to it.
+  // The contact on screen is still the old one; its edits are stored.
   StoreCurrent();
   CBOTBARBOX().add(list_.nameEntry(list_.count() - 1));
   list_.setCurrent(static_cast<std::int16_t>(list_.count() - 1));
-  // Shown twice on purpose: the family's windows always have.
+  // Deliberately shown twice.
   ShowCurrent();
   ShowCurrent();
   RefreshCommands();
@@ -164,7 +167,7 @@ void frmMain::RemoveContact() {
     RefreshCommands();
     return;
   }
-  // The last contact went: current stands on the spare element behind the new last one.
+  // The last contact was removed, so the current index is now that of the spare element.
   const bool wasModified = modified();
   StoreCurrent();
   GoLast();
@@ -172,8 +175,8 @@ void frmMain::RemoveContact() {
   RefreshCommands();
 }
 
-// Leaves one contact for another: edits are kept, and the modified state with them, since
-// moving is never a modification.
+// Goes to another contact. Stores the edits and keeps the modified state, since going to another
+// contact modifies nothing.
 void frmMain::move(void (frmMain::*step)()) {
   StoreCurrent();
   const bool wasModified = modified();
@@ -181,7 +184,7 @@ void frmMain::move(void (frmMain::*step)()) {
   SETSAVE(values::textOfBoolean(wasModified));
 }
 
-// The steps check no bounds: the commands are not offered at the ends.
+// The four steps check no bounds, since the commands are disabled at the ends.
 void frmMain::GoFirst() {
   list_.GoFirst();
   ShowCurrent();
@@ -220,7 +223,7 @@ void frmMain::emptyFields() {
   showTexts({});
 }
 
-// The name box follows what is typed; the entry of no contact is never touched.
+// Updates the entry of the contact on screen in the name box, while its names are being typed.
 void frmMain::rewriteNameEntry() {
   const int current = list_.current();
   if (current < 0 || current >= list_.count()) return;
@@ -239,7 +242,7 @@ void frmMain::onSelect(int list) {
   try {
     goTo(CBOTBARBOX().selected());
   } catch (const std::exception& error) {
-    // The name box goes on naming the contact on screen.
+    // The name box must name the contact on screen again.
     CBOTBARBOX().select(list_.current());
     if (!values::isOutOfMemory(error)) throw;
     values::raiseOutOfMemory("The contact on screen could not be left.");
@@ -250,7 +253,7 @@ void frmMain::onTab(int) {
   showPage(TABMAIN().selected());
 }
 
-// Exactly one page is visible; the focus does not stay behind on a hidden one.
+// Shows one page and hides the others. Moves the focus away from a page that is hidden.
 void frmMain::showPage(int index) {
   const int shown = design::pages.at(static_cast<std::size_t>(index));
   makePage(shown);
@@ -263,7 +266,7 @@ void frmMain::showPage(int index) {
   }
 }
 
-// Where a user goes on after a new contact or document came up: its first names.
+// Puts the focus on the first names, where the user begins with a new contact or document.
 void frmMain::focusFirstField() {
   const While filling(filling_);
   TABMAIN().select(0);
@@ -279,7 +282,7 @@ void frmMain::refreshFieldState() {
   for (const auto& [field, box] : boxesOn(madePages_)) {
     box.setEnabled(any);
     box.repaint();
-    // A disabled control that kept the focus would leave the keyboard dead.
+    // The focus must not stay on a disabled control: keys would have no effect.
     if (!any && box.handle() == focus) TABMAIN().focus();
   }
 }

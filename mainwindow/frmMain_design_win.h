@@ -1,5 +1,5 @@
-// The main window as its designer laid it out: places in twips, 15 to the pixel at 96 dots
-// per inch. The order of the rows is the order in which the user tabs.
+// The design of the main window. Places are twips, 15 to the pixel at 96 dots per inch. The order
+// of the rows is the tab order.
 #pragma once
 
 #include <array>

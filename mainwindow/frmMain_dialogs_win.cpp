@@ -1,4 +1,4 @@
-// The contact on screen handed to the dialogs.
+// Opening the dialogs.
 #include "dialogs/frmProps_win.h"
 #include "library/modLibrary_win.h"
 #include "mainwindow/frmMain_design_win.h"
@@ -14,8 +14,8 @@ document::ContactRecord frmMain::valuesOnScreen() const {
   return values;
 }
 
-// The figures are those of the report of the contact on screen, edits included. It is composed
-// for them alone: what the menu's Print prints stays as it was composed last.
+// The properties count the lines of the report of the contact on screen, with its edits. That
+// report is composed separately: the menu's Print still prints the one that was composed last.
 void frmMain::showProperties() {
   library::modLibrary().documentKind = CMD1.fileName.empty() ? "UNTITLED" : "DOCUMENT";
   dialogs::frmProps properties;

@@ -34,12 +34,11 @@ namespace {
 
 constexpr char filter[] = "Tellary Document (*.tly)|*.tly";
 constexpr char extension[] = "tly";
-// Hide-read-only, long names, Explorer style.
 constexpr DWORD openFlags = OFN_EXPLORER | OFN_LONGNAMES | OFN_HIDEREADONLY;
 static_assert(openFlags == 0x280004);
 constexpr int askSaveBeforeClose = 6;
 
-// Whether there is certainly no such file. A drive that does not answer may hold one.
+// Whether certainly no file of this name exists. False where the drive does not answer.
 bool isFree(const std::string& path, files::FileCalls& calls) {
   return calls.attributes(path) == INVALID_FILE_ATTRIBUTES &&
          GetLastError() == ERROR_FILE_NOT_FOUND;
@@ -62,8 +61,8 @@ void frmMain::FILELOAD(const std::string& path) {
     if (outcome.result == document::ReadResult::overflow) values::raiseOverflow();
     if (!readWhole_) throw RuntimeError(ErrorNumber::inputPastEnd, "Input past end of file");
   } catch (const RuntimeError& error) {
-    // A name that no file has yet loses nothing when it is written to. Where the whole folder is
-    // missing, a drive may only be away, and come back with the file.
+    // Where no file of this name exists, Save may write one: no bytes can be lost. Where the folder
+    // is missing too, Save may not: the drive may come back, and the file with it.
     if (error.number() == ErrorNumber::fileNotFound) readWhole_ = true;
     failure = std::current_exception();
   } catch (const std::bad_alloc&) {
@@ -95,8 +94,8 @@ void frmMain::setDocumentPath(const std::string& path) {
   library::modLibrary().documentPath = path;
 }
 
-// Only a folder that is there: the file dialogs of Wine end the program where they are to begin in
-// a device.
+// The stored folder, if it exists. Otherwise the documents' folder: on Wine, a file dialog that is
+// to begin in a device ends the program.
 std::string frmMain::rememberedFolder(library::Setting setting) const {
   const std::string otherwise = LIBRARY().FILESLOCATION();
   const std::string stored = library::readText(setting, otherwise);
@@ -109,8 +108,8 @@ void frmMain::rememberFolder(library::Setting setting, const std::string& file) 
   library::writeText(setting, LIBRARY().GETFOLDERPATH(file));
 }
 
-// The steps that opening from a dialog and from the command line share. Raises what the file
-// could not be read for, after everything else was brought in step.
+// Opens a document, from a dialog or from the command line. Raises the error of reading the file,
+// after the title and the modified state were set.
 void frmMain::openPath(const std::string& path) {
   setDocumentPath(path);
   rememberFolder(library::Setting::openFolder, path);
@@ -130,19 +129,21 @@ void frmMain::openNamedAtStart(const std::string& path) {
   try {
     openPath(path);
   } catch (const std::exception&) {
-    // Start-up tells nothing: the title names the file, and what was read is on screen.
+    // Deliberately not reported at the start. The title shows the file's name, and the contacts
+    // that were read are on screen.
   }
 }
 
-// Whether the document on screen may be given up: it is unmodified, or the user says so.
+// Whether the document on screen may be closed: it is unmodified, or the user saves it or agrees to
+// lose the changes.
 bool frmMain::mayDiscard(int question) {
   if (!modified()) return true;
-  // A shutdown, or another request to close, waits for the question that is on screen.
+  // While the question is on screen, no second one is asked: a shutdown has to wait.
   if (asking_) return false;
   const While asking(asking_);
   const std::string name = LIBRARY().FILECHK(CMD1.fileName);
   const int answer = LIBRARY().MESSAGEBOXFCN(question, name, "", "", "");
-  // No answer at all is none that lets the work go.
+  // Any other answer, also that of a box that could not be shown, keeps the document open.
   return answer == IDNO || (answer == IDYES && SaveDocument());
 }
 
@@ -204,21 +205,21 @@ void frmMain::tellUnread(const std::string& path, const RuntimeError& error) {
   windowing::seams().messageBox(windowing::dialogOwner(), text, "Open", MB_OK | MB_ICONEXCLAMATION);
 }
 
-// Writes the document; what keeps it from being written is told here.
+// Writes the document, and reports an error to the user. False then.
 bool frmMain::saveTo(const std::string& path) {
   try {
     FILESAVEAS(path);
     return true;
-  } catch (const std::exception&) {  // too little memory is no better reason
+  } catch (const std::exception&) {  // of any kind, also too little memory
     LIBRARY().MESSAGEBOX(library::message::problemSaving, path, "", "", "");
     return false;
   }
 }
 
 bool frmMain::SaveDocument() {
-  // What a broken file still holds beyond the contacts read must not be written over.
+  // A broken file may hold more than the contacts that were read, so it must not be written over.
   if (CMD1.fileName.empty() || !readWhole_) return saveAs();
-  // Somebody else has written to the file, or made one of this name.
+  // Ask first where another program has changed the file, or made one of this name.
   const std::optional<FileStamp> now = stampOf(CMD1.fileName);
   if (now && now != onDisk_ && !LIBRARY().OVERWRITECHK(CMD1.fileName)) return false;
   return saveTo(CMD1.fileName);

@@ -49,13 +49,13 @@ constexpr int FRAMHOMEADDRESS = 1016;
 constexpr int FRAMHOMECONTACT = 1017;
 constexpr int FRAMWORKADDRESS = 1018;
 constexpr int FRAMWORKCONTACT = 1019;
-constexpr int TXTITEMS = 1100;  ///< the first of the boxes; each is this and its index
+constexpr int TXTITEMS = 1100;  ///< the first of the boxes; the others follow by their index
 constexpr int textItemCount = 24;
 constexpr int CBOPEMAIL = 1130;
 constexpr int CBOPWORKEMAIL = 1131;
 constexpr int CBOPWEBSITE = 1132;
 constexpr int CBOPWORKWEBSITE = 1133;
-constexpr int labelOffset = 100;  ///< a box's label is the box and this
+constexpr int labelOffset = 100;  ///< number of a box's label less that of the box
 
 /// Box `index` (0 to 23) of the text boxes.
 [[nodiscard]] constexpr int textItem(int index) {

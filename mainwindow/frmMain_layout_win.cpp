@@ -22,7 +22,6 @@
 namespace mainwindow {
 
 using library::LIBRARY;
-namespace {}  // namespace
 
 frmMain::frmMain() : CommandForm(design::form, {mainCommands, id::TABMAIN}) {}
 
@@ -62,7 +61,8 @@ void frmMain::onLoad() {
   ICONMENUS();
   library::restorePlace(name(), *this, false);
   applyView();
-  // The boxes are not greyed first only to be freed by the new document.
+  // The state is set before the document exists, so that the boxes are not disabled and at once
+  // enabled again.
   SETSAVE("False");
   startNewDocument();
   madePages_.clear();
@@ -77,7 +77,7 @@ void frmMain::viewChanged() {
   layOut();
 }
 
-// The window's height follows from the heights of its parts as they were designed.
+// Sets the window's height to the sum of the heights that the design gives its parts.
 void frmMain::layOut() {
   LayoutHeights heights;
   heights.toolbar = {design::toolbarHeight};
@@ -92,7 +92,7 @@ void frmMain::layOut() {
   arrange();
 }
 
-// Strips from the top, the status bar at the foot, the body in what is left.
+// Places the strips at the top, the status bar at the foot and the body between them.
 void frmMain::arrange() {
   const bool toolbar = commandChecked(id::STANDARDBAR);
   RECT client{};
@@ -105,8 +105,8 @@ void frmMain::arrange() {
   control(id::PICHEADER).placePixels({0, top, client.right, top + header});
   control(id::PICMAINBOX).placePixels({0, top + header, client.right, foot});
 
-  // Captions and menus of today take more than the height allows for; the tab strip gives way,
-  // into the room below its frames.
+  // Caption and menu bar are higher today than the window's height allows for. So the tab strip is
+  // made smaller; it has room to spare below its frames.
   const int inset = windowing::screenPixels(design::bodyMargin);
   const int body = foot - top - header;
   const int tabs = std::min(windowing::screenPixels(design::tabHeight), body - 2 * inset);
@@ -116,7 +116,7 @@ void frmMain::arrange() {
     OffsetRect(&frame, 0, inset + windowing::screenPixels(design::framesTop) - frame.top);
     control(page).placePixels(frame);
   }
-  // Parts that were moved over others have painted on them.
+  // Controls that were moved have painted over others.
   RedrawWindow(handle(), nullptr, nullptr,
                RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }

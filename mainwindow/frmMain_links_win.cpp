@@ -1,4 +1,4 @@
-// The e-mail and web boxes: text boxes whose button opens what they hold.
+// The e-mail and web boxes: text boxes with a button that opens their address.
 #include "controls/TXTBTN_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/images.h"
@@ -28,13 +28,14 @@ void frmMain::setLinkButton(int box) {
 }
 
 void frmMain::onNotice(int box, int notice) {
-  // Where a command moves the focus on, the box may hold another contact's address by now.
+  // `filling_`: the focus was moved by a command, and the box may hold another contact's address by
+  // now.
   if (notice == TXTBTN::left && isWeb(box) && !filling_) checkWebAddress(box);
   if (notice == TXTBTN::clicked && IsWindowEnabled(handle())) openLink(box);
 }
 
-// An address that is typed without its scheme gets one. Only a text that differs is written
-// back: the same text would count as an edit.
+// Adds the scheme to an address that was typed without one. The box is not filled with the same
+// text again, since that would count as an edit.
 void frmMain::checkWebAddress(int box) {
   if (!shownWhole_) return;
   const windowing::Control address = control(box);

@@ -9,21 +9,21 @@
 
 namespace mainwindow {
 
-// The box is made when something is printed for the first time: most sessions never do, and the
-// system's rich text library takes its time to load.
+// The box is made when it is first used: the rich text library takes long to load, and often
+// nothing is printed.
 paper::RichTextBox& frmMain::RTF1() {
   if (RTF1_.handle() == nullptr) RTF1_.create(handle(), id::RTF1, {0, 0, 100, 100});
   return RTF1_;
 }
 
-// From what stands in the boxes: edits that are not stored yet are printed as they stand.
+// Composes the report from the texts in the boxes, with edits that are not stored yet.
 void frmMain::ComposeContactReport() {
   const windowing::Hourglass waiting;
   const document::ContactRecord values = valuesOnScreen();
   try {
     printing::composeReport(values, RTF1(), printing::thePreview().RTF3());
   } catch (...) {
-    // Half a report is none to be printed later.
+    // Part of a report must not be printed later.
     RTF1().setPlain({});
     throw;
   }
@@ -43,7 +43,7 @@ void frmMain::printLastReport() {
   printing::PRINTING().PRINTDOCUMENT(printing::thePreview(), RTF1(), false);
 }
 
-// As the menu's Print: the report composed last, deliberately.
+// Deliberate: the preview shows the report composed last, as the menu's Print prints it.
 void frmMain::previewLastReport() {
   printing::PRINTING().setReport(RTF1());
   printing::PRINTING().PRINTPREVIEW();

@@ -23,28 +23,28 @@ class frmMain : public library::CommandForm {
  public:
   frmMain();
 
-  /// Replaces the list with a file's contacts. Raises what keeps the file from being read to
-  /// its end; the complete contacts before that place are in the list and on screen then.
-  /// Changes neither the title nor a remembered folder.
+  /// Replaces the list with a file's contacts. Raises when the file cannot be read to its end; the
+  /// complete contacts up to that place are then in the list and on screen. Changes neither the
+  /// title nor the stored folder.
   void FILELOAD(const std::string& path);
-  /// Writes the whole list to a file, the edits on screen included. Raises what keeps the file
-  /// from being written; it is as it was then, and the document still modified.
+  /// Writes the whole list to a file, with the edits on screen. Raises when the file cannot be
+  /// written; the file is then unchanged and the document still modified.
   void FILESAVEAS(const std::string& path);
-  /// Sets the modified state, which is the enabled state of the Save command and nothing else.
-  /// `flag` is a truth value as text, in any case. Refreshes field colours and status text.
+  /// Sets the modified state, which is stored only as the enabled state of the Save command. `flag`
+  /// is "True" or "False" in any case. Also updates field colours and status text.
   void SETSAVE(const std::string& flag);
-  /// Shows the document's path, or that it has none, in the header band.
+  /// Shows the document's path in the header band; "Untitled" where it has none.
   void SETTITLE(const std::string& path);
 
-  /// Opens a document named at start: remembers its path and folder, reads it, shows its title.
-  /// Nothing is told when it cannot be read.
+  /// Opens the document that the command line names: stores its path and folder, reads it and shows
+  /// its title. An error of reading is not reported.
   void openNamedAtStart(const std::string& path);
 
   [[nodiscard]] const document::ContactList& contacts() const { return list_; }
   [[nodiscard]] const std::string& documentPath() const { return CMD1.fileName; }
   [[nodiscard]] bool modified() const;
 
-  /// The calls through which documents are written; a test lets them fail.
+  /// Sets the calls through which documents are read and written; a test gives some that fail.
   void setFileCalls(files::FileCalls& calls) { fileCalls_ = &calls; }
 
  protected:
@@ -123,8 +123,8 @@ class frmMain : public library::CommandForm {
   void rememberFolder(library::Setting setting, const std::string& file);
 
   // Dialogs (frmMain_dialogs_win.cpp).
-  /// The 28 texts as they stand in the boxes, edits included; where there is no box yet, or it
-  /// could not take its text, as they are in the list.
+  /// The 28 texts of the contact on screen. They are those of the boxes, with edits. A text whose
+  /// box is not made yet or could not take it comes from the list.
   [[nodiscard]] document::ContactRecord valuesOnScreen() const;
   void showProperties();
 
@@ -137,24 +137,25 @@ class frmMain : public library::CommandForm {
   [[nodiscard]] windowing::TabStrip TABMAIN() const;
   [[nodiscard]] windowing::TextBox TXTITEMS(int index) const;
 
-  /// Posted to itself where a contact could not be shown whole.
+  /// The window posts this to itself where it could not show a contact whole.
   static constexpr UINT unshownMessage = WM_APP + 1;
 
   document::ContactList list_;
-  std::vector<int> madePages_;  ///< a text of another page, which has no boxes yet, is in the list
-  /// Text of each box, by slot, as the box gave it back after it was filled: only what differs
-  /// from it was edited, and bytes that a box cannot carry survive a visit.
+  std::vector<int> madePages_;  ///< pages whose boxes are made and filled
+  /// By slot: the text that each box gave back after it was filled. Only a box with another text
+  /// was edited. So bytes that a box cannot hold are not lost when a contact is shown.
   std::array<std::string, document::fieldCount> shown_;
   FileDialogState CMD1;
   paper::RichTextBox RTF1_{"RTF1"};
   files::FileCalls realFileCalls_;
   files::FileCalls* fileCalls_ = &realFileCalls_;
-  bool filling_ = false;    ///< the program itself changes the boxes
-  bool asking_ = false;     ///< the user is asked whether the document may be given up
-  bool shownWhole_ = true;  ///< the boxes have taken the contact on screen; if not, they are locked
-  bool unshownTold_ = false;  ///< the user knows that this document has such a contact
-  bool readWhole_ = true;     ///< the document's file holds nothing that the list does not
-  /// The document's file as this program read or wrote it last; nothing where it was not there.
+  bool filling_ = false;      ///< the program itself is changing the boxes
+  bool asking_ = false;       ///< the question of `mayDiscard` is on screen
+  bool shownWhole_ = true;    ///< the boxes hold the whole contact; otherwise they are locked
+  bool unshownTold_ = false;  ///< the user was told that this document has a contact like that
+  bool readWhole_ = true;     ///< the file was read to its end, so that Save may write over it
+  /// Size and time of the document's file when this program last read or wrote it; no value where
+  /// there was no file.
   std::optional<FileStamp> onDisk_;
 };
 

@@ -6,22 +6,22 @@
 namespace mainwindow {
 namespace {
 
-// A name that finds no room stays empty: without its entry, those behind it would stand for other
-// contacts.
+// Adds an entry, an empty one where there is no memory for the name. Without it, the entries behind
+// it would belong to other contacts.
 void addName(HWND target, UINT add, const document::ContactList& list, int index) {
   try {
     const std::string name = list.nameEntry(index);
     if (SendMessageA(target, add, 0, reinterpret_cast<LPARAM>(name.c_str())) >= 0) return;
   } catch (const std::exception&) {
-    // too little memory
+    // not enough memory
   }
   SendMessageA(target, add, 0, reinterpret_cast<LPARAM>(""));
 }
 
 }  // namespace
 
-// Entries go to the list itself: on their way through the box each would pass the subclass that
-// draws its edge, which takes forty times as long.
+// Entries are sent to the list window inside the box. Sent to the box, each would pass the subclass
+// that draws its edge, which takes forty times as long.
 void fillNameBox(const windowing::ComboBox& box, const document::ContactList& list) {
   box.clear();
   COMBOBOXINFO parts{};

@@ -6,7 +6,7 @@
 
 namespace mainwindow {
 
-/// Makes the entries of `box` those of `list`, one for each contact; none is selected.
+/// Fills `box` with one entry for each contact of `list`; none is selected.
 void fillNameBox(const windowing::ComboBox& box, const document::ContactList& list);
 
 }  // namespace mainwindow

@@ -12,7 +12,7 @@ bool isAscii(char c) {
   return static_cast<unsigned char>(c) < 0x80;
 }
 
-// Takes characters off the front until one is shown.
+// Removes characters at the front that a box may not show.
 void skipControls(std::string_view& text) {
   while (!text.empty() && isControl(text.front())) text.remove_prefix(1);
 }
@@ -33,7 +33,7 @@ bool showTheSame(std::string_view one, std::string_view other) {
 bool shownWhole(std::string_view text, std::string_view back, bool multipleBytes) {
   text = text.substr(0, text.find('\0'));
   if (text == back || showTheSame(text, back)) return true;
-  // What stands for such bytes is the system's choice; two of them may become one.
+  // Windows chooses the characters for such bytes, and may replace two bytes by one.
   return multipleBytes && !std::all_of(text.begin(), text.end(), isAscii) &&
          back.size() >= text.size() / 2;
 }

@@ -7,7 +7,7 @@ namespace mainwindow {
 
 std::string statusText(int count, int current) {
   if (count == 0) return {};
-  // The plural stays for a single contact, deliberately.
+  // Deliberate: the plural is used for a single contact too.
   return values::integerText(current + 1) + " of " + values::integerText(count) + " contacts.";
 }
 

@@ -24,12 +24,10 @@ struct LayoutHeights {
 
 /// Space left below the tab strip.
 constexpr int layoutMargin = 90;
-/// What the window's height adds for caption, menu bar and borders.
+/// Height added for caption, menu bar and borders.
 constexpr int frameAllowance = 700;
-/// Top of the tabs' frames, measured from the top of the tab strip.
-constexpr values::Twips frameTopInTabs{390};
-
-/// Sum of the heights that are shown, rounded half to even to 16-bit twips; raises overflow.
+/// Sum of the heights of the parts that are shown, rounded half to even to 16-bit twips; raises
+/// overflow.
 [[nodiscard]] std::int16_t innerHeight(const LayoutHeights& heights);
 
 /// Height of the window in twips; raises overflow beyond 16 bits.

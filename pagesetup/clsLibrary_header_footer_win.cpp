@@ -16,7 +16,7 @@ using values::roundTo;
 
 constexpr int headerFooterPoints = 10;
 
-// `page` lacks nothing but the moment it is printed at.
+// Draws header and footer of `page`, after filling in its date and time.
 void draw(HDC dc, const paper::TextFormat& font, pagesetup::Page page) {
   const SYSTEMTIME now = windowing::seams().localTime();
   page.date = pagesetup::dateText(now.wYear, now.wMonth, now.wDay);
@@ -30,7 +30,7 @@ void draw(HDC dc, const paper::TextFormat& font, pagesetup::Page page) {
   }
 }
 
-// The size is set, the typeface stays as the target has it.
+// Sets the size of the target's font; its typeface stays.
 template <typename Target>
 const paper::TextFormat& sizedFont(Target& target) {
   paper::TextFormat font = target.font();

@@ -1,4 +1,4 @@
-// The library's ways into the page setup.
+// The functions of the library that open the page setup.
 #include <windows.h>
 
 #include "library/clsLibrary_win.h"
@@ -13,8 +13,8 @@
 namespace library {
 namespace {
 
-/// Asking printers may take a while. As long as it lives, the main window says so and the pointer
-/// is an hourglass; both are gone at its end, also after a step that failed.
+/// Shows an hourglass and a text in the main window's status bar until the end of the scope, since
+/// asking printers may take long.
 class Obtaining {
  public:
   Obtaining() { tell("Obtaining settings..."); }
@@ -35,7 +35,8 @@ class Obtaining {
   windowing::Hourglass waiting_;
 };
 
-// Without a printer the user is told so; margins, header and footer can be set all the same.
+// Opens the page setup. Where there is no printer, the user is told so first; margins, header and
+// footer can be set all the same.
 void showPageSetup(const char* tab) {
   pagesetup::frmPSetup form;
   bool printers = false;

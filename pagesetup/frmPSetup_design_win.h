@@ -1,5 +1,5 @@
-// The page setup as its designer laid it out: places in twips, 15 to the pixel at 96 dots per
-// inch. The order of the rows is the order in which the user tabs.
+// The design of the page setup. Places are twips, 15 to the pixel at 96 dots per inch. The order of
+// the rows is the tab order.
 #pragma once
 
 #include "controls/PANEL_win.h"
@@ -17,7 +17,7 @@ constexpr int formWidth = 6900;
 constexpr int margin = 90;   ///< round the tab strip
 constexpr int tabRow = 390;  ///< height of the row of tabs
 constexpr int pageHeight = 4560;
-constexpr int inset = 30;  ///< from the tab strip's sides to what lies on it
+constexpr int inset = 30;  ///< from the tab strip's sides to its pages
 constexpr int tabWidth = formWidth - 2 * margin;
 constexpr int tabHeight = tabRow + pageHeight + inset;
 constexpr int footHeight = 675;  ///< the strip of OK and Cancel
@@ -26,7 +26,7 @@ constexpr int pageLeft = margin + inset;
 constexpr int pageTop = margin + tabRow;
 constexpr int pageWidth = tabWidth - 2 * inset;
 
-constexpr int edge = 180;  ///< from a page's sides to what stands on it
+constexpr int edge = 180;  ///< from a page's sides to its controls
 constexpr int labelHeight = 225;
 constexpr int boxHeight = 315;
 constexpr int checkHeight = 255;
@@ -54,7 +54,7 @@ constexpr int dividerLeft = 2700;
 /// Shows the sample of the page; drawn by the form.
 constexpr ControlKind sampleKind{"STATIC", WS_VISIBLE | SS_OWNERDRAW};
 constexpr ControlKind ruleKind{"STATIC", WS_VISIBLE | SS_BLACKRECT};
-/// A text of the sample that is not for the user to change.
+/// A text of the sample that the user cannot change.
 constexpr ControlKind fixedTextKind{
     .windowClass = "EDIT", .style = WS_VISIBLE | ES_READONLY, .height = windowing::Height::text};
 
@@ -89,15 +89,15 @@ constexpr ControlDesign marginBox(const char* name, int boxId, int row) {
           marginTop(row), marginBoxWidth, boxHeight,          id::FRAMPAGE};
 }
 
-// Header and footer: two groups alike, each a box to switch all of it, boxes for its items, and
-// the sample in which the texts are typed.
+// Header and footer: two groups of the same layout. Each has a check box for the whole group, check
+// boxes for its items, and a sample in which the user types the texts.
 constexpr int groupHeight = 1830;
 constexpr int headerTop = 120;
 constexpr int footerTop = headerTop + groupHeight + 120;
 constexpr int masterDrop = 270;
 constexpr int itemsDrop = 570;
 constexpr int itemPitch = 1410;
-constexpr int itemIndent = 270;  ///< of a group's boxes below the one that switches it
+constexpr int itemIndent = 270;  ///< of the items' check boxes below the one of the group
 constexpr int stripDrop = 885;
 constexpr int stripHeight = 780;
 constexpr int groupInset = 180;

@@ -1,5 +1,5 @@
-// The second page: what stands above and below the text of every printed page. Title and fields
-// are typed in the samples themselves.
+// The second page: header and footer of every printed page. The user types title and fields in the
+// samples.
 #include <windows.h>
 
 #include "library/clsLibrary_win.h"
@@ -15,16 +15,16 @@ namespace pagesetup {
 
 namespace {
 
-/// A box to tick, the group that it belongs to, and the item of the sample that it shows or
-/// hides; the boxes that switch a whole group have none.
+/// The check box of a setting, the check box of its group, and the item of the sample that it shows
+/// and hides. For the check box of a group, there is no item.
 struct OptionBox {
   Setting option;
   int box;
   int master;
   int sample;
 };
-// In the order in which they are loaded and set to their defaults: a group's own box last, so
-// that it finds the others as they are to be.
+// In the order of loading and of setting the defaults. The check box of a group comes after those
+// of its items, because it enables them by their state.
 // clang-format off
 constexpr OptionBox optionBoxes[] = {
   {Setting::footerField1,     id::CHKFOOTFIELD1, id::CHKFOOTER, id::TXTFOOTFIELD1},
@@ -71,7 +71,7 @@ constexpr Setting saveOrder[] = {
 static_assert(std::size(saveOrder) == optionCount &&
               std::size(optionBoxes) + std::size(optionTexts) == optionCount);
 
-// What the settings store gives back of a text: longer ones would read as not stored.
+// The longest text that can be read back from the settings store.
 constexpr int longestText = static_cast<int>(library::settingBufferSize) - 1;
 
 const OptionBox* findBox(int box) {
@@ -88,8 +88,7 @@ int boxOf(Setting option) {
   return 0;
 }
 
-// State of a box for its stored text: "2" is the greyed one. Anything else that is no state
-// counts as not ticked.
+// State of a check box for its stored text: "1" ticked, "2" greyed, any other text not ticked.
 int stateOf(const std::string& text) {
   const std::optional<double> number = values::parseStoredNumber(text, '.');
   for (const int state : {BST_CHECKED, BST_INDETERMINATE})
@@ -134,14 +133,15 @@ void frmPSetup::setDefaultHeaderFooter() {
   for (const OptionBox& box : optionBoxes) tick(box.box);
 }
 
-// A stored greyed state is shown as it is; the first click ends it for good.
+// Shows a state. A greyed check box is one only until the first click, which makes it an ordinary
+// one.
 void frmPSetup::showState(int box, int state) const {
   const WPARAM style = state == BST_INDETERMINATE ? BS_AUTO3STATE : BS_AUTOCHECKBOX;
   checkBox(box).send(BM_SETSTYLE, style, TRUE);
   checkBox(box).setState(state);
 }
 
-// Has the sample follow a box of the page; false for any other control.
+// Handles a click on a check box of the page. False for any other control.
 bool frmPSetup::clickBox(int clicked) {
   const OptionBox* known = findBox(clicked);
   if (known == nullptr) return false;
@@ -169,13 +169,13 @@ void frmPSetup::followMaster(int box) {
   }
 }
 
-// Items that are not printed are not shown either; their texts are kept.
+// Shows the item of a ticked check box in the sample and hides it otherwise. Its text is kept.
 void frmPSetup::followItem(int box) const {
   control(findBox(box)->sample).setVisible(checkBox(box).state() == BST_CHECKED);
 }
 
-// The samples' texts have the colour of their picture, also those that never take input and
-// that the system would paint grey.
+// The texts in the samples have the colour of the sample. The system would paint the read-only ones
+// grey.
 HBRUSH frmPSetup::onColour(HDC dc, int coloured) {
   for (const Sample& sample : samples)
     for (const int text : sample.texts) {

@@ -35,16 +35,16 @@ constexpr StoredMargin storedMargins[] = {{id::UDNLEFT, Setting::leftMargin},
                                           {id::UDNBOTTOM, Setting::bottomMargin}};
 constexpr double defaultMargin = 1.0;
 
-// Margins are limited by this paper as long as no printer told of another.
+// This paper limits the margins as long as no printer has reported another.
 constexpr PaperFacts usualPaper{8.5, 11, {}};
 
-// Paper is white and printed black, whatever the colours of the screen.
+// The sample is black on white, whatever colours the user chose for the screen.
 constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF black = RGB(0, 0, 0);
 constexpr COLORREF textGrey = RGB(208, 208, 208);
 constexpr COLORREF areaGrey = RGB(128, 128, 128);
 
-// The number that a remembered text stands for; an empty one is 0, which no printer takes.
+// The number in a stored text. An empty text gives 0, which no printer accepts.
 std::int32_t number(const std::string& text) {
   return values::roundTo<std::int32_t>(values::leadingNumber(text));
 }
@@ -72,7 +72,7 @@ RECT pixelsOf(const Box& box) {
           windowing::screenPixels(box.top + box.height)};
 }
 
-// Lines of text as they look from afar.
+// Draws grey lines that look like lines of text.
 void drawTextLines(HDC dc, RECT area) {
   InflateRect(&area, -windowing::scaled(4), -windowing::scaled(4));
   const int thickness = windowing::scaled(1);
@@ -93,7 +93,7 @@ void frmPSetup::loadPage() {
   fillPapers();
   applyPaper(modLibrary().paperCode);
   showPaper();
-  // For the figures of the sample; who prints sets the unit that it needs.
+  // The sample needs pixels. The print engine sets its own unit.
   printer().setScaleMode(paper::PrinterScale::pixels);
   paper_.reset();
   sample_.reset();
@@ -128,7 +128,7 @@ void frmPSetup::fillPapers() const {
   for (const Paper& paper : papers) CBOPAPER().add(paper.name);
 }
 
-// Papers outside the table have no name here: nothing is selected then.
+// Selects the printer's paper in the list; nothing where the table does not have it.
 void frmPSetup::showPaper() const {
   CBOPAPER().select(-1);
   ignoringErrors([this] { CBOPAPER().select(paperIndex(printer().paperSize())); });
@@ -137,7 +137,7 @@ void frmPSetup::showPaper() const {
 void frmPSetup::loadMargins() const {
   const char sign = values::userDecimalSign();
   for (const StoredMargin& stored : storedMargins) {
-    // A text that is no number leaves the field as it was designed.
+    // Where the stored text is no number, the field keeps the number of its design.
     ignoringErrors([&] {
       const double inches = library::readNumber(stored.setting);
       margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(values::doubleText(inches, sign)));
@@ -161,8 +161,8 @@ void frmPSetup::choosePrinter() {
     showPrinter();
     throw;
   }
-  // Paper and orientation of this form go to the printer at OK in any case: given to it now,
-  // they show at once what it makes of them.
+  // The printer gets the paper and orientation of this form at OK anyway. It gets them now, so that
+  // the form shows which of them it accepts.
   applyPaper(paperCode_);
   applyOrientation(orientation_);
   showPaper();
@@ -175,7 +175,7 @@ void frmPSetup::choosePaper() {
   const int chosen = CBOPAPER().selected();
   if (chosen < 0) return;
   ignoringErrors([&] { printer().setPaperSize(papers[static_cast<std::size_t>(chosen)].code); });
-  // The driver may have refused the code; what it reports is what counts.
+  // The driver may have refused the code, so the one that it reports is used.
   ignoringErrors([this] { paperCode_ = std::to_string(printer().paperSize()); });
   showPaper();
   drawSample();
@@ -184,7 +184,7 @@ void frmPSetup::choosePaper() {
 
 void frmPSetup::chooseOrientation(int option) {
   const std::string wanted = option == id::OPTORIENTPORT ? "1" : "2";
-  // Option buttons also report that the focus reached them.
+  // Option buttons also report a click when they get the focus.
   if (wanted == orientation_) return;
   applyOrientation(wanted);
   orientation_ = wanted;
@@ -209,7 +209,8 @@ void frmPSetup::applyChoices() const {
   applyOrientation(orientation_);
 }
 
-// Where the printer gives no figures, those from before stay.
+// Reads the size of the paper and its strips. Where the printer does not tell them, the old ones
+// stay.
 void frmPSetup::readPaper() {
   ignoringErrors([this] {
     const SIZE size = printer().physicalSize();

@@ -26,7 +26,7 @@ constexpr Tab tabs[] = {{"PAGE", "Page", id::FRAMPAGE},
 
 constexpr char listRows[] = "15";
 
-// The letter that reaches a control with Alt, in upper case; 0 when it has none.
+// The access key of a control, in upper case; 0 when it has none.
 WPARAM accessLetter(const std::string& caption) {
   const std::size_t mark = caption.find('&');
   if (mark == std::string::npos || mark + 1 == caption.size()) return 0;
@@ -158,11 +158,11 @@ void frmPSetup::onEnter() {
 void frmPSetup::acceptAll() {
   committed_ = true;
   try {
-    remember();  // what can fail comes first: nothing is stored then
+    remember();  // first, because it can fail, and nothing must be stored then
     saveMargins();
     saveHeaderFooter();
   } catch (...) {
-    // The form stays open with the error told, and can still be cancelled.
+    // The error is reported. The form stays open and can still be cancelled.
     committed_ = false;
     throw;
   }
@@ -175,8 +175,8 @@ bool frmPSetup::handleKey(const MSG& message) {
   return goToNextOf(message.wParam);
 }
 
-// Letters that several controls of a page share lead to each of them in turn; what the control
-// does is left to the next key. A letter of one control alone is the system's.
+// For an access key that several visible controls share: moves the focus to the next one of them,
+// without pressing it. False for the access key of only one control, which the system handles.
 bool frmPSetup::goToNextOf(WPARAM letter) {
   std::vector<HWND> reached;
   std::size_t next = 0;

@@ -13,19 +13,19 @@
 
 namespace pagesetup {
 
-/// Printer, paper and orientation act on the current printer as they are chosen and stay with it,
-/// also after Cancel; what OK remembers of them is applied again at the next loading. Margins,
-/// header and footer are written by OK. Show it modally.
+/// Printer, paper and orientation change the current printer when they are chosen, and stay changed
+/// after Cancel. OK stores them for the next time that the form loads, and writes margins, header
+/// and footer. Show it modally.
 class frmPSetup : public windowing::Form {
  public:
   frmPSetup();
   ~frmPSetup() override { unload(); }
 
-  /// Selects the tab with this key, "PAGE" or "HEADERFOOTER", of the loaded form and shows its
-  /// page; any other key changes nothing.
+  /// Shows the page with this key, "PAGE" or "HEADERFOOTER", of the loaded form. Does nothing for
+  /// any other key.
   void selectTab(std::string_view key);
 
-  /// The sample as it was drawn last; nothing while the printer gave no figures for one.
+  /// The sample as it was drawn last; no value while the printer has not reported a paper.
   [[nodiscard]] const std::optional<SamplePage>& sample() const { return sample_; }
 
   bool handleKey(const MSG& message) override;
@@ -87,7 +87,7 @@ class frmPSetup : public windowing::Form {
   [[nodiscard]] controls::SPIN margin(int id) const;
 
   bool committed_ = false;
-  std::string paperCode_;            ///< decimal; empty until a paper was chosen, now or remembered
+  std::string paperCode_;            ///< decimal; empty until a paper is chosen or read from before
   std::string orientation_;          ///< "1" portrait, "2" landscape
   std::optional<PaperFacts> paper_;  ///< as the printer reported it last
   std::optional<SamplePage> sample_;

@@ -10,8 +10,8 @@ using values::checkedCast;
 using values::checkedMultiply;
 using values::checkedSubtract;
 
-// Distances in twips. Texts are placed by an estimate of their width and by fixed distances,
-// and rules begin left of the margin: that is how the product family's pages look.
+// Distances in twips. Deliberate: texts are placed by an estimate of their width and by fixed
+// distances, and rules begin left of the margin, as on the pages of the maker's other products.
 constexpr std::int16_t ruleOutdent = 200;
 constexpr std::int16_t headerRuleRise = 300;
 constexpr std::int16_t headerTextRise = 700;
@@ -22,7 +22,7 @@ constexpr std::int16_t footerTextDrop = 360;
 constexpr std::int16_t field1Indent = 300;
 constexpr std::int32_t characterWidth = 170;
 
-// Where the preview differs from the printer, on purpose.
+// Distances that are deliberately different in the preview and on the printer.
 struct Offsets {
   double title;
   std::int32_t field2FromRight;

@@ -1,5 +1,5 @@
-// Header and footer of a page: which settings decide about them, and where each item stands.
-// All of it is arithmetic over plain data; printer and preview draw what comes out.
+// Header and footer of a page: their settings, and the place of each item. These are computed here
+// from plain data; other code draws them on the printer or in the preview.
 #pragma once
 
 #include <array>
@@ -17,7 +17,7 @@ namespace pagesetup {
 
 using library::Setting;
 
-/// The settings of header and footer stand together in the table of settings.
+/// The settings of header and footer are neighbours in the table of settings.
 constexpr auto firstOption = static_cast<std::size_t>(Setting::header);
 constexpr std::size_t optionCount =
     static_cast<std::size_t>(Setting::footerField2Text) - firstOption + 1;
@@ -25,14 +25,14 @@ constexpr std::size_t optionCount =
   return std::span(library::settings).subspan<firstOption, optionCount>();
 }
 
-/// What the defaults are made of.
+/// The texts that the defaults are made from.
 struct DefaultTexts {
   std::string product;
-  std::string owner;         ///< registered owner of this Windows
-  std::string documentName;  ///< its file's name; empty while it has no file
+  std::string owner;         ///< registered owner of Windows
+  std::string documentName;  ///< name of the document's file; empty while it has none
 };
 
-/// Text of a setting when nothing is stored: "1" for a switch.
+/// Text of a setting for which nothing is stored; "1" for a check box.
 [[nodiscard]] std::string defaultText(Setting option, const DefaultTexts& texts);
 
 /// The settings as texts, by option.
@@ -44,16 +44,16 @@ class HeaderFooterOptions {
   [[nodiscard]] const std::string& operator[](Setting option) const {
     return values_[static_cast<std::size_t>(option) - firstOption];
   }
-  /// Whether a switch is on: only exactly "1" is.
+  /// Whether a check box is ticked: only the text "1" means that.
   [[nodiscard]] bool on(Setting option) const { return (*this)[option] == "1"; }
 
  private:
   std::array<std::string, optionCount> values_;
 };
 
-/// Margins in twips, in the order in which the page routines take them. The print engine hands
-/// over left, top, right, bottom, so that its right margin stands in `bottom` here and its
-/// bottom margin in `right`. That crossing is deliberate.
+/// Margins in twips, in the order of the page routines' arguments. Deliberate: the print engine
+/// passes left, top, right, bottom, so that `bottom` is the page's right margin and `right` its
+/// bottom margin.
 struct Margins {
   std::int16_t left = 0;
   std::int16_t top = 0;
@@ -63,7 +63,8 @@ struct Margins {
 
 enum class Surface { printer, preview };
 
-/// One page as its header and footer see it. Width and height are those of the surface, twips.
+/// The facts of a page that its header and footer depend on. Width and height are those of the
+/// surface, twips.
 struct Page {
   Surface surface = Surface::printer;
   std::int32_t width = 0;
@@ -74,8 +75,8 @@ struct Page {
   std::string time;
 };
 
-/// A line from (x, y) to (toX, y), or a text whose first line has its top at y. Fractional
-/// twips from the surface's top-left corner; they may be negative.
+/// A line from (x, y) to (toX, y), or a text with its top-left corner at (x, y). Twips from the
+/// surface's top-left corner; they may have fractions and be negative.
 struct DrawCommand {
   enum class Kind { line, text };
   Kind kind = Kind::line;
@@ -85,9 +86,9 @@ struct DrawCommand {
   std::string text;
 };
 
-/// What to draw on a page, in order. Centred texts are placed by their number of characters, for
-/// which `isLead` tells bytes that begin a character of two. Raises overflow where an offset from a
-/// margin leaves 16 bits or a distance leaves 32.
+/// What to draw on a page, in order. Centred texts are placed by their number of characters;
+/// `isLead` tells the bytes that begin a character of two bytes. Raises overflow where an offset
+/// from a margin does not fit in 16 bits or a distance does not fit in 32.
 [[nodiscard]] std::vector<DrawCommand> headerAndFooter(const HeaderFooterOptions& options,
                                                        const Page& page,
                                                        library::LeadByteTest isLead);

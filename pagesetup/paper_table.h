@@ -1,4 +1,5 @@
-// The papers that can be chosen, in the order of their list, and the codes the printer is told.
+// The papers that the user can choose, in the order of their list, with their codes for the
+// printer.
 #pragma once
 
 #include <array>
@@ -11,9 +12,9 @@ struct Paper {
   int code;
 };
 
-// Codes from 256 up are the product family's own and reach the driver as they are. Deliberately
-// they stand for Executive and Envelope B5 too, although Windows has numbers for both. A paper's
-// size is never looked up here: the printer says what it is.
+// The maker's products have codes of their own from 256 up, which go to the driver as they are.
+// Deliberate: Executive and Envelope B5 have such codes too, although Windows has numbers for both.
+// The table has no sizes; the printer tells them.
 // clang-format off
 constexpr std::array<Paper, 22> papers{{
   {"Letter",         1},
@@ -41,7 +42,7 @@ constexpr std::array<Paper, 22> papers{{
 }};
 // clang-format on
 
-/// Place in the list of the paper with this code; -1 for any other code.
+/// Index in the list of the paper with this code; -1 for any other code.
 [[nodiscard]] constexpr int paperIndex(int code) {
   for (std::size_t i = 0; i < papers.size(); ++i)
     if (papers[i].code == code) return static_cast<int>(i);

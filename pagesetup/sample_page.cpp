@@ -9,15 +9,15 @@
 namespace pagesetup {
 namespace {
 
-constexpr double freeInWindow = 200;  // twips around the paper, both sides together
+constexpr double freeInWindow = 200;  // twips beside the paper, both sides together
 constexpr double shadowOffset = 60;
-constexpr double areaOutset = 15;  // a pixel of the screen: the area's line is drawn outside of it
+constexpr double areaOutset = 15;  // one pixel: the line round the area is drawn outside of it
 constexpr double leastBetweenMargins = 1;  // inches
 constexpr double tenthsInInch = 10;
 
 }  // namespace
 
-// By way of the texts, as the family computes it: a half inch counts as a whole one.
+// Deliberately by way of the texts: half an inch becomes a whole one.
 double wholeInches(double inches, char sign) {
   const std::string tenths = library::textJustify(values::doubleText(inches, sign), sign);
   return std::trunc(values::toNumber(library::currencyFormat(tenths, sign), sign) + 0.5);
@@ -51,7 +51,7 @@ std::string sizeText(std::string_view caption, double inches, char decimalSign) 
 }
 
 double largestMargin(double side) {
-  // What is no whole number of tenths only for want of digits counts as one.
+  // A number that differs from whole tenths only by rounding counts as whole tenths.
   constexpr double nothing = 1e-6;
   const double half = (side - leastBetweenMargins) / 2 * tenthsInInch;
   return std::max(0.0, std::ceil(half - nothing) - 1) / tenthsInInch;

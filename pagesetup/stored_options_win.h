@@ -1,15 +1,14 @@
-// The header and footer settings as the settings store has them at the moment.
+// Reading the settings of header and footer.
 #pragma once
 
 #include "pagesetup/header_footer.h"
 
 namespace pagesetup {
 
-/// What the defaults are made of: the product, the registered owner, the open document.
+/// The texts that the defaults are made from: the product, the registered owner, the open document.
 [[nodiscard]] DefaultTexts defaultTexts();
 
-/// All thirteen settings, with their defaults where nothing is stored. Nothing is remembered
-/// between two calls.
+/// Reads all thirteen settings; those for which nothing is stored have their defaults.
 [[nodiscard]] HeaderFooterOptions readOptions();
 
 }  // namespace pagesetup

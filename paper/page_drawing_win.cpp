@@ -39,7 +39,7 @@ void drawPageText(HDC page, const TextFormat& format, double x, double y, const 
 }
 
 void drawPageRule(HDC page, double x, double y, double toX) {
-  // Half a point: thin, but not a hair that a printer of high resolution makes vanish.
+  // Half a point. A line of one pixel could hardly be seen at a printer's resolution.
   constexpr double thickness = 10;
   const values::PenHandle pen(
       CreatePen(PS_SOLID, std::max(1, pixelsDown(page, thickness)), RGB(0, 0, 0)));

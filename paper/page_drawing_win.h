@@ -1,5 +1,5 @@
-// What the program itself writes on a page, on paper or on a picture of it. Places are twips
-// from the top-left corner of the device context; they need not be whole device pixels.
+// Texts and rules that the program itself draws on a page, printed or as a picture. Places are
+// twips from the top-left corner of the device context; they need not be whole device pixels.
 #pragma once
 
 #include <windows.h>
@@ -10,8 +10,8 @@
 
 namespace paper {
 
-/// Writes `text` in black, without a background; (x, y) is the top-left corner of its line. The
-/// current position is at the text's end afterwards.
+/// Writes `text` in black, without a background; (x, y) is the top-left corner of its line. Leaves
+/// the current position at the end of the text.
 void drawPageText(HDC page, const TextFormat& format, double x, double y, const std::string& text);
 
 /// Draws a thin black rule from (x, y) to (toX, y).

@@ -12,21 +12,22 @@
 namespace paper {
 namespace {
 
-// How many times finer than shown a picture is drawn before it is brought to its size: the
-// smaller it is, the more its letters need it.
+// A picture is drawn this many times larger than it is shown, and then scaled down, so that letters
+// can be read. A small picture needs a larger factor.
 int fineness(const SIZE& shown) {
   constexpr std::int64_t mostPixels = 16'000'000;
-  constexpr std::int64_t smallPage = 300'000;  // in pixels; letters are hardly more than dots
+  constexpr std::int64_t smallPage = 300'000;  // pixels; here letters are only a few pixels high
   const std::int64_t pixels = std::int64_t{shown.cx} * shown.cy;
   int factor = pixels < smallPage ? 4 : 3;
   while (factor > 1 && pixels * factor * factor > mostPixels) --factor;
   return factor;
 }
 
-// The largest surface that is made to fit two pictures of different shapes.
+// The most pixels of a surface that is made large enough for the picture before as well as this
+// one.
 constexpr LONG mostKept = 4'000'000;
 
-// Rows that are drawn at once, so that a large picture takes no more memory than a small one.
+// How many rows are drawn at a time. Drawing in strips limits the memory for a large picture.
 int rowsAtOnce(LONG width, int factor) {
   constexpr LONG pixels = 2'000'000;
   return std::max<int>(1, pixels / (width * factor * factor));
@@ -34,7 +35,7 @@ int rowsAtOnce(LONG width, int factor) {
 
 }  // namespace
 
-// A bitmap in memory whose pixels can be reached directly, rows from the top.
+// A bitmap in memory whose pixels can be read and written directly; the top row comes first.
 class PixelSurface {
  public:
   explicit PixelSurface(const SIZE& size)
@@ -78,7 +79,7 @@ PagePicture::~PagePicture() {
   finish();
 }
 
-// Kept from one drawing to the next: the system takes longer to find fresh memory than to draw.
+// The surface is kept for the next drawing, since getting new memory takes longer than drawing.
 PixelSurface* PagePicture::surface(const SIZE& size) const {
   const SIZE had = surface_ ? surface_->size() : SIZE{};
   if (had.cx < size.cx || had.cy < size.cy) {
@@ -86,7 +87,7 @@ PixelSurface* PagePicture::surface(const SIZE& size) const {
     surface_.reset();
     surface_ = std::make_unique<PixelSurface>(both.cx <= mostKept / both.cy ? both : size);
   }
-  if (!surface_->usable()) surface_.reset();  // the memory for it may be there next time
+  if (!surface_->usable()) surface_.reset();  // no memory; the next drawing tries again
   return surface_.get();
 }
 
@@ -118,7 +119,7 @@ void PagePicture::draw(HDC device, const RECT& place, const RECT& part) const {
   const SIZE whole{place.right - place.left, place.bottom - place.top};
   RECT visible{};
   if (!IntersectRect(&visible, &place, &part)) return;
-  // By the whole picture's size, so that every part of it is drawn alike.
+  // From the size of the whole picture, so that all parts look the same.
   const int factor = fineness(whole);
   const int width = visible.right - visible.left;
   const int rows = std::min<int>(rowsAtOnce(width, factor), visible.bottom - visible.top);

@@ -1,5 +1,4 @@
-// The picture of a whole page, kept as a recording of what was drawn, so that it can be shown
-// sharp at any size.
+// The picture of a whole page. It records the drawing calls, so that it is sharp at any size.
 #pragma once
 
 #include <windows.h>
@@ -27,13 +26,13 @@ class PagePicture {
   PagePicture& operator=(const PagePicture&) = delete;
   ~PagePicture();
 
-  /// Size in twips. What was drawn before stays until the next `begin`.
+  /// Sets the size in twips. The old drawing stays until the next `begin`.
   void resize(double width, double height);
   [[nodiscard]] double width() const { return width_; }
   [[nodiscard]] double height() const { return height_; }
 
-  /// Begins with blank paper, in the device coordinates of `reference`; the origin is the
-  /// paper's corner. Raises when the system has no room for it.
+  /// Begins a new drawing on blank paper, in the device coordinates of `reference`; the origin is
+  /// the paper's top-left corner. Raises when there is no memory for it.
   void begin(HDC reference);
   /// Device context to draw on, between `begin` and `finish`; null otherwise.
   [[nodiscard]] HDC dc() const { return dc_; }
@@ -41,9 +40,9 @@ class PagePicture {
 
   /// Shows the picture, smoothly scaled, on white paper that fills `place`.
   void draw(HDC device, const RECT& place) const;
-  /// The same, but only as much of it as lies in `part`.
+  /// The same, but draws only the part of it that lies in `part`.
   void draw(HDC device, const RECT& place, const RECT& part) const;
-  /// What was drawn; null while nothing was.
+  /// The recording of the last drawing; null while there is none.
   [[nodiscard]] HENHMETAFILE recording() const { return recording_.get(); }
 
   /// Format of texts that the program itself writes on the picture.
@@ -58,7 +57,7 @@ class PagePicture {
   HDC dc_ = nullptr;
   MetafileHandle recording_;
   TextFormat font_;
-  mutable std::unique_ptr<PixelSurface> surface_;  ///< what drawing scales down from
+  mutable std::unique_ptr<PixelSurface> surface_;  ///< the larger picture that is scaled down
 };
 
 }  // namespace paper

@@ -21,7 +21,7 @@ struct GlobalTraits {
 };
 using GlobalMemory = values::UniqueHandle<GlobalTraits>;
 
-// The bytes of movable memory while it is needed.
+// Locks a block of movable memory for the length of a scope.
 class Locked {
  public:
   explicit Locked(HGLOBAL memory) : memory_(memory), bytes_(GlobalLock(memory)) {}
@@ -68,7 +68,7 @@ void adoptChoice(const PRINTDLGA& dialog) {
   if (dialog.hDevMode == nullptr || dialog.hDevNames == nullptr) return;
   const Locked settings(dialog.hDevMode);
   const Locked names(dialog.hDevNames);
-  // The name in the settings is cut off after 31 characters; this one is whole.
+  // Not the name in the settings, which is cut off after 31 characters.
   printer().adopt(names.as<char>() + names.as<DEVNAMES>()->wDeviceOffset, *settings.as<DEVMODEA>());
 }
 
@@ -93,7 +93,7 @@ bool PrintDialog::show() {
   dialog.hDevNames = namesOf(printer().name());
   dialog.Flags = flags;
   dialog.nMinPage = 1;
-  // A range outside the pages would keep the dialog from opening.
+  // The dialog does not open with a range that lies outside the pages.
   const int last = std::max(1, max);
   dialog.nMaxPage = word(last);
   dialog.nFromPage = word(std::clamp(fromPage, 1, last));
@@ -104,7 +104,7 @@ bool PrintDialog::show() {
     const windowing::DisabledOthers others(dialog.hwndOwner);
     agreed = printDialogSeam()(dialog);
   }
-  // The dialog may have replaced both blocks; whatever stands there now is the program's.
+  // The dialog may have replaced both blocks. The program owns those that are there now.
   const GlobalMemory settings(dialog.hDevMode);
   const GlobalMemory names(dialog.hDevNames);
   const values::MemoryDc returned(dialog.hDC);
@@ -119,7 +119,7 @@ bool PrintDialog::show() {
   flags = dialog.Flags;
   fromPage = dialog.nFromPage;
   toPage = dialog.nToPage;
-  // Depending on the device the number comes back in one place or the other.
+  // It depends on the device which of the two holds the number of copies.
   copies = std::max<int>(dialog.nCopies, printer().copies());
   return true;
 }

@@ -1,5 +1,4 @@
-// The print dialog: it starts from the program's current printer and gives its choice back to
-// it.
+// The print dialog: it shows the program's current printer, and changes it to the user's choice.
 #pragma once
 
 #include <windows.h>
@@ -10,21 +9,22 @@
 
 namespace paper {
 
-/// What the dialog is opened with, and what it left behind. Page numbers run from 1.
+/// The settings that the dialog shows at first, and the user's choices afterwards. Page numbers
+/// count from 1.
 class PrintDialog {
  public:
   DWORD flags = 0;  ///< PD_ flags; after `show`, as the dialog left them
   int fromPage = 0;
   int toPage = 0;
-  int max = 0;  ///< last page that can be asked for
+  int max = 0;  ///< last page that can be chosen
   int copies = 1;
   bool cancelError = false;
 
-  /// Shows the dialog above the active window of the program; everything else takes no input
-  /// meanwhile. Raises cancelled when the user cancels and `cancelError` says so, else returns
-  /// whether the user agreed. Raises a printer error when the dialog cannot be shown.
+  /// Shows the dialog above the active window of the program; all other windows are disabled
+  /// meanwhile. True for OK. When the user cancels: false, or where `cancelError` is set, raises
+  /// cancelled. Raises a printer error when the dialog cannot be shown.
   bool show();
-  /// Whether a range of pages was chosen, not everything.
+  /// Whether the user chose a range of pages, not all.
   [[nodiscard]] bool rangeChosen() const { return (flags & PD_PAGENUMS) != 0; }
 };
 

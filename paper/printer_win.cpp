@@ -12,8 +12,8 @@
 namespace paper {
 namespace {
 
-// The printers' functions. Their library is none of those that Windows takes from its own folder
-// unasked.
+// The printers' functions. Called through pointers, because an imported winspool.drv could come
+// from the program's own folder.
 struct Spooler {
   windowing::SystemLibrary library{"winspool.drv"};
   decltype(&OpenPrinterA) openPrinter = library.function("OpenPrinterA");
@@ -69,12 +69,12 @@ std::string defaultPrinterName() {
   spooler().getDefaultPrinter(nullptr, &size);
   std::vector<char> name(size + 1, '\0');
   if (size != 0 && spooler().getDefaultPrinter(name.data(), &size)) return name.data();
-  // Printers without a default among them are as good as one.
+  // Where no printer is the default, the first one is used.
   const std::vector<std::string> names = printerNames();
   return names.empty() ? std::string() : names.front();
 }
 
-/// Puts settings back as they were at its beginning, unless the device took what was made of them.
+/// Restores settings at the end of a scope, unless the device accepted the changed ones (`taken`).
 class UnlessTaken {
  public:
   explicit UnlessTaken(std::vector<BYTE>& settings) : settings_(settings), before_(settings) {}
@@ -95,7 +95,7 @@ class UnlessTaken {
 
 std::vector<std::string> printerNames() {
   constexpr DWORD kinds = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
-  constexpr DWORD level = 4;  // names alone: asks no printer and no server
+  constexpr DWORD level = 4;  // names only: Windows need not ask a printer or a server
   DWORD size = 0;
   DWORD count = 0;
   spooler().enumPrinters(kinds, nullptr, level, nullptr, 0, &size, &count);
@@ -129,7 +129,7 @@ void Printer::selectAt(int index) {
   select(names[static_cast<std::size_t>(index)]);
 }
 
-// Nothing changes when the printer cannot be asked for its settings.
+// Where the printer's settings cannot be read, this raises and changes nothing.
 void Printer::load(const std::string& wanted) {
   std::vector<BYTE> settings = settingsOf(wanted);
   abandonDocument();
@@ -156,7 +156,7 @@ DEVMODEA& Printer::mode() {
   return *reinterpret_cast<DEVMODEA*>(settings_.data());
 }
 
-// Has the driver make one consistent whole of the settings: it replaces what it cannot do.
+// Has the driver check the settings: it replaces those that the device does not have.
 void Printer::applyMode() {
   DEVMODEA& wanted = mode();
   const PrinterHandle device = open(name_);
@@ -220,7 +220,7 @@ void Printer::setPaperSize(int code) {
   if (code <= 0 || code > std::numeric_limits<short>::max()) raiseInvalidCall();
   static_cast<void>(settings());
   UnlessTaken change(settings_);
-  // A form's name and a size of its own would win over the code.
+  // The driver would prefer a form's name or a size in the settings to the code.
   const auto codeAlone = [this] {
     mode().dmFields &= ~static_cast<DWORD>(DM_FORMNAME | DM_PAPERLENGTH | DM_PAPERWIDTH);
     std::memset(mode().dmFormName, 0, sizeof mode().dmFormName);
@@ -232,7 +232,7 @@ void Printer::setPaperSize(int code) {
   mode().dmFields |= DM_PAPERSIZE;
   applyMode();
   change.taken();
-  codeAlone();  // Wine's driver reports the form of the paper before
+  codeAlone();  // on Wine the driver has put the form of the old paper back
 }
 
 Orientation Printer::orientation() {
@@ -293,7 +293,7 @@ void Printer::endDocument() {
   const bool documentEnded = EndDoc(device) > 0;
   pageOpen_ = false;
   documentOpen_ = false;
-  // A device context that has seen an error may keep it.
+  // After an error, the next document may fail in the same device context.
   if (!pageEnded || !documentEnded) {
     dc_.reset();
     raisePrinter();

@@ -1,5 +1,5 @@
-// The program's current printer: which device it is, how its page is set up, and the document
-// that is being sent to it.
+// The program's current printer: its device, its page settings, and the document that is being
+// printed.
 #pragma once
 
 #include <windows.h>
@@ -20,18 +20,19 @@ namespace paper {
 enum class PrinterScale : int { twips = 1, pixels = 3 };
 enum class Orientation : int { portrait = 1, landscape = 2 };
 
-/// A printer with the program's own settings for it. It starts as the Windows default printer
-/// and never changes that. Every operation that needs a printer raises a printer error when
-/// there is none, or when the device refuses; settings it did not take are as they were before.
+/// A printer with the program's own settings for it. At first it is the Windows default printer,
+/// whose own settings never change. Every operation that needs a printer raises a printer error
+/// when there is none or the device refuses; settings that the device refuses do not change.
 class Printer {
  public:
   Printer() = default;
   Printer(const Printer&) = delete;
   Printer& operator=(const Printer&) = delete;
-  /// A document still open is left to the printing system.
+  /// Gives up a document that is still open.
   ~Printer() { abandonDocument(); }
 
-  /// Asks no device: a printer that does not answer has a name, too. Empty where there is none.
+  /// Name of the printer, also of one that does not answer: no device is asked. Empty where there
+  /// is no printer.
   [[nodiscard]] std::string name() const;
   /// Changes to another printer, by its full name or its index in `printerNames`.
   void select(const std::string& name);
@@ -40,38 +41,38 @@ class Printer {
   /// Raises a printer error when the device is gone or cannot be asked for its settings.
   void check() const;
 
-  /// Settings of the device, driver's own data included. Never empty.
+  /// Settings of the device, with the driver's own data. Never empty.
   [[nodiscard]] const std::vector<BYTE>& settings();
-  /// Takes printer and settings as a dialog gave them.
+  /// Changes to the printer and the settings that the user chose in a dialog.
   void adopt(const std::string& name, const DEVMODEA& settings);
 
-  /// Device context with the settings in force. It stays the same until another printer is
-  /// chosen; changes made while a page is open wait for the next page.
+  /// Device context with the current settings. It stays the same until another printer is chosen.
+  /// Settings that change while a page is open hold from the next page on.
   [[nodiscard]] HDC dc();
 
   /// Size of the paper, twips.
   [[nodiscard]] double width();
   [[nodiscard]] double height();
-  /// Unit of the scale size; twips at first.
+  /// Unit of `scaleWidth` and `scaleHeight`; twips at first.
   void setScaleMode(PrinterScale mode) { scaleMode_ = mode; }
   [[nodiscard]] PrinterScale scaleMode() const { return scaleMode_; }
-  /// Size of the printable area in the unit of the scale mode.
+  /// Size of the printable area, in the unit that `setScaleMode` set.
   [[nodiscard]] double scaleWidth();
   [[nodiscard]] double scaleHeight();
-  /// Paper and unprintable strip at its left and top, in device pixels.
+  /// Size of the paper, and widths of the unprintable strips at its left and top, device pixels.
   [[nodiscard]] SIZE physicalSize();
   [[nodiscard]] POINT physicalOffset();
   [[nodiscard]] double twipsPerPixelX();
   [[nodiscard]] double twipsPerPixelY();
 
-  /// Code of the paper as the device reports it. Setting takes any code but 0, which raises an
-  /// invalid call; a paper the device does not know leaves it with what it reports then.
+  /// Code of the paper as the device reports it. Setting raises an invalid call for the code 0. For
+  /// a code that the device does not know, the paper is the one that the device reports afterwards.
   [[nodiscard]] int paperSize();
   void setPaperSize(int code);
-  /// Values other than the two raise an invalid call.
+  /// Setting raises an invalid call for any value but the two.
   [[nodiscard]] Orientation orientation();
   void setOrientation(Orientation orientation);
-  /// Copies that the device makes of each document, 1 to 32767.
+  /// Number of copies of each document, 1 to 32767.
   [[nodiscard]] int copies();
   void setCopies(int copies);
 
@@ -79,13 +80,14 @@ class Printer {
   [[nodiscard]] const TextFormat& font() const { return font_; }
   void setFont(const TextFormat& font) { font_ = font; }
 
-  /// The first output starts the document and its first page; returns the device context.
+  /// Called before any output: starts the document and its first page if they are not open, and
+  /// returns the device context.
   HDC startOutput();
   /// Ends the open page (starting the document when there is none) and begins another.
   void newPage();
-  /// Ends page and document; nothing when none is open.
+  /// Ends page and document. Does nothing when none is open.
   void endDocument();
-  /// As `endDocument`, but whatever the device says to it: after an error.
+  /// For use after an error: ends page and document like `endDocument`, but ignores further errors.
   void abandonDocument() noexcept;
   [[nodiscard]] bool documentOpen() const { return documentOpen_; }
 
@@ -95,10 +97,10 @@ class Printer {
   void applyMode();
   [[nodiscard]] int capability(int index) { return GetDeviceCaps(dc(), index); }
 
-  std::string name_;  ///< empty, with the settings, until the device was asked for them
+  std::string name_;  ///< empty, like the settings, until these are read from the device
   std::vector<BYTE> settings_;
   values::MemoryDc dc_;
-  bool stale_ = false;  ///< dc_ does not have the settings yet
+  bool stale_ = false;  ///< the settings changed since dc_ was given them
   bool documentOpen_ = false;
   bool pageOpen_ = false;
   PrinterScale scaleMode_ = PrinterScale::twips;

@@ -81,8 +81,8 @@ HWND RichTextBox::create(HWND container, int id, const RECT& place, DWORD style)
   constexpr LPARAM unlimited = 0x7FFFFFFE;
   send(EM_EXLIMITTEXT, 0, unlimited);
   send(EM_SETUNDOLIMIT, 0);
-  // Nobody reads the text in the box itself: wrapping it to the box's width would be lost work,
-  // and very much of it for a long paragraph. Pages wrap by their own width all the same.
+  // The box is never seen, so it need not wrap its text, which takes very long for a long
+  // paragraph. Pages wrap the text by their own width all the same.
   constexpr LPARAM noWrapping = 1;
   send(EM_SETTARGETDEVICE, 0, noWrapping);
   setFormat(format_);
@@ -91,11 +91,11 @@ HWND RichTextBox::create(HWND container, int id, const RECT& place, DWORD style)
 
 LRESULT CALLBACK RichTextBox::watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                     UINT_PTR id, DWORD_PTR box) {
-  // The font that a form gives to its controls is none for documents: empty lines would have it.
+  // Ignores the font that the form gives to all its controls: empty lines of the text would get it.
   if (message == WM_SETFONT) return 0;
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(window, watch, id);
-    // The container took the control with it, or a new one stands in for it.
+    // The container was destroyed, or `renew` has put a new control in the place of this one.
     windowing::Control& control = *reinterpret_cast<RichTextBox*>(box);
     if (control.handle() == window) control = windowing::Control();
   }
@@ -114,7 +114,7 @@ void RichTextBox::applyFormat(WPARAM scope) const {
   wanted.cbSize = sizeof wanted;
   wanted.dwMask = CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_COLOR | CFM_BOLD | CFM_ITALIC |
                   CFM_UNDERLINE | CFM_STRIKEOUT;
-  // No CFE_AUTOCOLOR: paper is white, whatever colour the scheme gives to texts.
+  // Without CFE_AUTOCOLOR, which would print in the colour that the user chose for windows.
   wanted.dwEffects = format_.bold ? CFE_BOLD : 0;
   wanted.yHeight = format_.points * twipsPerPoint;
   wanted.crTextColor = RGB(0, 0, 0);
@@ -139,7 +139,8 @@ int RichTextBox::length() const {
 TextSelection RichTextBox::selection() const {
   CHARRANGE range{};
   send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
-  // Everything selected may count the final paragraph mark, which is no character of the text.
+  // If everything is selected, the range may include the final paragraph mark, which does not
+  // belong to the text.
   const LONG end = std::min<LONG>(range.cpMax, length());
   return {static_cast<int>(range.cpMin), static_cast<int>(std::max(0L, end - range.cpMin))};
 }
@@ -150,7 +151,7 @@ void RichTextBox::select(TextSelection wanted) const {
 }
 
 RichText RichTextBox::richText() const {
-  // Streamed as a selection, for the whole text would bring its final paragraph mark along.
+  // Streamed as a selection, because the whole text would include the final paragraph mark.
   const TextSelection before = selection();
   select({0, length()});
   RichText text = selectedRichText();
@@ -162,8 +163,8 @@ RichText RichTextBox::selectedRichText() const {
   return {streamOut(SF_RTF | SFF_SELECTION), selection().length};
 }
 
-// Wine's control takes minutes to empty itself of thousands of paragraphs; a new one in its
-// place takes none.
+// Puts a new control in the place of this one, since Wine's control takes minutes to remove
+// thousands of paragraphs.
 void RichTextBox::renew() {
   const HWND old = handle();
   const HWND container = GetParent(old);
@@ -197,8 +198,8 @@ void RichTextBox::insertLineBreak() const {
   select({start + 1, 0});
 }
 
-// Readers differ about a paragraph mark at the end of rich text: some add one, some leave the
-// text's own last one out.
+// Corrects the end of rich text that was read: some versions of the control add a paragraph mark at
+// its end, others leave out one that belongs to the text.
 void RichTextBox::correctEnd(int end, int expected) const {
   if (end < expected) {
     select({end, 0});

@@ -1,5 +1,5 @@
-// A rich text box: the system's rich edit control, whose text is formatted onto pages by the
-// message EM_FORMATRANGE, also on Wine, which leaves that message unanswered.
+// A rich text box: the system's rich edit control. The message EM_FORMATRANGE formats its text for
+// pages, also on Wine, where the program answers it instead of the control.
 #pragma once
 
 #include <windows.h>
@@ -13,8 +13,8 @@
 
 namespace paper {
 
-/// Rich text on its way from box to box: its source and the number of its characters, by
-/// which the taker recognises a paragraph mark that is not part of it.
+/// Rich text to be copied from box to box. By the number of its characters, the receiving box can
+/// tell a paragraph mark at the end that does not belong to the text.
 struct RichText {
   std::string rtf;
   int length = 0;
@@ -26,26 +26,28 @@ struct TextSelection {
   int length = 0;
 };
 
-/// Owner of one control. It is made in a container, and goes with it or with this object.
+/// Owner of one control, which is destroyed with this object or with its container.
 class RichTextBox : public windowing::Control {
  public:
-  /// `name` is how the program knows the box ("RTF1").
+  /// `name` is the box's name in the program ("RTF1").
   explicit RichTextBox(std::string name) : name_(std::move(name)) {}
   RichTextBox(const RichTextBox&) = delete;
   RichTextBox& operator=(const RichTextBox&) = delete;
   ~RichTextBox();
 
-  /// Makes the control, hidden unless `style` says WS_VISIBLE. Loads the system's library at
-  /// the first use; raises when that is missing.
+  /// Makes the control, hidden unless `style` has WS_VISIBLE. The first call loads the system's
+  /// library, and raises when that is missing.
   HWND create(HWND container, int id, const RECT& place, DWORD style = 0);
 
   [[nodiscard]] const std::string& name() const { return name_; }
 
-  /// Format of the whole text and of plain text set from now on; black in any colour scheme.
+  /// Sets the format of the whole text, and of plain text that is set later. The colour is black in
+  /// any colour scheme.
   void setFormat(const TextFormat& format);
   [[nodiscard]] const TextFormat& format() const { return format_; }
 
-  /// Replaces the text by `text` in the current format, taken literally whatever it looks like.
+  /// Replaces the text by `text` in the current format. `text` is plain text, even if it looks like
+  /// rich text.
   void setPlain(const std::string& text);
   /// Number of characters of the text.
   [[nodiscard]] int length() const;
@@ -55,12 +57,12 @@ class RichTextBox : public windowing::Control {
 
   [[nodiscard]] RichText richText() const;
   [[nodiscard]] RichText selectedRichText() const;
-  /// Replaces the whole text; the caret is at its start afterwards. In place of a long text this
+  /// Replaces the whole text and puts the caret at its start. Where the old text is long, this
   /// makes a new control: do not keep the handle.
   void setRichText(const RichText& text);
-  /// Replaces the selection; the caret stands behind what was inserted.
+  /// Replaces the selection and puts the caret behind the new text.
   void replaceSelection(const RichText& text) const;
-  /// One paragraph break in place of the selection; the caret stands behind it.
+  /// Replaces the selection by one paragraph break and puts the caret behind it.
   void insertLineBreak() const;
 
  private:

@@ -17,7 +17,7 @@ void appendCharacter(std::string& rtf, char16_t character) {
   } else if (character >= firstPrintable && character <= lastAscii) {
     rtf += static_cast<char>(character);
   } else {
-    // The number is a signed 16-bit one; the mark after it is for readers without Unicode.
+    // A signed 16-bit number; programs that do not know Unicode show the "?" after it.
     rtf += "\\u" + std::to_string(static_cast<std::int16_t>(character)) + '?';
   }
 }

@@ -1,5 +1,5 @@
-// Plain text as rich text. A rich edit control guesses from the first characters whether a
-// text is plain or rich; text written this way is taken literally, whatever it begins with.
+// Plain text as rich text. A rich edit control guesses from the first characters whether a text is
+// plain or rich. Written this way, plain text is never taken for rich text.
 #pragma once
 
 #include <string>

@@ -1,12 +1,12 @@
-// How the program's rich text looks unless something else is asked for.
+// The default format of the program's rich text.
 #pragma once
 
 #include <string>
 
 namespace paper {
 
-/// Typeface of the report, of its header and footer, and so of the printer's text output. It is
-/// a scalable face, so that one page looks alike on every printer and in the preview.
+/// Typeface of the report, its header and its footer. It is scalable, so that a page looks the same
+/// on every printer and in the preview.
 constexpr const char* documentTypeface = "Arial";
 constexpr int documentPoints = 10;
 

@@ -22,7 +22,7 @@ void clsPrinting::PRINTDOCUMENT(DialogForm& FORM, const paper::RichTextBox& SOUR
   try {
     engine_.print(FORM, SKIPDIALOG);
   } catch (const std::exception&) {
-    // Deliberately silent.
+    // Deliberately not reported.
     engine_.abandon();
   }
 }

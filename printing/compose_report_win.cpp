@@ -5,8 +5,8 @@
 namespace printing {
 namespace {
 
-// A format is set on an empty box: what stands in it is replaced anyway, and to format a long text
-// anew takes long.
+// Empties the box before the format is set, since formatting a long text takes long and the text is
+// replaced anyway.
 void prepare(paper::RichTextBox& box, const paper::TextFormat& format) {
   box.setPlain({});
   box.setFormat(format);

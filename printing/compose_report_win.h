@@ -6,8 +6,8 @@
 
 namespace printing {
 
-/// Composes the report of `values`, the texts on screen. `RTF1` is the scratch pad and takes the
-/// whole report in the end; `RTF3` gathers it. Text is 10 points in the face of `RTF1`.
+/// Composes the report of `values`, the texts on screen. Each piece is made in `RTF1` and added to
+/// `RTF3`; in the end `RTF1` gets the whole report. The text is 10 points in the face of `RTF1`.
 void composeReport(const document::ContactRecord& values, paper::RichTextBox& RTF1,
                    paper::RichTextBox& RTF3);
 

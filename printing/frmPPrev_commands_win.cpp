@@ -74,7 +74,7 @@ void frmPPrev::chooseZoom(int command) {
 
 // The toolbar's button prints everything without a dialog.
 void frmPPrev::print(bool atOnce) {
-  // As in the main window: the menu's command says what the button leaves unsaid.
+  // As in the main window, only the menu's command tells the user that no printer answers.
   if (!atOnce && !printerReady()) return;
   const POINT seen = PICWINDOW_.scrollPosition();
   PRINTING().PRINTDOCUMENT(*this, RTF3(), atOnce);
@@ -93,14 +93,14 @@ void frmPPrev::onSelect(int id) {
 
 LRESULT frmPPrev::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_COMMAND && lParam != 0) {
-    // With the page chosen, the keys of the pages work again.
+    // When a list is closed, the focus goes to the view, where keys turn the pages.
     const bool closed = HIWORD(wParam) == CBN_CLOSEUP;
     if (closed && windowing::isClass(reinterpret_cast<HWND>(lParam), "ComboBox"))
       control(id::PICWINDOW).focus();
   }
   if (message == WM_GETMINMAXINFO) {
-    // Wine counts the menu bar of a popup to its frame, and would hide the caption of a maximised
-    // one above the screen. A frame is as high as it is wide.
+    // Wine counts the menu bar of a popup as part of its frame, and would put the caption of a
+    // maximised one above the screen. The frame's height is the same as its width.
     POINT& corner = reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxPosition;
     corner.y = std::max(corner.y, corner.x);
   }

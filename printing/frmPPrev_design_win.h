@@ -1,5 +1,5 @@
-// The preview window as its designer laid it out: places in twips. What stands in the strip is
-// moved side by side when the window loads.
+// The design of the preview window; places are twips. The controls of the strip are placed side by
+// side when the window loads.
 #pragma once
 
 #include <array>
@@ -44,8 +44,8 @@ constexpr std::array controls{
 };
 // clang-format on
 
-// A popup, as modal windows are. Under Wine a window manager decides about the focus, and gives
-// none to a plain window that appears beside the active one.
+// A popup, like all modal windows. On Wine the window manager decides about the focus, and a window
+// of another style would not get it.
 constexpr DWORD formStyle = WS_POPUP | (WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX);
 
 constexpr windowing::FormDesign form{"frmPPrev", "Preview",  formStyle, 0,

@@ -74,7 +74,7 @@ void frmPPrev::onLoad() {
   setFirstFocus(control(id::PICWINDOW));
 }
 
-// The buttons, then the lists, each after a line, from left to right.
+// Places the strip's controls from left to right: the buttons, then each list behind a line.
 void frmPPrev::arrangeStrip() {
   const int strip = screenPixels(design::stripHeight);
   LONG left = TBARMAIN().pixels().right + screenPixels(design::gap);
@@ -88,8 +88,8 @@ void frmPPrev::arrangeStrip() {
   }
 }
 
-// The view takes what the bars leave; the paper's size stands at the strip's right end, as long
-// as there is room beside the lists.
+// Places the view between the bars, and the text with the paper's size at the right end of the
+// strip, where there is room for it beside the lists.
 void frmPPrev::placeView() {
   if (!loaded()) return;
   RECT client{};
@@ -131,7 +131,7 @@ void frmPPrev::discardPreview() {
 }
 
 void frmPPrev::onUnload() {
-  // A window that was only printed with has nothing to say about how it was left.
+  // The window is also loaded, hidden, only to print. Its place and zoom are not stored then.
   if (!IsWindowVisible(handle())) return;
   LIBRARY().FORMSAVE(library::sharedPlace, *this, true);
   const windowing::ComboBox zooms = CBOPGZOOM();

@@ -1,5 +1,5 @@
-// The print preview window. The print engine's own boxes and dialog belong to it, so that it is
-// loaded, hidden, whenever anything is printed.
+// The print preview window. It owns the boxes and the dialog of the print engine, so it is loaded,
+// hidden, whenever something is printed.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ class frmPPrev : public library::CommandForm, public PreviewWindow {
  public:
   frmPPrev();
 
-  // Each loads the form when it is needed.
+  // Each of these loads the form if it is not loaded.
   [[nodiscard]] paper::RichTextBox& RTF2() override;
   [[nodiscard]] paper::RichTextBox& RTF3() override;
   [[nodiscard]] paper::PagePicture& PICSTDPAGE() override;
@@ -32,7 +32,7 @@ class frmPPrev : public library::CommandForm, public PreviewWindow {
   void showPreview() override;
   void discardPreview() override;
 
-  /// Makes the view of a preview that is loading.
+  /// Makes the view while the form loads.
   static HWND makeView(Form& form, const windowing::ControlDesign& design, HWND container,
                        const RECT& place);
 

@@ -22,9 +22,9 @@ using windowing::screenPixels;
 using windowing::screenTwips;
 
 constexpr int lineStep = 360;    // twips that an arrow scrolls: a line of text at 150 %
-constexpr int shadowReach = 4;   // pixels at 96 dots per inch, round the page
-constexpr int shadowDrop = 1;    // and how much lower than the page it lies
-constexpr int shadowDepth = 40;  // hundredths of the ground's light that it takes at the page
+constexpr int shadowReach = 4;   // width of the shadow round the page, pixels at 96 dots per inch
+constexpr int shadowDrop = 1;    // how much lower than the page the shadow lies, the same
+constexpr int shadowDepth = 40;  // how much darker it is beside the page, percent
 
 HWND child(const char* windowClass, DWORD style, HWND parent, int id) {
   return windowing::createChild({windowClass, WS_VISIBLE | style}, parent, id, {});
@@ -45,12 +45,12 @@ void setBar(HWND bar, const PageSpan& span, double visible, LONG position) {
   SCROLLINFO info{};
   info.cbSize = sizeof info;
   info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
-  // The whole range less a page is what the bar's position reaches.
+  // The largest position of a scroll bar is its range less one page.
   info.nPage = static_cast<UINT>(std::max(1.0, visible));
   info.nMax = span.scrollMax == 0 ? 0 : span.scrollMax + static_cast<int>(info.nPage) - 1;
   info.nPos = static_cast<int>(position);
   SetScrollInfo(bar, SB_CTL, &info, TRUE);
-  // Wine greys a bar only once it can be seen.
+  // Wine does not grey a bar that is not visible yet, so it is disabled here.
   EnableWindow(bar, span.scrollMax > 0);
 }
 
@@ -118,7 +118,8 @@ void PageView::setBars() const {
   setBar(SCRVBAR, place_.down, view.visibleHeight(), down_);
 }
 
-// Without a point to keep, the page's middle column and its topmost visible line stay.
+// The point of the page that was clicked stays where it is on the screen. Without a click, the
+// point in the middle of the view's top edge does.
 void PageView::showPage(const PagePlace& place) {
   const bool clicked = kept_.x >= 0;
   const double x = clicked ? screenTwips(kept_.x) : size().visibleWidth() / 2;
@@ -183,7 +184,7 @@ void PageView::answerBar(HWND bar, int code) {
       break;
     case SB_THUMBTRACK:
     case SB_THUMBPOSITION: {
-      // The message itself carries 16 bits of it.
+      // Asked for, because the message holds only 16 bits of the position.
       SCROLLINFO info{};
       info.cbSize = sizeof info;
       info.fMask = SIF_TRACKPOS;
@@ -216,7 +217,7 @@ bool PageView::answerKey(WPARAM key) {
   }
 }
 
-// `delta` counts to the right and down.
+// A positive `delta` scrolls to the right or down.
 void PageView::answerWheel(int delta, bool sideways) {
   UINT lines = 3;
   SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
@@ -224,7 +225,7 @@ void PageView::answerWheel(int delta, bool sideways) {
   const double visible = sideways ? view.visibleWidth() : view.visibleHeight();
   const int notch = lines == WHEEL_PAGESCROLL ? static_cast<int>(visible)
                                               : static_cast<int>(std::min(lines, 100U)) * lineStep;
-  // Fine wheels send parts of a notch.
+  // Some wheels send parts of a notch; they are added up.
   LONG& rest = sideways ? wheelRest_.cx : wheelRest_.cy;
   rest += delta * notch;
   const int step = static_cast<int>(rest) / WHEEL_DELTA;
@@ -253,7 +254,7 @@ void PageView::drawShadow(HDC dc, const RECT& page) const {
   for (int ring = reach; ring > 0; --ring) {
     RECT area = lower;
     InflateRect(&area, ring, ring);
-    // Falling off with the square of the distance, as soft shadows do.
+    // The shadow fades with the square of the distance, which looks soft.
     const int nearness = reach + 1 - ring;
     fill(dc, area, darker(ground, shadowDepth * nearness * nearness / (reach * reach)));
   }
@@ -262,8 +263,7 @@ void PageView::drawShadow(HDC dc, const RECT& page) const {
   fill(dc, edge, darker(ground, shadowDepth));
 }
 
-// All of it is drawn aside first, so that nothing flickers; what scrolling brings into view is
-// a narrow strip.
+// Draws into a bitmap first, so that nothing flickers. After scrolling that is only a narrow strip.
 void PageView::paint() {
   PAINTSTRUCT paint{};
   const HDC window = BeginPaint(handle(), &paint);

@@ -23,10 +23,10 @@ class PageView : public windowing::Window {
   HWND create(HWND container, int id, const RECT& place);
 
   [[nodiscard]] ViewSize size() const;
-  /// Shows the page at another place and size, scrolled so that the point that was clicked on
-  /// shows the same spot of it, or its middle and its first visible line where none was.
+  /// Shows the page at another place and size. Scrolls so that the point of the page that was
+  /// clicked stays where it is; without a click, the point in the middle of the view's top edge.
   void showPage(const PagePlace& place);
-  /// Shows what the picture holds now, from the top of the page on.
+  /// Shows the picture again after it has changed, scrolled to the top of the page.
   void showNewPicture();
 
   /// Place of the page on the view at scroll position 0.
@@ -36,10 +36,10 @@ class PageView : public windowing::Window {
   /// The page in pixels of the view.
   [[nodiscard]] RECT pagePixels() const;
   [[nodiscard]] POINT scrollPosition() const { return {across_, down_}; }
-  /// Scrolls to a position, or as near as the range allows.
+  /// Scrolls to a position, limited to the scroll range.
   void scrollTo(POINT position);
 
-  /// Called with a mouse button (WM_LBUTTONDOWN or WM_RBUTTONDOWN) pressed on the page.
+  /// Called when a mouse button is pressed on the page, with WM_LBUTTONDOWN or WM_RBUTTONDOWN.
   std::function<void(UINT button)> onPageClick;
 
  protected:
@@ -64,8 +64,8 @@ class PageView : public windowing::Window {
   PagePlace place_;
   LONG across_ = 0;  ///< scroll positions
   LONG down_ = 0;
-  POINT kept_{-1, -1};  ///< pixels of a click whose spot of the page stays under the pointer
-  SIZE wheelRest_{};    ///< of each direction: what was turned and not scrolled yet
+  POINT kept_{-1, -1};  ///< while a click changes the zoom: its place in the view, pixels
+  SIZE wheelRest_{};    ///< for each direction, how far the wheel was turned but nothing scrolled
 };
 
 }  // namespace printing

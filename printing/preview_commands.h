@@ -27,7 +27,7 @@ constexpr auto previewCommands = [] {
     {id::TOOLBAR,   viewMenu, "MNUVIEWTOOLBAR",   "&Standard Toolbar", "", none, {}, {id::PICTBAR, library::Setting::previewToolbar}},
     {id::STATUSBAR, viewMenu, "MNUVIEWSTATUSBAR", "S&tatus Bar",       "", none, {}, {id::SBMAIN, library::Setting::previewStatusBar}},
     {zoomMenu,      viewMenu, "MNUZOOMTOP",       "&Zoom"},
-    // From large to small, while the list goes from small to large: deliberate.
+    // Deliberate: the menu goes from large to small, the list from small to large.
     {id::ZOOM200, zoomMenu, "MNUZOOM200", "200 %"},
     {id::ZOOM150, zoomMenu, "MNUZOOM150", "150 %"},
     {id::ZOOM100, zoomMenu, "MNUZOOM100", "100 %"},
@@ -52,16 +52,16 @@ constexpr auto previewCommands = [] {
 }();
 // clang-format on
 
-/// What availability follows from: the number of pages, the index of the one on show (from 0), and
-/// the text of the zoom.
+/// What decides which commands are available: the number of pages, the index of the page shown
+/// (from 0), and the text of the zoom.
 struct PreviewState {
   int count = 0;
   int current = 0;
   std::string_view zoom = {};
 };
 
-/// Whether a command is available; nothing for a number that is no command. The compiler notices a
-/// command that has no rule here.
+/// Whether a command is available. No value for a number that is no command. The compiler reports a
+/// command without a case here.
 [[nodiscard]] constexpr std::optional<bool> availability(int command, const PreviewState& state) {
   using enum printing::id::Command;
   switch (static_cast<printing::id::Command>(command)) {

@@ -32,7 +32,7 @@ void PreviewController::show(const paper::RichTextBox& report) {
   try {
     prepare(report);
   } catch (...) {
-    // Half a preview is none: the next one starts anew.
+    // A preview that was made only in part is discarded; the next one starts from the beginning.
     window_.discardPreview();
     throw;
   }
@@ -63,7 +63,7 @@ void PreviewController::refresh() {
   applyZoom();
 }
 
-// A list shows nothing that is not in it: they are filled before anything is chosen.
+// Fills the two lists. Called before a page or zoom is selected, since only an entry can be.
 void PreviewController::fillLists() {
   const windowing::ComboBox pages = window_.CBOPGNO();
   {
@@ -111,20 +111,20 @@ void PreviewController::setZoom(std::string_view text) {
 void PreviewController::zoomIn() {
   const std::string now = selectedText(window_.CBOPGZOOM());
   const std::string_view next = zoomedIn(now);
-  if (next != now) setZoom(next);  // brings the controls in step, too
+  if (next != now) setZoom(next);  // which also updates the controls
 }
 
 void PreviewController::zoomOut() {
   const std::string now = selectedText(window_.CBOPGZOOM());
   const std::string_view next = zoomedOut(now);
-  if (next != now) setZoom(next);  // brings the controls in step, too
+  if (next != now) setZoom(next);  // which also updates the controls
 }
 
 void PreviewController::applyZoom() {
   window_.placeView();
   const std::string zoom = selectedText(window_.CBOPGZOOM());
   const PageSize page = sizeOf(window_.PICSTDPAGE());
-  // Before a page is drawn there is nothing to be zoomed.
+  // Before the first page is drawn, there is nothing to zoom.
   if (zoom.empty() || page.width <= 0) return;
   PageView& view = window_.PICWINDOW();
   const double percent = values::leadingNumber(zoom);

@@ -1,4 +1,4 @@
-// Which page the preview shows, at which zoom, and what the window's controls say about it.
+// Decides which page the preview shows and at which zoom, and updates the controls of its window.
 #pragma once
 
 #include <cstdint>
@@ -13,23 +13,24 @@ class PreviewController {
   PreviewController(PreviewWindow& window, PrintEngine& engine)
       : window_(window), engine_(engine) {}
 
-  /// Shows the preview of `report` and returns when it is closed. Raises what keeps the pages
-  /// from being laid out; nothing is shown then.
+  /// Shows the preview of `report` and returns when it is closed. Raises, without showing anything,
+  /// when the pages cannot be laid out.
   void show(const paper::RichTextBox& report);
-  /// Shows the pages as they are after printing: the dialog may have changed the printer.
+  /// Lays the pages out again after printing, since the print dialog may have changed the printer.
   void refresh();
 
-  /// Draws a page, from 1, into `picture` at full size, and shows it.
+  /// Draws a page (from 1) into `picture` at full size, and shows it.
   void drawPage(std::int32_t page, paper::PagePicture& picture);
-  /// Shows a page, from 1, and names it in the list.
+  /// Shows a page (from 1) and selects it in the list.
   void goToPage(std::int32_t page);
-  /// The page that the list names.
+  /// The page that is selected in the list.
   [[nodiscard]] std::int32_t shownPage() const;
 
-  /// Applies the zoom that the list names, after the view was placed between the bars.
+  /// Places the view between the bars and applies the zoom that is selected in the list.
   void applyZoom();
   void setZoom(std::string_view text);
-  /// One percentage up or down; nothing from the last one or a fitted zoom.
+  /// Changes the zoom to the next percentage up or down. Does nothing at the last one and at a zoom
+  /// that fits the page into the view.
   void zoomIn();
   void zoomOut();
 

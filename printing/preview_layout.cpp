@@ -8,8 +8,8 @@
 namespace printing {
 namespace {
 
-// A page that reaches the end of what is visible scrolls on until its far edge is as far from
-// the view's as its near edge was.
+// The scroll range of a page that does not fit: at its end, the space behind the page is
+// `pageEdge`, like the space before it at the beginning.
 std::int32_t rangeOf(double start, double length, double visible) {
   const double beyond = start + length + pageEdge - std::max(0.0, visible);
   return values::roundTo<std::int32_t>(std::ceil(std::max(0.0, beyond)));
@@ -26,7 +26,7 @@ double aspectOf(const PageSize& page) {
 }  // namespace
 
 PagePlace placeAtPercent(const PageSize& page, const ViewSize& view, double percent) {
-  // Single precision, as the sizes of pictures have it.
+  // Computed in single precision, like the sizes of pictures.
   const auto scaled = [percent](double length) {
     return static_cast<double>(static_cast<float>(length) / 100.0F * static_cast<float>(percent));
   };
@@ -42,7 +42,7 @@ PagePlace placeWholePage(const PageSize& page, const ViewSize& view) {
   const double width = height * aspectOf(page);
   const double centred = (view.width - width - view.verticalBar - wholePageSlack) / 2;
   const double left = std::max(pageEdge, centred);
-  // Whatever is visible of a centred page is all of it.
+  // A page that is narrow enough to be centred is visible as a whole.
   const bool fits = left + width <= view.visibleWidth();
   return {{left, width, fits ? 0 : rangeOf(left, width, view.visibleWidth())},
           {pageEdge, height, 0}};
@@ -50,7 +50,7 @@ PagePlace placeWholePage(const PageSize& page, const ViewSize& view) {
 
 PagePlace placePageWidth(const PageSize& page, const ViewSize& view) {
   const double width = std::max(0.0, view.width - view.verticalBar - 2 * fittedMargin);
-  // At the edge, not in the middle: deliberate.
+  // Deliberate: the page begins at the edge and is not centred.
   return {{pageEdge, width, 0}, fromEdge(width / aspectOf(page), view.visibleHeight())};
 }
 

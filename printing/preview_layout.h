@@ -1,21 +1,22 @@
-// Where the page lies in the preview's view, and how far it can be scrolled. All lengths are
-// twips on the screen; a scroll range that leaves 32 bits raises overflow.
+// Where the page lies in the preview's view, and how far it can be scrolled. All lengths are twips
+// on the screen. A scroll range that does not fit in 32 bits raises overflow.
 #pragma once
 
 #include <cstdint>
 
 namespace printing {
 
-constexpr double pageEdge = 45;        ///< from the view's top-left corner to the unscrolled page
-constexpr double fittedMargin = 90;    ///< kept free on each side of a page that is fitted in
-constexpr double wholePageSlack = 60;  ///< left out of the width a whole page is centred in
+constexpr double pageEdge = 45;      ///< from the view's top-left corner to the unscrolled page
+constexpr double fittedMargin = 90;  ///< free space on each side of a page as wide as the view
+constexpr double wholePageSlack =
+    60;  ///< less than the view's width: the width to centre a page in
 
 struct PageSize {
   double width = 0;
   double height = 0;
 };
 
-/// The view with what its two scroll bars take away from it.
+/// The size of the view, and of its two scroll bars.
 struct ViewSize {
   double width = 0;
   double height = 0;
@@ -42,14 +43,15 @@ struct PagePlace {
 
 /// The page at `percent` of its size: centred across where it is narrower than the view.
 [[nodiscard]] PagePlace placeAtPercent(const PageSize& page, const ViewSize& view, double percent);
-/// As high as the view, whatever its width; one that is too wide begins at the edge, so that all
-/// of it can be scrolled to.
+/// The page as high as the view, whatever its width. A page that is too wide for the view begins at
+/// the edge, so that all of it can be reached by scrolling.
 [[nodiscard]] PagePlace placeWholePage(const PageSize& page, const ViewSize& view);
-/// As wide as the view.
+/// The page as wide as the view.
 [[nodiscard]] PagePlace placePageWidth(const PageSize& page, const ViewSize& view);
 
-/// Scroll position that keeps the point `at` (from the view's corner) over the same spot of the
-/// page when the page passes from one place to another; within the new range.
+/// The scroll position for the place `after` at which the point `at` of the view (from its corner)
+/// shows the same point of the page as at `position` in the place `before`; limited to the new
+/// range.
 [[nodiscard]] std::int32_t scrollKeeping(double at, const PageSpan& before, std::int32_t position,
                                          const PageSpan& after);
 

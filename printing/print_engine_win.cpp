@@ -23,17 +23,17 @@ using values::twipsPerInch;
 
 constexpr DWORD everyPrint = PD_COLLATE | PD_RETURNDC | PD_HIDEPRINTTOFILE;
 
-// Whole inches in twips; more than 22 inches do not fit.
+// Whole inches in twips; raises overflow for more than 22 inches.
 std::int16_t inchTwips(std::int16_t inches) {
   return checkedMultiply(inches, std::int16_t{twipsPerInch});
 }
 
-// Drops what the box keeps of the pages it has laid out.
+// Has the box release what it keeps from one page to the next.
 void release(const RichTextBox& box) {
   box.send(EM_FORMATRANGE, FALSE, 0);
 }
 
-// To the page that begins at `next`; each may have a device context of its own.
+// Goes on to the page that begins at `next`. Its device context may be another one.
 void advance(FORMATRANGE& range, std::int32_t next) {
   range.chrg.cpMin = next;
   range.hdc = range.hdcTarget = printer().dc();
@@ -43,8 +43,8 @@ bool same(const RECT& a, const RECT& b) {
   return EqualRect(&a, &b) != FALSE;
 }
 
-// A page being drawn. Header and footer may raise: neither the picture nor what the box keeps for
-// its pages stays open then.
+// A page being drawn. Finishes the picture and releases the box's memory at the end of the scope,
+// also when header or footer raise an error.
 class OpenPage {
  public:
   OpenPage(paper::PagePicture& picture, const RichTextBox& text) : picture_(picture), text_(text) {
@@ -98,7 +98,7 @@ void PrintEngine::SetupPageLayout(std::int16_t left, std::int16_t top, std::int1
                   roundTo<std::int32_t>(printer().scaleHeight())};
   layout_.body.left = checkedSubtract(inchTwips(left), offsetX);
   layout_.body.top = checkedSubtract(inchTwips(top), offsetY);
-  // From the paper's far edges, not from those of the printable area.
+  // Counted from the right and bottom edges of the paper, not of the printable area.
   layout_.body.right = roundTo<std::int32_t>(width - inchTwips(right) - offsetX);
   layout_.body.bottom = roundTo<std::int32_t>(height - inchTwips(bottom) - offsetY);
 }
@@ -111,7 +111,7 @@ FORMATRANGE PrintEngine::firstPage() const {
   return {printer().dc(), printer().dc(), layout_.body, layout_.page, {0, -1}};
 }
 
-// Formats one page of `box` from range.cpMin on; the first character after it.
+// Formats one page of `box` from range.cpMin on. Returns the first character after it.
 std::int32_t PrintEngine::formatPage(const RichTextBox& box, FORMATRANGE& range) const {
   range.rc = layout_.body;  // the control changes it
   range.rcPage = layout_.page;
@@ -119,8 +119,8 @@ std::int32_t PrintEngine::formatPage(const RichTextBox& box, FORMATRANGE& range)
       box.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&range)));
 }
 
-// Whether the text goes on after a page. One that takes nothing in ends the text: margins may
-// leave no room.
+// Whether there is another page. A page without a character ends the text, since the margins may
+// leave no room for any.
 bool PrintEngine::goesOn(std::int32_t next, const FORMATRANGE& range) const {
   return next < textLength_ && next > range.chrg.cpMin;
 }
@@ -138,14 +138,14 @@ void PrintEngine::takeText(DialogForm& form, const RichTextBox& source) {
 std::int32_t PrintEngine::countPages(DialogForm& form, const PageMargins& wholeInches) {
   layOut(wholeInches);
   const RichTextBox& text = boxes_.RTF3();
-  // What was printed last may have been a part of this text.
+  // Printing has used another box, with a part of this text.
   useText(text);
   laidOut_ = {};
   rememberPages();
   pageCount_ = 1;
   FORMATRANGE range = firstPage();
   std::int32_t next = formatPage(text, range);
-  // Nothing to format: the dialog stays as it is, deliberately.
+  // Deliberate: for an empty text the dialog keeps its settings.
   if (next == 0) return pageCount_;
   for (; goesOn(next, range); next = formatPage(text, range)) {
     advance(range, next);
@@ -188,10 +188,11 @@ void PrintEngine::abandon() {
   release(boxes_.RTF3());
 }
 
-// Another printer or paper may have been chosen: its pages are what the range is about.
+// Shows the print dialog and counts the pages again, since the user may have chosen another printer
+// or paper. The range of pages is limited to the new count.
 void PrintEngine::askUser(DialogForm& form) {
   paper::PrintDialog& dialog = form.CMD1();
-  dialog.flags = dialogFlags_;  // an earlier choice of pages does not stick
+  dialog.flags = dialogFlags_;  // without the pages that the user chose last time
   {
     const library::CentredDialog centred;
     dialog.show();
@@ -232,8 +233,8 @@ void PrintEngine::sendPages() {
   FORMATRANGE range = firstPage();
   printer().startOutput();
   for (std::int32_t page = 1;; ++page) {
-    // The page routine takes the bottom margin before the right one and gets them the other way
-    // round. That crossing is deliberate; it shows only where the two differ.
+    // Deliberate: the routine takes the bottom margin before the right one, but gets them in the
+    // other order. It shows only where the two differ.
     library::LIBRARY().PAGEHEADERFOOTERINFO(std::to_string(page), margins.left, margins.top,
                                             margins.right, margins.bottom);
     const std::int32_t next = formatPage(text, range);
@@ -255,7 +256,7 @@ void PrintEngine::rememberPages() {
   if (!pagesStillValid()) laidOut_ = {layout_.body, layout_.page, printer().dc(), textLength_, {0}};
 }
 
-// The range that begins page `page`, or the last page if there are fewer.
+// The range at whose beginning page `page` begins; the last page if there are fewer.
 FORMATRANGE PrintEngine::seekPage(std::int32_t page) {
   rememberPages();
   std::vector<std::int32_t>& starts = laidOut_.starts;
@@ -283,13 +284,14 @@ void PrintEngine::drawAt(const FORMATRANGE& start, paper::PagePicture& picture) 
   const RichTextBox& text = boxes_.RTF3();
   const PageMargins margins = inTwips();
   const OpenPage open(picture, text);
-  // Crossed as on the printer.
+  // Right and bottom margin are swapped, as on the printer.
   library::LIBRARY().PAGEHEADERFOOTERINFOPREVIEW(picture, std::to_string(currentPage_),
                                                  margins.left, margins.top, margins.right,
                                                  margins.bottom);
   FORMATRANGE shown = start;
   shown.hdc = picture.dc();
-  // The picture is the whole paper; places on the printer count from its printable corner.
+  // The picture shows the whole paper, but places on the printer count from the corner of the
+  // printable area.
   shown.rc = layout_.body;
   OffsetRect(&shown.rc, layout_.offset.x, layout_.offset.y);
   text.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&shown));

@@ -1,5 +1,5 @@
-// Rich text into printed or previewed pages. The engine lays nothing out itself, but hands
-// rectangles to the rich text box (EM_FORMATRANGE), which says where each page ends.
+// Turns rich text into printed or previewed pages. The rich text box does the layout
+// (EM_FORMATRANGE): it gets the rectangle of a page and tells where the page ends.
 #pragma once
 
 #include <windows.h>
@@ -13,7 +13,7 @@
 
 namespace printing {
 
-/// Margins of a page for one purpose, in the unit of that purpose.
+/// Margins of a page, in whole inches or in twips.
 struct PageMargins {
   std::int16_t left;
   std::int16_t top;
@@ -25,8 +25,8 @@ class PrintEngine {
  public:
   explicit PrintEngine(PageBoxes& boxes) : boxes_(boxes) {}
 
-  /// Takes the text to be divided from `source`: what is selected there, or else everything.
-  /// Sets the dialog's flags to fit.
+  /// Takes the text that is to be divided into pages from `source`: its selection or, without one,
+  /// all of it. Sets the flags of the print dialog accordingly.
   void takeText(DialogForm& form, const paper::RichTextBox& source);
 
   /// Reads the four margins from the settings. Raises type mismatch where one is not a number.
@@ -37,24 +37,24 @@ class PrintEngine {
   std::int32_t countPages(DialogForm& form, const PageMargins& wholeInches);
   /// The same with the margins that were read.
   std::int32_t countPages(DialogForm& form) { return countPages(form, wholeInches()); }
-  /// Counts anew where margins, paper or printer have changed since.
+  /// Counts again if margins, paper or printer have changed.
   void refresh(DialogForm& form);
 
   /// Prints the pages that the user chooses in the print dialog, or all without asking.
   void print(DialogForm& form, bool skipDialog);
-  /// Gives up a job that an error broke off. What has reached the printing system is left to it.
+  /// Ends a job after an error. Pages that the printing system already has may still be printed.
   void abandon();
 
-  /// Draws page `page`, from 1, at full size, or the last one where there are fewer.
+  /// Draws page `page` (from 1) at full size; the last page where there are fewer.
   void drawPage(std::int32_t page, paper::PagePicture& picture);
 
-  /// The page drawn last; every layout begins at page 1 again.
+  /// The page drawn last; 1 after every layout.
   [[nodiscard]] std::int32_t currentPage() const { return currentPage_; }
   [[nodiscard]] std::int32_t pageCount() const { return pageCount_; }
 
  private:
-  /// Margins in whole inches, for the body, and in twips, for header and footer. Deliberately
-  /// rounded in two ways: half an inch is nothing to the body.
+  /// The margins in whole inches for the body, and in twips for header and footer. Deliberate: they
+  /// are rounded differently, so that half an inch counts as 0 for the body.
   [[nodiscard]] PageMargins wholeInches() const;
   [[nodiscard]] PageMargins inTwips() const;
 
@@ -72,14 +72,14 @@ class PrintEngine {
   void drawAt(const FORMATRANGE& start, paper::PagePicture& picture);
   void useText(const paper::RichTextBox& box) { textLength_ = box.length(); }
 
-  /// Where a page's text goes, twips from the printable corner.
+  /// Where the text of a page goes, twips from the corner of the printable area.
   struct Layout {
     RECT body{};
     RECT page{};
     POINT offset{};  ///< unprintable strips at the left and top
   };
-  /// Where the pages laid out so far begin, and what they were laid out for: one text on one
-  /// paper with one set of margins.
+  /// The beginnings of the pages laid out so far. They are valid for the same text, paper and
+  /// margins only.
   struct LaidOut {
     RECT body{};
     RECT page{};
@@ -97,8 +97,8 @@ class PrintEngine {
   } inches_;  ///< margins
   std::int32_t currentPage_ = 1;
   std::int32_t pageCount_ = 0;
-  /// Characters of the text that is being divided, counted as EM_FORMATRANGE counts. It always
-  /// belongs to the box in use: RTF3 while counting, RTF2 while printing.
+  /// Number of characters, as EM_FORMATRANGE counts, in the box that is being laid out: RTF3 while
+  /// pages are counted, RTF2 while they are printed.
   std::int32_t textLength_ = 0;
   DWORD dialogFlags_ = 0;
   LaidOut laidOut_;

@@ -1,5 +1,5 @@
-// What printing works with but does not own: the preview window has it, and loads, hidden, when
-// any of it is used.
+// The boxes, dialogs and controls that printing uses. The preview window owns them, and is loaded,
+// hidden, when one of them is used.
 #pragma once
 
 #include <string>
@@ -23,29 +23,29 @@ class DialogForm {
   [[nodiscard]] virtual paper::PrintDialog& CMD1() = 0;
 };
 
-/// What the print engine fills.
+/// A form with the boxes and the picture that the print engine fills.
 class PageBoxes : public DialogForm {
  public:
   /// The pages that are being printed.
   [[nodiscard]] virtual paper::RichTextBox& RTF2() = 0;
   /// The text that is being divided into pages.
   [[nodiscard]] virtual paper::RichTextBox& RTF3() = 0;
-  /// The page on show, at full size.
+  /// The page that the preview shows, at full size.
   [[nodiscard]] virtual paper::PagePicture& PICSTDPAGE() = 0;
 };
 
-/// What the preview's controller shows its state on.
+/// The preview's window as its controller uses it.
 class PreviewWindow : public PageBoxes {
  public:
-  /// The lists of pages and zooms. Their texts are the page and the zoom on show; choosing in
-  /// them by program does nothing else.
+  /// The lists of pages and zooms. Their selected entries are the page and the zoom that are shown.
+  /// Selecting an entry by program has no other effect.
   [[nodiscard]] virtual windowing::ComboBox CBOPGNO() = 0;
   [[nodiscard]] virtual windowing::ComboBox CBOPGZOOM() = 0;
-  /// The view that the page on show lies in.
+  /// The view that shows the page.
   [[nodiscard]] virtual PageView& PICWINDOW() = 0;
   /// Places the view between the bars that are shown.
   virtual void placeView() = 0;
-  /// Enables the commands that the page and the zoom on show leave to be chosen.
+  /// Enables and disables the commands for the page and the zoom that are shown.
   virtual void RefreshCommands() = 0;
   virtual void setCommandChecked(int command, bool checked) = 0;
   virtual void setPaperSize(const std::string& text) = 0;
@@ -54,7 +54,7 @@ class PreviewWindow : public PageBoxes {
   virtual void restorePlace() = 0;
   /// Shows the preview and returns when it is closed.
   virtual void showPreview() = 0;
-  /// Gives up a preview that was not shown yet.
+  /// Discards a preview that was not shown yet.
   virtual void discardPreview() = 0;
 };
 

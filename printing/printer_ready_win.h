@@ -1,4 +1,5 @@
-// Whether the commands that print have a printer to work with. The user is told when not.
+// Whether there is a printer for the commands that print. Both functions tell the user when there
+// is none.
 #pragma once
 
 namespace printing {
@@ -6,8 +7,8 @@ namespace printing {
 /// Whether any printer is installed.
 [[nodiscard]] bool printerInstalled();
 
-/// Whether there is a current printer that answers: one that was taken away, or whose driver is
-/// gone, would end printing without a word.
+/// Whether the current printer answers. Without this question, printing on one that was removed
+/// would end without a message.
 [[nodiscard]] bool printerReady();
 
 }  // namespace printing

@@ -12,7 +12,7 @@ using document::Slot;
 
 constexpr std::size_t addressParts = 5;
 
-// A line of the report: a field under its own label, or the address that begins with a field.
+// A line of the report: a field behind its own label, or an address, which begins with this field.
 struct Line {
   Slot field;
   std::string_view addressLabel{};  // empty for a line of one field
@@ -46,7 +46,7 @@ constexpr bool everyLineHasALabel() {
 }
 static_assert(everyLineHasALabel());
 
-// The parts of an address follow each other as fields do: street twice, city, country, code.
+// The fields of an address follow each other: two lines of the street, city, country, postcode.
 std::string addressFrom(const ContactRecord& values, Slot street) {
   std::string address;
   const auto first = values.fields.begin() + static_cast<std::ptrdiff_t>(street);
@@ -77,7 +77,7 @@ std::vector<ReportStep> reportOf(const ContactRecord& values) {
     const std::string label(address ? line.addressLabel
                                     : document::fieldOf(line.field).reportLabel);
     steps.push_back({Kind::lineBreak, {}});
-    // Label and number of the work fax are deliberately two insertions, unlike all others.
+    // Deliberate: only for the work fax are label and number two insertions.
     if (line.field == Slot::WorkFax) {
       steps.push_back({Kind::text, label});
       steps.push_back({Kind::text, value});

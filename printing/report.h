@@ -1,4 +1,4 @@
-// The one-contact report: what is written, in which order, before it becomes rich text.
+// The report of one contact: its texts and their order, before they become rich text.
 #pragma once
 
 #include <string>
@@ -8,8 +8,7 @@
 
 namespace printing {
 
-/// One step of composing: a line break, or a piece of text in bold or regular type. Every step
-/// is an insertion of its own.
+/// One insertion into the report: a line break, or a piece of text in bold or regular type.
 struct ReportStep {
   enum class Kind { lineBreak, boldText, text };
   Kind kind = Kind::lineBreak;
@@ -18,8 +17,8 @@ struct ReportStep {
   friend bool operator==(const ReportStep&, const ReportStep&) = default;
 };
 
-/// Steps of the report of `values`, the 28 texts as they stand on screen. Nothing is trimmed; a
-/// value that is not empty gets a labelled line.
+/// The steps of the report of `values`, the 28 texts on screen. Each value that is not empty gets a
+/// line with a label. Nothing is trimmed.
 [[nodiscard]] std::vector<ReportStep> reportOf(const document::ContactRecord& values);
 
 }  // namespace printing

@@ -9,13 +9,13 @@
 
 namespace printing {
 
-/// One zoom. Its text in the zoom list is what the rest of the program knows it by.
+/// One zoom. The rest of the program identifies it by its text in the zoom list.
 struct ZoomLevel {
   std::string_view text;
   int command;  ///< of its menu item
 };
 
-constexpr int steppedZooms = 6;  ///< the percentages, which zooming in and out steps through
+constexpr int steppedZooms = 6;  ///< number of percentages; zooming in and out goes through them
 
 /// All zooms in the order of the list: the percentages, smallest first, and the fitted ones.
 constexpr std::array<ZoomLevel, 8> zoomLevels = {{
@@ -33,15 +33,15 @@ constexpr std::string_view pageWidthZoom = "Page Width";
 constexpr std::string_view wholePageZoom = "Whole Page";
 constexpr std::string_view defaultZoom = "50 %";
 
-/// Place of the zoom with this text in the list; nothing for any other text.
+/// Index in the list of the zoom with this text; no value for any other text.
 [[nodiscard]] constexpr std::optional<int> zoomIndex(std::string_view text) {
   for (std::size_t i = 0; i < zoomLevels.size(); ++i)
     if (zoomLevels[i].text == text) return static_cast<int>(i);
   return std::nullopt;
 }
 
-/// Text of the percentage `step` places further up; `text` itself where there is none, as for the
-/// fitted zooms, which have no place among the percentages.
+/// Text of the percentage that is `step` places further up in the list. `text` itself where there
+/// is none, and for a zoom that is no percentage.
 [[nodiscard]] constexpr std::string_view zoomStepped(std::string_view text, int step) {
   const std::optional<int> index = zoomIndex(text);
   if (!index || *index >= steppedZooms) return text;

@@ -2,8 +2,8 @@
 # Fails where an #include goes against the direction in which the rooms may import: check_rooms.sh
 #
 # A room may include its own files and those of any room further right in the drawing of
-# ARCHITECTURE.md, which is read here, so that drawing and code cannot part. Rooms of one step
-# know nothing of each other; `values` and `document` import nothing.
+# ARCHITECTURE.md. The drawing is read here, so that the code always agrees with it. Rooms of one step
+# may not include each other.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 

@@ -1,7 +1,7 @@
 #!/bin/bash
-# Measures the program on a full document (32,767 contacts) and prints one table: each figure,
-# what it is held against in the same run, their ratio, and the ratio allowed. Figures are
-# medians of nine rounds. The exit code is zero only if all keep their limit.
+# Measures the program with a full document (32,767 contacts) and prints one table: each figure, its
+# floor measured in the same run, their ratio, and the ratio allowed. Figures are medians of nine
+# rounds. The exit code is zero only if all ratios are allowed.
 #
 #   figures.sh [--no-build] [PART ...]      PART: reading saving window printing size start; all without
 #
@@ -46,7 +46,7 @@ mkdir "$work"
 start_screen 1280x1024 || fail "no screen in memory could be started (Xvfb, openbox)"
 export WINEPREFIX=$prefix TELLARY_DISPLAY=$DISPLAY
 
-# Documents lie on the prefix's own drive, where their paths hold no blank.
+# Documents are put on the prefix's own drive, where their paths have no blanks.
 full=$prefix/drive_c/full.tly
 "$native/generate_contacts" 32767 1 "$full" && "$native/generate_contacts" 1000 1 "$work/thousand.tly" ||
   fail "the documents could not be made"
@@ -62,9 +62,9 @@ run() {
   tr -d '\r' <"$work/out" | tee -a "$table" >>"$details"
 }
 
-# From here on everything runs on one processor, the screen and Wine itself too: a start is a
-# conversation of several processes, and how fast one processor wakes another one up differs from
-# hour to hour, threefold on some machines.
+# From here on everything runs on one processor, the screen and Wine itself too. Several processes take
+# part in a start, and the time that one processor takes to wake up another differs from hour to hour,
+# threefold on some machines.
 use_one_processor() {
   wineserver -k || true
   stop_screen

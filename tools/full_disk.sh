@@ -3,7 +3,7 @@
 #
 # The disk is a small file system in memory, in a mount namespace of its own that goes away
 # with this script; no rights are needed where the system lets users have such namespaces.
-# Exit code 77, and the reason, where it does not.
+# Where it does not, prints the reason and returns 77.
 set -uo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -25,7 +25,7 @@ log=$(mktemp)
 "$root/tools/winerun" "$3" --gtest_filter='*FullDisk*' >"$log"
 code=$?
 cat "$log"
-# Nothing run, or skipped after all, is no success.
+# No success if no test ran or any was skipped.
 grep -q '\[       OK \]' "$log" || code=1
 rm -f "$log"
 exit $code

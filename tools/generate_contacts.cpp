@@ -1,8 +1,8 @@
-// Writes a document of made-up contacts, the same for the same count and seed:
+// Writes a document of invented contacts, the same for the same count and seed:
 //   generate_contacts COUNT [SEED [FILE]]
-// Without FILE it goes to standard output. Nobody in it exists: invented companies, telephone
-// numbers that the regulators keep free for fiction, and mail and web addresses under domains
-// that are reserved for examples. Texts are bytes of the Western code page.
+// Without FILE it goes to standard output. The companies are invented, the telephone numbers are
+// reserved for fiction and the domains of mail and web addresses for examples. Texts are bytes of
+// the Western code page.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -18,7 +18,7 @@ namespace {
 using document::ContactList;
 using document::Slot;
 
-/// A small generator of its own: the library's distributions differ between compilers.
+/// A small random generator, because those of the C++ library differ between compilers.
 class Dice {
  public:
   explicit Dice(std::uint64_t seed) : state_(seed) {}
@@ -49,7 +49,7 @@ class Dice {
   std::uint64_t state_;
 };
 
-/// A name as it is written and as it stands in a mail address.
+/// A name as it is written, and as it is in a mail address.
 struct Name {
   std::string_view text;
   std::string_view plain;

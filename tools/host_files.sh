@@ -1,9 +1,9 @@
 #!/bin/bash
-# Saves to files of many permissions, and through links, and looks at them as the host shows them:
+# Saves to files of many permissions and through links, and checks the files from outside of Wine:
 # host_files.sh PATH/tests_win.exe
 #
-# A document keeps its permissions, its inode where something else hangs on that, and its links,
-# whatever the user's mask is; a new one gets what the mask leaves.
+# Whatever the user's mask is, a document keeps its permissions, its links and, where it has several
+# names, its inode; a new document gets the permissions that the mask allows.
 set -uo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 [[ $# -eq 1 && -f $1 ]] || { echo "usage: host_files.sh PATH/tests_win.exe" >&2; exit 2; }
@@ -21,7 +21,7 @@ is() {
   echo "host_files: umask $mask: $1: $3 where $2 is wanted"
   failures=$((failures + 1))
 }
-# Paths below the current folder as Wine knows them.
+# Prints paths below the current folder as Wine spells them.
 save() {
   local list='' path
   for path in "$@"; do list+="Z:$PWD/$path;"; done
@@ -48,7 +48,7 @@ for mask in 022 002 077 027 007; do
   ln -s real linked
   ln real/hard other/hard
   hard=$(stat -c %i real/hard)
-  # What a document's stand-in lets the group do while the document is renewed: nothing more.
+  # While a document is being saved, its temporary file must not allow the group more.
   echo old >private
   chmod 600 private
   echo new >standin

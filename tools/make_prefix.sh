@@ -1,14 +1,14 @@
 #!/bin/sh
-# Makes Wine prefixes (the folder that plays the part of a Windows machine).
+# Makes Wine prefixes (folders that each stand for a Windows machine).
 #
 #   make_prefix.sh template                 the template that scratch prefixes are copied from
 #   make_prefix.sh copy DIR [options]       a scratch prefix at DIR, in a fraction of a second
 #   make_prefix.sh whole DIR [options]      a prefix of its own at DIR, sharing no file
 #   make_prefix.sh sweep                    removes scratch prefixes whose owner was killed
 #
-# Options: --dpi N (96, 144, 192 ...), --graphics null|x11. The null driver shows nothing
-# but knows windows, focus, keys, menus and printing, and is several times faster than X.
-# What exists already is left alone.
+# Options: --dpi N (96, 144, 192 ...), --graphics null|x11. The null driver has no screen, but windows,
+# focus, keys, menus and printing work, several times faster than with X. A prefix that exists already
+# is not changed.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 # shellcheck source=tools/wine_env.sh
@@ -24,13 +24,13 @@ fail() {
   exit 1
 }
 
-# Everything that depends on the recipe below or on Wine's version is made anew after a change.
+# The template is made again when this script or Wine's version changes.
 stamp_text() {
   cksum <"$root/tools/make_prefix.sh"
   wine --version 2>/dev/null || true
 }
 
-# Puts a finished prefix at $1, or nothing at all.
+# Puts a prefix at $1 when it is complete; otherwise nothing.
 build_prefix() {
   command -v wine >/dev/null || fail "Wine is missing; tools/setup.sh installs it"
   mkdir -p "$(dirname "$1")"

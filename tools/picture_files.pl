@@ -1,5 +1,5 @@
 #!/usr/bin/perl
-# The two steps of rendering pictures that no tool takes (tools/render_icons.sh):
+# The two steps of rendering pictures for which there is no tool (tools/render_icons.sh):
 #   picture_files.pl fit SIZE <DRAWING >FITTED
 # fits a drawing made on a grid of 16 to another size, so that its edges fall on whole pixels, and
 #   picture_files.pl bmp WIDTH HEIGHT <PIXELS >BITMAP
@@ -28,10 +28,10 @@ sub write_bitmap {
   print pack('a2VvvV', 'BM', $start + length $rows, 0, 0, $start) . $info . $colours . $rows;
 }
 
-# Where the coordinate `c` of the grid of 16 goes at `size` pixels. Edges of areas
-# and the centre lines of strokes (`width` pixels; 0: no stroke) go to the nearest
-# place that is sharp, measured from the middle so that what is symmetrical stays
-# so; everything else keeps its share of the way between two such places.
+# The place at `size` pixels of the coordinate `c` of the grid of 16. Edges of areas and the centre
+# lines of strokes (`width` pixels; 0: no stroke) go to the nearest place where they are sharp, counted
+# from the middle, so that a symmetrical drawing stays symmetrical. All other coordinates keep their
+# relative place between two of these.
 sub fit_coordinate {
   my ($c, $size, $width) = @_;
   my $sharp = sub {
@@ -60,7 +60,7 @@ sub fit_path {
       $out .= $token;
       next;
     }
-    # Of an arc, the first five numbers are no coordinates: radii, angle, flags.
+    # The first five numbers of an arc are no coordinates but radii, angle and flags.
     my $arc = $command eq 'A' ? $n % 7 : 7;
     $n++;
     $out .= ' ' . ($arc < 2 ? $token * $scale : $arc < 5 ? $token : $fit->($token));
@@ -92,7 +92,7 @@ sub fit_drawing {
       @a{qw(x y)} = ($x, $y);
       $a{rx} *= $scale if $a{rx};
     } else {
-      # The two edges are what has to be sharp; a circle stays round.
+      # Both edges of a shape have to be sharp, but a circle has to stay round.
       my $rx = $a{rx} // $a{r};
       my $ry = $a{ry} // $a{r};
       my ($left, $top) = ($fit->($a{cx} - $rx), $fit->($a{cy} - $ry));

@@ -1,11 +1,11 @@
 # shellcheck shell=bash disable=SC2034,SC2154
-# A screen of our own for machines without a display, and what is done with windows on it;
-# sourced by bash scripts. The caller has set `root` and sourced wine_env.sh; `prefix` is a prefix
-# that exists, or the one that use_scratch_prefix makes.
+# A screen in memory for machines without a display, and functions for windows on it; sourced by bash
+# scripts. The caller has set `root` and sourced wine_env.sh; `prefix` is a prefix that exists, or the
+# one that use_scratch_prefix makes.
 
 screen_pids=()
 
-# Makes a Wine prefix and sets `prefix` to it; it goes, with the screen, when the script ends.
+# Makes a Wine prefix and sets `prefix` to it. It is removed, with the screen, when the script ends.
 # The arguments are those of make_prefix.sh for a copy.
 use_scratch_prefix() {
   mkdir -p "$TELLARY_PREFIXES"
@@ -31,7 +31,7 @@ start_screen() {
   DISPLAY=":$(<"$number_file")"
   export DISPLAY
   rm -f "$number_file"
-  # Without the window manager's own keys, Alt+Space and Alt+F4 reach the program.
+  # The window manager gets no keys of its own, so that Alt+Space and Alt+F4 reach the program.
   config=$(mktemp)
   sed '/<keyboard>/,/<\/keyboard>/d' /etc/xdg/openbox/rc.xml >"$config"
   openbox --config-file "$config" >/dev/null 2>&1 </dev/null &
@@ -85,7 +85,7 @@ wait_for_window() {
   return 1
 }
 
-# Saves the whole screen as FILE once it has stopped changing (or after five seconds).
+# Saves the whole screen as FILE when it has stopped changing, after five seconds at the latest.
 take_picture() {
   local before='' now i
   for ((i = 0; i < 20; i++)); do

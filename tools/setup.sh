@@ -1,9 +1,9 @@
 #!/bin/bash
-# Installs from Debian 12 what is missing, and nothing when all is there (no network then).
+# Installs the packages that are missing from Debian 12. Needs no network when none is missing.
 #
 #   setup.sh run     what building and running the program needs
-#   setup.sh test    that, and what the tests and checks need (the default)
-#   setup.sh render  what rendering the pictures anew needs, and no more
+#   setup.sh test    the same, and what the tests and checks need (the default)
+#   setup.sh render  only what rendering the pictures needs
 set -euo pipefail
 
 run_packages=(
@@ -71,9 +71,9 @@ if [[ " ${missing[*]} " == *":i386 "* ]] && ! dpkg --print-foreign-architectures
   "${as_root[@]}" dpkg --add-architecture i386
 fi
 
-# Naming the release keeps the 64- and 32-bit libraries at one version; where the machine
-# already holds newer ones, the second form fits. A package list that cannot be refreshed
-# need not matter, so only the installation decides.
+# Naming the release keeps the 64- and 32-bit libraries at one version; the second form is for machines
+# that already have newer ones. It is no error if the package lists cannot be updated, as long as the
+# installation succeeds.
 update() { apt update >>"$log" 2>&1 || say "some package lists could not be refreshed; going on"; }
 install() { apt install -y --no-install-recommends "$@" "${missing[@]}" >>"$log" 2>&1; }
 update

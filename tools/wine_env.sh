@@ -12,8 +12,8 @@ export LC_ALL=C.UTF-8
 export WINEARCH=win32 WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
 
-# Tests and scripts must not land on the user's screen by chance: a display is used only
-# where it is asked for by name.
+# Tests and scripts must not open windows on the user's screen by chance: a display is used only where
+# TELLARY_DISPLAY names it.
 if [ -n "${TELLARY_DISPLAY:-}" ]; then
   export DISPLAY="$TELLARY_DISPLAY"
 else

@@ -14,7 +14,8 @@ constexpr UINT wideText = 1200;  // code page number of UTF-16
 constexpr DWORD wantedMask = CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_COLOR | CFM_BOLD | CFM_ITALIC |
                              CFM_UNDERLINE | CFM_STRIKEOUT;
 
-// Straight to the control: the subclass procedure is on its way through EM_FORMATRANGE.
+// Sends a message to the control itself. SendMessage would call the subclass procedure, which is
+// handling EM_FORMATRANGE at that moment.
 LRESULT ask(HWND control, UINT message, WPARAM wParam, const void* lParam) {
   return DefSubclassProc(control, message, wParam, reinterpret_cast<LPARAM>(lParam));
 }
@@ -37,7 +38,7 @@ bool sameFormat(const CHARFORMAT2A& a, const CHARFORMAT2A& b) {
          a.bCharSet == b.bCharSet && std::strcmp(a.szFaceName, b.szFaceName) == 0;
 }
 
-// A range in several formats is halved until each part has one.
+// Halves a range that has several formats until each part has one.
 void collectRuns(HWND control, int first, int last, std::vector<TextRun>& runs) {
   const CHARRANGE range{first, last};
   ask(control, EM_EXSETSEL, 0, &range);
@@ -67,7 +68,7 @@ FormattedText readFormattedText(HWND control) {
   read.text = readText(control);
   CHARRANGE selection{};
   ask(control, EM_EXGETSEL, 0, &selection);
-  // Letting a control paint again shows it, and this one may be hidden.
+  // WM_SETREDRAW with TRUE shows a control, so it is not used where the control is hidden.
   const bool shown = (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown) ask(control, WM_SETREDRAW, FALSE, nullptr);
   collectRuns(control, 0, static_cast<int>(read.text.size()), read.runs);

@@ -1,5 +1,5 @@
-// The text of a rich edit control with its formats, as formatting pages on Wine needs it:
-// characters and runs, and their measures on one device.
+// The text of a rich edit control with its formats, and the sizes of its characters on one device,
+// for formatting pages on Wine.
 #pragma once
 
 #include <windows.h>
@@ -29,15 +29,15 @@ struct FormattedText {
   [[nodiscard]] std::size_t runAt(int position) const;
 };
 
-/// Reads text and formats from a rich edit control, past its subclass procedures. The
-/// selection is the same afterwards.
+/// Reads text and formats from a rich edit control itself, not through its subclass procedures.
+/// Keeps the selection.
 [[nodiscard]] FormattedText readFormattedText(HWND control);
 
 /// Font of `format` on a device of `dpi` dots per inch.
 [[nodiscard]] values::FontHandle fontOf(const CHARFORMAT2A& format, int dpi);
 
-/// Measures of a text on one device. The widths of the characters met are kept, so that each
-/// costs the device one question.
+/// Sizes of a text's characters on one device. Widths are kept, so that the device is asked only
+/// once for each character.
 class DeviceMeasure final : public TextMeasure {
  public:
   DeviceMeasure(const FormattedText& text, HDC device);
@@ -45,7 +45,7 @@ class DeviceMeasure final : public TextMeasure {
   [[nodiscard]] std::u16string_view text() const override { return text_.text; }
   [[nodiscard]] int advance(int position) override;
   [[nodiscard]] LineHeight height(int position) override;
-  /// The device that was measured on, as long as it still has the same resolution.
+  /// Whether the text was measured for `device`: the same device context at the same resolution.
   [[nodiscard]] bool measures(HDC device) const;
 
  private:

@@ -16,7 +16,8 @@ namespace {
 
 constexpr int tabStopTwips = 720;  // half an inch, as the control's own default
 
-// Placing of layout units (pixels of the measuring device) on the device drawn on.
+// Converts places in the layout (pixels of the device that measures) to the device that is drawn
+// on.
 class Canvas {
  public:
   Canvas(HDC dc, HDC target, const RECT& area)
@@ -36,8 +37,8 @@ class Canvas {
   ~Canvas() { RestoreDC(dc_, saved_); }
 
   [[nodiscard]] HDC dc() const { return dc_; }
-  // The font of a run, and its colour, are in the device until another run's are wanted: making
-  // them anew for every line would cost more than the text.
+  // Selects the font and colour of a run, unless they are selected already. Making a font for every
+  // line would take longer than drawing the text.
   void use(const std::vector<TextRun>& runs, std::size_t run) {
     if (run_ == run) return;
     run_ = run;
@@ -72,13 +73,13 @@ class PageFormatter {
  public:
   explicit PageFormatter(HWND control) : control_(control) {}
 
-  // Whether the control itself leaves the message unanswered; asked once, with room enough
-  // on the page that no answer of 0 can be meant.
+  // Whether the control itself does not answer the message. Asked once, with a page so large that
+  // the true answer cannot be 0.
   [[nodiscard]] bool needed(const FORMATRANGE& range);
-  // Positions are long in the message and int here; the two are one size on Windows.
+  // Positions are long in the message and int here, which have the same size on Windows.
   LRESULT format(FORMATRANGE& range, bool render);
-  // Fonts and measures go with the device; the text is good until it changes, and a long one
-  // takes its time to be read.
+  // Drops what belongs to the device. The text is kept until it changes, since reading a long one
+  // takes long.
   void releaseDevice() { measure_.reset(); }
   void forgetText() {
     measure_.reset();
@@ -99,7 +100,7 @@ bool PageFormatter::needed(const FORMATRANGE& range) {
   if (needed_) return *needed_;
   GETTEXTLENGTHEX length{GTL_DEFAULT, CP_ACP};
   if (DefSubclassProc(control_, EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&length), 0) <= 0)
-    return false;  // an empty text has no other answer than 0
+    return false;  // for an empty text the answer is always 0, so it tells nothing
   constexpr LONG page = 10 * values::twipsPerInch;
   FORMATRANGE roomy{range.hdc, range.hdcTarget, {0, 0, page, page}, {0, 0, page, page}, {0, -1}};
   needed_ = DefSubclassProc(control_, EM_FORMATRANGE, FALSE, reinterpret_cast<LPARAM>(&roomy)) == 0;
@@ -151,8 +152,8 @@ void PageFormatter::draw(const PageLayout& page, const PageArea& area, const FOR
   }
 }
 
-// Draws characters of one format. Each is put where the measuring device would have it, so
-// that lines are as long on a coarse screen as on the printer.
+// Draws characters of one format. Each character is placed where the device that measures has it,
+// so that lines have the same length on the screen as on the printer.
 void PageFormatter::drawRun(Canvas& canvas, const PageLine& line, int first, int last, int x) {
   if (first >= last) return;
   canvas.use(text_->runs, text_->runAt(first));
@@ -170,7 +171,7 @@ void PageFormatter::drawRun(Canvas& canvas, const PageLine& line, int first, int
               characters.c_str(), static_cast<UINT>(characters.size()), advances.data());
 }
 
-// Messages that leave text and formats as they are; any other may change them.
+// Whether a message changes neither text nor formats. Any other message may.
 bool changesNothing(UINT message) {
   switch (message) {
     case EM_GETTEXTLENGTHEX:
@@ -211,7 +212,7 @@ LRESULT CALLBACK answer(HWND control, UINT message, WPARAM wParam, LPARAM lParam
     if (range != nullptr && formatter->needed(*range))
       return formatter->format(*range, wParam != FALSE);
   } catch (const std::exception&) {
-    return 0;  // as the control does when it lacks memory
+    return 0;  // as the control answers when it lacks memory
   }
   return DefSubclassProc(control, message, wParam, lParam);
 }
@@ -221,7 +222,7 @@ LRESULT CALLBACK answer(HWND control, UINT message, WPARAM wParam, LPARAM lParam
 void installPageFormatter(HWND control) {
   auto formatter = std::make_unique<PageFormatter>(control);
   if (SetWindowSubclass(control, answer, 0, reinterpret_cast<DWORD_PTR>(formatter.get())))
-    (void)formatter.release();  // now the control's
+    (void)formatter.release();  // the control owns it now
 }
 
 }  // namespace paper::wine

@@ -1,16 +1,16 @@
-// The program's own answer to EM_FORMATRANGE, for Wine, whose rich edit control knows the message
-// but does nothing about it. The control of Windows answers, and is left to.
+// The program's own answer to EM_FORMATRANGE. On Wine, the rich edit control ignores this message.
+// On Windows, the control answers it, and this code takes no part.
 #pragma once
 
 #include <windows.h>
 
 namespace paper::wine {
 
-/// Has `control`, a rich edit control, answer EM_FORMATRANGE: by itself where it can, as it does
-/// on Windows, else by the same rules: rectangles in twips, measured on hdcTarget and drawn on hdc
-/// when wParam is not 0, the first character that did not fit as result, rc.bottom moved up to the
-/// end of the text; a null range releases what was kept between the pages. Lasts as long as the
-/// control.
+/// Makes `control`, a rich edit control, answer EM_FORMATRANGE as long as it lives. Where the
+/// control can answer itself, as on Windows, it does. Else this code answers by the same rules:
+/// rectangles are twips; text is measured on hdcTarget and, when wParam is not 0, drawn on hdc; the
+/// result is the first character that did not fit; rc.bottom becomes the end of the text; a null
+/// range releases what is kept between pages.
 void installPageFormatter(HWND control);
 
 }  // namespace paper::wine

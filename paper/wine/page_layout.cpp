@@ -18,7 +18,7 @@ void include(LineHeight& line, LineHeight character) {
   line.descent = std::max(line.descent, character.descent);
 }
 
-// The line from `first` up to `next`: what is seen of it, and how high it is.
+// The line from `first` up to `next`: its visible characters and its height.
 PageLine finish(TextMeasure& measure, int first, int end, int next) {
   PageLine line{first, end, next, 0, {}};
   const std::u16string_view text = measure.text();
@@ -30,7 +30,7 @@ PageLine finish(TextMeasure& measure, int first, int end, int next) {
 PageLine breakLine(TextMeasure& measure, int first, int last, const PageArea& area) {
   const std::u16string_view text = measure.text();
   int x = 0;
-  int wordStart = first;  // where the line may end so that the next begins with a word
+  int wordStart = first;  // where the line can be broken
   for (int i = first; i < last; ++i) {
     const char16_t character = text[static_cast<std::size_t>(i)];
     if (endsLine(character)) return finish(measure, first, i, i + 1);
@@ -38,7 +38,7 @@ PageLine breakLine(TextMeasure& measure, int first, int last, const PageArea& ar
     const int advance = tab ? tabAdvance(x, area.tabStop) : measure.advance(i);
     const bool blank = character == u' ';
     if (tab) wordStart = i;
-    // Blanks hang over the edge: a line never begins with the blank that ended a word.
+    // Blanks at the end of a line may lie beyond the edge, so that no line begins with one.
     if (!blank && x + advance > area.width && i > first) {
       const int next = wordStart > first ? wordStart : i;
       return finish(measure, first, next, next);

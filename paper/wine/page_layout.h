@@ -1,5 +1,5 @@
-// Breaking text into the lines of one page: the arithmetic of formatting pages on Wine, over
-// measures that a device gives. Lengths are whole device units of the measuring device.
+// Breaking text into the lines of one page, for formatting pages on Wine. Lengths are pixels of the
+// device that measures.
 #pragma once
 
 #include <string_view>
@@ -12,8 +12,8 @@ struct LineHeight {
   int descent = 0;
 };
 
-/// What layout asks of a text and its device. Positions count from 0; a paragraph break is one
-/// character, CR or LF.
+/// The text to lay out and its measures on a device. Positions count from 0; a paragraph break is
+/// one character, CR or LF.
 class TextMeasure {
  public:
   TextMeasure() = default;
@@ -22,7 +22,7 @@ class TextMeasure {
   virtual ~TextMeasure() = default;
 
   [[nodiscard]] virtual std::u16string_view text() const = 0;
-  /// Width of the character at `position`; never asked of tabs and line ends.
+  /// Width of the character at `position`, which is neither a tab nor a line end.
   [[nodiscard]] virtual int advance(int position) = 0;
   [[nodiscard]] virtual LineHeight height(int position) = 0;
 };
@@ -35,7 +35,7 @@ struct PageArea {
 
 struct PageLine {
   int first = 0;
-  int end = 0;   ///< past the last character to be seen: blanks at a line's end are not
+  int end = 0;   ///< past the last visible character; blanks at a line's end are not visible
   int next = 0;  ///< first character of the following line
   int top = 0;   ///< from the top of the area
   LineHeight height;
@@ -47,10 +47,10 @@ struct PageLayout {
   int height = 0;  ///< of all its lines
 };
 
-/// Lays out what of [first, last) fits into `area`. Words wrap at blanks, tabs and hyphens; a
-/// word wider than the area breaks inside; a line is never split between two pages. Every page
-/// takes at least one line and every line at least one character, however small the area is. A
-/// form feed ends the page. The cost depends on the page alone, not on what stands before it.
+/// Lays out as much of [first, last) as fits into `area`. Lines break at blanks, tabs and hyphens,
+/// and inside a word only where it is wider than the area. A line is never split between two pages.
+/// Every page has at least one line and every line at least one character, however small the area
+/// is. A form feed ends the page. The time depends on this page only, not on the text before it.
 [[nodiscard]] PageLayout layOutPage(TextMeasure& measure, int first, int last,
                                     const PageArea& area);
 

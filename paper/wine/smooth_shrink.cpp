@@ -4,8 +4,8 @@
 
 namespace paper::wine {
 
-// Red and blue are summed up in one number, sixteen bits apart: the sums of four times four pixels
-// need twelve.
+// Red and blue are added up in one number, sixteen bits apart; the sums of 4 x 4 pixels need twelve
+// bits.
 void shrinkSmoothly(std::span<const std::uint32_t> large, int largeWidth,
                     std::span<std::uint32_t> small, int width, int factor) {
   constexpr std::uint32_t redAndBlue = 0xFF00FF;
