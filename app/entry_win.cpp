@@ -7,16 +7,16 @@
 #include "app/modMain_win.h"
 #include "windowing/system_library_win.h"
 
-// The library's own would name the exception on a console, which this program has none of, and
-// bring 50 KB of name decoding along.
+// Replaces the C++ library's handler, which prints the exception's name on a console. This program
+// has no console, and the code that decodes names would add 50 KB.
 void __gnu_cxx::__verbose_terminate_handler() {
   std::abort();
 }
 
 namespace {
 
-// Before all else: the compiler's library asks Windows for a random number before `WinMain`, to
-// guard the stack with, and Windows loads libraries for it.
+// Runs before everything else. The compiler's library asks Windows for a random number for its
+// stack guard before `WinMain`, and Windows loads libraries for that.
 [[gnu::constructor(101)]] void beginSafely() {
   windowing::loadLibrariesFromSystemOnly();
 }

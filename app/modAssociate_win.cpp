@@ -20,7 +20,7 @@ namespace {
 using values::RegistryKey;
 
 constexpr std::int32_t classesRoot = std::numeric_limits<std::int32_t>::min();
-constexpr REGSAM keyAccess = 63;  // the six rights of a key itself, none of the standard ones
+constexpr REGSAM keyAccess = 63;  // the six rights that only keys have; no standard rights
 
 void makeKey(HKEY root, const std::string& path) {
   HKEY key = nullptr;
@@ -53,8 +53,8 @@ void Associate(const std::string& extension, const std::string& typeName,
   const std::string program =
       library::composePath(windowing::programFolder(), file, values::isLeadByte);
   const std::string document = exe + ".Document";
-  // No quotes around either, deliberately: start-up takes all that follows the program's
-  // name as one path.
+  // Deliberately no quotes around the program or "%1": start-up takes everything that follows the
+  // program's name as one path.
   const std::string command = program + " %1";
   library::clsLibrary& library = library::LIBRARY();
 

@@ -5,9 +5,9 @@
 
 namespace app {
 
-/// Has documents with `extension` (without a dot) show the program's icon group `iconIndex`
-/// (decimal text) and open in this program. Written anew at every start, which repairs what
-/// another program changed; every failure is ignored.
+/// Registers documents with `extension` (without a dot): they open in this program and show its
+/// icon group `iconIndex` (decimal text). Called at every start, so that it also repairs what
+/// another program changed. Every failure is ignored.
 void Associate(const std::string& extension, const std::string& typeName,
                const std::string& iconIndex);
 

@@ -3,9 +3,9 @@
 
 namespace app {
 
-/// Opens a document named on the command line, registers the document type, shows the main
-/// window and runs the program until it is closed. Errors before the window shows are ignored,
-/// step by step. Returns the process's exit code.
+/// Opens the document that the command line names, registers the document type, shows the main
+/// window and runs the program until the window is closed. An error in one of the first two steps
+/// is ignored. Returns the process's exit code.
 int Main();
 
 }  // namespace app

@@ -18,7 +18,7 @@ namespace {
 std::string fullPathOf(const std::string& requested) {
   std::array<char, MAX_PATH> buffer{};
   const DWORD length = GetFullPathNameA(requested.c_str(), buffer.size(), buffer.data(), nullptr);
-  // A greater number is the size it would have needed.
+  // Where the buffer is too small, the result is the size that it would need.
   return length != 0 && length < buffer.size() ? std::string(buffer.data(), length) : requested;
 }
 
@@ -30,7 +30,7 @@ std::string folderOf(const std::string& path) {
   return folder;
 }
 
-// Empty where the shell does not know the file.
+// The name that the shell shows for a file; empty where the shell does not know the file.
 std::string shellDisplayName(const std::string& path) {
   windowing::prepareShell();
   SHFILEINFOA info{};
@@ -46,8 +46,9 @@ bool sameName(const std::string& a, const std::string& b) {
   return lstrcmpiA(a.c_str(), b.c_str()) == 0;
 }
 
-// The name that the shell shows, with the extension that Explorer may be set to hide. A
-// translated name, or any other that is not the disk's, would open nothing or another file.
+// The name that the shell shows, with the extension added that Explorer may be set to hide. The
+// disk's name where that differs from it: a translated name, for example, would open no file or
+// another one.
 std::string completeName(const std::string& shown, const std::string& onDisk) {
   if (sameName(shown, onDisk)) return shown;
   const std::size_t dot = onDisk.find_last_of('.');
@@ -61,7 +62,7 @@ std::string documentPathOf(const std::string& tail) {
   const std::string path = fullPathOf(tail);
   const std::string folder = folderOf(path);
   const std::string typed = library::fileNameOf(path, values::isLeadByte);
-  // A wildcard would find another file than the one that was named.
+  // A search for a name with wildcards would find another file.
   if (typed.empty() || library::hasWildcards(path)) return folder + typed;
   const std::string onDisk = library::PROPERCASEPATH(folder + typed).substr(folder.size());
   return folder + completeName(shellDisplayName(path), onDisk);

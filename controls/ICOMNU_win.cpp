@@ -33,7 +33,8 @@ const ICOMNU::Item& ICOMNU::item(int number) const {
   return found->second;
 }
 
-// Windows hands an item's data back; data of menus that are not ours points to anything.
+// The item that Windows names by its data; null for an item of another menu, whose data could be
+// any number.
 const ICOMNU::Item* ICOMNU::itemOfData(ULONG_PTR data) const {
   for (const auto& [number, known] : items_)
     if (reinterpret_cast<ULONG_PTR>(&known) == data) return &known;
@@ -97,7 +98,7 @@ void ICOMNU::AddItem(int NUMBER, int PARENT, const std::string& TEXT, bool ENABL
 
 void ICOMNU::insert(Item& added) {
   const HMENU menu = menuOf(added);
-  // Its data makes it findable; the rest follows as it does for every change.
+  // Only its data is set here, by which the item is found; `apply` sets everything else.
   MENUITEMINFOA info{};
   info.cbSize = sizeof info;
   info.fMask = MIIM_DATA | MIIM_FTYPE;
@@ -116,7 +117,8 @@ void ICOMNU::apply(const Item& changed) {
   info.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STATE | MIIM_DATA | MIIM_SUBMENU;
   if (!changed.separator) info.fMask |= MIIM_STRING;
   info.fType = changed.separator ? MFT_SEPARATOR : MFT_STRING;
-  // The bar stays the system's; an item keeps its text, for whoever asks.
+  // The system draws the menu bar. An item that the program draws has its text too, for programs
+  // that ask for it.
   if (changed.parent != 0) info.fType |= MFT_OWNERDRAW;
   info.fState = (changed.enabled ? MFS_ENABLED : MFS_GRAYED) |
                 (changed.checked ? MFS_CHECKED : MFS_UNCHECKED);
@@ -192,7 +194,7 @@ int ICOMNU::numberOf(int command) const {
 
 void ICOMNU::clear() {
   for (const auto& [number, known] : items_) kept_[number] = {known.enabled, known.checked};
-  // A menu goes with all menus below it.
+  // DeleteMenu destroys the menus below a title too.
   while (bar_ && DeleteMenu(bar_.get(), 0, MF_BYPOSITION)) {
   }
   items_.clear();
@@ -207,14 +209,14 @@ void ICOMNU::redrawBar() const {
   if (form_ != nullptr && GetMenu(form_) == bar_.get()) DrawMenuBar(form_);
 }
 
-// Windows keeps the sizes it has asked for; an item that is set anew is measured again.
+// Sets every item again, because Windows asks for an item's size only then.
 void ICOMNU::fontChanged() {
   menuFontChanged();
   for (const auto& [number, known] : items_)
     if (known.parent != 0) apply(known);
 }
 
-// The menus of a window go with it.
+// Called when the window is destroyed, which destroys its menus too.
 void ICOMNU::forget() {
   (void)bar_.release();
   items_.clear();
@@ -264,7 +266,7 @@ bool ICOMNU::measure(MEASUREITEMSTRUCT& measured) const {
   if (known == nullptr) return false;
   const SIZE size = menuItemSize(
       {known->caption, known->separator, known->menu != nullptr, known->image}, images_);
-  // Windows adds the width of its own check mark, which the picture's column replaces.
+  // Windows adds the width of a check mark. The column of pictures has that place already.
   const int column = GetSystemMetrics(SM_CXMENUCHECK) - 1;
   measured.itemWidth = static_cast<UINT>(size.cx > column ? size.cx - column : 0);
   measured.itemHeight = static_cast<UINT>(size.cy);
@@ -278,7 +280,7 @@ bool ICOMNU::draw(const DRAWITEMSTRUCT& drawing) const {
   drawMenuItem(drawing.hDC, place,
                {known->caption, known->separator, known->menu != nullptr, known->image},
                drawing.itemState, images_);
-  // Windows would draw its own arrow over ours, in colours that do not fit.
+  // Keeps Windows from drawing its own arrow over this one, in other colours.
   if (known->menu != nullptr)
     ExcludeClipRect(drawing.hDC, place.left, place.top, place.right, place.bottom);
   return true;

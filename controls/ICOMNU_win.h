@@ -1,5 +1,5 @@
-// The menus of a form, with pictures: they are drawn by the program, and look and behave like
-// the system's own beside them.
+// The menus of a form, with pictures. The program draws them; they look and behave like menus of
+// the system.
 #pragma once
 
 #include <windows.h>
@@ -17,16 +17,16 @@
 
 namespace controls {
 
-/// One per form. Items are known by numbers of the caller's choice (not 0); items with parent 0
-/// are the titles of the menu bar, which the system draws.
+/// One per form. The caller gives each item a number (not 0). Items with parent 0 are the titles of
+/// the menu bar, which the system draws.
 class ICOMNU {
  public:
   ICOMNU() = default;
   ICOMNU(const ICOMNU&) = delete;
   ICOMNU& operator=(const ICOMNU&) = delete;
 
-  /// Adds an item at the end of its parent's menu. An item whose number is there already takes
-  /// the new caption and command where it stands; its state stays.
+  /// Adds an item at the end of its parent's menu. If an item has this number already, it gets the
+  /// new caption and command instead, and keeps its place and state.
   /// NUMBER: the item's number. PARENT: number of the item in whose menu it stands, 0 for the
   /// bar; raises when there is no such item. CAPTION: "&" marks the access key, a shortcut's
   /// text follows a tab. ENABLED, CHECKED: its state, unless it is kept from before a `clear`.
@@ -35,7 +35,7 @@ class ICOMNU {
   void AddItem(int NUMBER, int PARENT, const std::string& CAPTION, bool ENABLED, bool CHECKED,
                int COMMAND, bool SEPARATOR, bool POPUP);
 
-  /// Caption of an item. All that follow raise for a number that is not there.
+  /// Caption of an item. This and the next functions raise where no item has the number.
   [[nodiscard]] const std::string& CAPTION(int NUMBER) const;
   void CAPTION(int NUMBER, const std::string& TEXT);
   /// Index of an item's picture in the image list, -1 for none.
@@ -47,11 +47,11 @@ class ICOMNU {
   [[nodiscard]] bool isChecked(int number) const;
   void setChecked(int number, bool checked);
 
-  /// Removes all items to build them anew. What was enabled and checked is kept: an item that
-  /// is added again has it.
+  /// Removes all items, so that they can be added again. An item that is added again with the same
+  /// number is enabled and checked as before.
   void clear();
 
-  /// Where the pictures are taken from; must outlive the menus.
+  /// Sets the list of pictures, which must outlive the menus.
   void setImages(const windowing::ImageList& images);
 
   /// The menu bar, for the form's window.
@@ -59,19 +59,19 @@ class ICOMNU {
   /// The menu that an item opens; null when it opens none.
   [[nodiscard]] HMENU popup(int number) const;
 
-  /// Called with an item's number when it is highlighted, by mouse or keyboard, available or
-  /// not; with 0 when a title, a separator or nothing is highlighted and when the menu ends.
+  /// Called with the number of an item, enabled or not, when it is highlighted. Called with 0 when
+  /// a title, a separator or nothing is highlighted, and when the menu ends.
   std::function<void(int number)> onHighlight;
   /// Called with the SC_ code of a highlighted command of the system menu.
   std::function<void(std::uint32_t code)> onSystemHighlight;
 
-  /// Answers the messages that concern the menus; the form passes every message through here
-  /// first. True when `result` is the answer.
+  /// Handles the messages for the menus; the form calls this first for every message. True when
+  /// `result` is the answer to the message.
   bool handleMessage(HWND form, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
  private:
-  // Windows and screen readers hold its address as the item's data: it begins with what the
-  // latter look for, and never moves.
+  // The address of an Item is the data of the menu item in Windows, so it must not change. Screen
+  // readers look for the MSAAMENUINFO at that address, so it comes first.
   struct Item {
     MSAAMENUINFO accessible{};
     std::wstring spoken;

@@ -1,4 +1,4 @@
-// A panel: a container with a border and a background of choice.
+// A panel: a container whose border and background can be chosen.
 #pragma once
 
 #include <windows.h>

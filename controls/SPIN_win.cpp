@@ -23,7 +23,7 @@ constexpr int initialTenths = 10;
 
 int tenthsOf(double number) {
   constexpr double most = 1e6;
-  // Half away from zero, as the formats round that show such numbers elsewhere.
+  // Half is rounded away from zero, as `formatDecimals` does.
   return static_cast<int>(std::lround(std::clamp(number, 0.0, most) * tenthsInOne));
 }
 
@@ -114,7 +114,7 @@ void NumberInBox::setValue(int tenths) {
 }
 
 void NumberInBox::setLimits(const SpinLimits& limits) {
-  // Limits that stay as they are put no end to what is being typed.
+  // Setting the same limits again must not replace a text that is being typed.
   if (limits == limits_) return;
   limits_ = limits;
   value_ = withinLimits(value_, limits_);
@@ -125,7 +125,7 @@ void NumberInBox::step(int steps) {
   if (editable()) setValue(stepped(value_, steps, limits_));
 }
 
-// The number follows the typing as far as the text is a number; whether it changed.
+// Takes the number that the user is typing, if the text is a number. True where the value changed.
 bool NumberInBox::readTyped() {
   const auto typed = parseTenths(box().text(), sign_);
   if (!typed) return false;
@@ -142,7 +142,7 @@ bool NumberInBox::acceptsInPlace(const std::string& typed) const {
   return acceptedWhileTyping(text, sign_);
 }
 
-// Whether the box may take a character; "." becomes the user's sign.
+// Whether the box accepts a typed character. Replaces "." by the user's decimal sign.
 bool NumberInBox::filterCharacter(WPARAM& character) const {
   constexpr WPARAM firstPrintable = ' ';
   if (character < firstPrintable) return true;
@@ -192,7 +192,7 @@ void NumberInBox::turnWheel(WPARAM wParam) {
 LRESULT NumberInBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: {
-      // Windows of this class paint over their children, whatever their style says.
+      // A text box paints over its children, even with WS_CLIPCHILDREN.
       const RECT covered = windowing::Control(arrows_).pixels();
       ValidateRect(window(), &covered);
       break;
@@ -214,7 +214,7 @@ LRESULT NumberInBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (header.hwndFrom != arrows_ || header.code != static_cast<UINT>(UDN_DELTAPOS)) break;
       if (GetFocus() != window()) SetFocus(window());
       step(reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta > 0 ? smallStep : -smallStep);
-      return TRUE;  // the buttons keep no position of their own
+      return TRUE;  // the up-down control keeps no position of its own
     }
     default:
       break;

@@ -10,15 +10,15 @@
 
 namespace controls {
 
-/// The control is a standard text box with the two buttons inside its right edge. Up and Down
-/// and the mouse wheel change the number by 0.1, Page Up and Page Down by 1. What is typed is
-/// checked as it goes; a text that is no number yet, or lies outside the limits, gives way to
-/// the field's value when the focus leaves.
+/// The control is a standard text box with the two buttons inside its right edge. Up and Down and
+/// the mouse wheel change the number by 0.1, Page Up and Page Down by 1. Typing is checked letter
+/// by letter. When the focus leaves, the field's value replaces a text that is no number or lies
+/// outside the limits.
 class SPIN : public windowing::Control {
  public:
-  /// Code of the WM_COMMAND message, sent as MAKEWPARAM(identifier, code) with the box's handle,
-  /// when the user or `setValue` changed the number. Changed limits do not send it. The box's
-  /// own notices (EN_CHANGE) come as well, whatever changed the text.
+  /// Code of the WM_COMMAND message that tells the form that the user or `setValue` changed the
+  /// number; a change by `setLimits` does not send it. The text box also sends its own notices
+  /// (EN_CHANGE) for every change of its text.
   enum Notice : int { changed = 0x0803 };
 
   using Control::Control;
@@ -27,16 +27,16 @@ class SPIN : public windowing::Control {
   /// refuses.
   static SPIN create(HWND container, int id, const RECT& place);
 
-  /// The number, always within the limits, and the same as text with the user's decimal sign:
-  /// also while something else is being typed.
+  /// The number, and the number as text with the user's decimal sign. It is always within the
+  /// limits, also while the user is typing something else.
   [[nodiscard]] double value() const;
   [[nodiscard]] std::string text() const;
   /// Sets the number, rounded to one decimal and put within the limits, and shows it.
   void setValue(double number) const;
-  /// Limits, rounded to tenths; the number moves within them. The same limits as before leave a
-  /// text alone that is being typed.
+  /// Sets the limits, rounded to tenths, and moves the number into them. Setting the same limits
+  /// again does not disturb a text that is being typed.
   void setLimits(double lowest, double highest) const;
-  /// Shows the value in place of a text that is being typed.
+  /// Replaces a text that is being typed by the value.
   void commit() const;
 };
 

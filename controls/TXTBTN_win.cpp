@@ -63,7 +63,7 @@ ButtonOfBox::~ButtonOfBox() {
   if (tip_ != nullptr) DestroyWindow(tip_);
 }
 
-// Themed boxes draw a border of one pixel, others an edge of two.
+// Width of the box's edge: one pixel with a theme, else that of a sunken edge.
 int ButtonOfBox::border() const {
   return windowing::themes().isAppThemed() != FALSE ? 1 : GetSystemMetrics(SM_CXEDGE);
 }
@@ -85,7 +85,7 @@ bool ButtonOfBox::contains(LPARAM screenPoint) const {
   return PtInRect(&button, {GET_X_LPARAM(screenPoint), GET_Y_LPARAM(screenPoint)}) != FALSE;
 }
 
-// The box computes its frame anew, now with the button.
+// Makes the box compute its frame again, now with room for the button.
 void ButtonOfBox::reserve() {
   SetWindowPos(window(), nullptr, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
@@ -102,7 +102,8 @@ void ButtonOfBox::setButton(const windowing::ImageList& images, int image, const
   paint();
 }
 
-// The tooltip's window is made when the pointer first comes over the button: most are never seen.
+// The tooltip's window is made when the pointer first comes over the button, since most are never
+// seen.
 void ButtonOfBox::makeTip() {
   if (tip_ != nullptr || tipText_.empty()) return;
   tip_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr,
@@ -130,7 +131,8 @@ void ButtonOfBox::moveTip() const {
   SendMessageA(tip_, TTM_NEWTOOLRECTA, 0, reinterpret_cast<LPARAM>(&moved));
 }
 
-// A tooltip watches the area that holds the text only; it is told of the rest.
+// A tooltip sees only mouse messages of the area that holds the text, so those over the button are
+// passed to it.
 void ButtonOfBox::relayToTip() const {
   if (tip_ == nullptr) return;
   MSG moved{};
@@ -162,7 +164,8 @@ void ButtonOfBox::setDown(bool down) {
 
 void ButtonOfBox::press() {
   if (!enabled()) return;
-  // Whoever presses the button has left the control before; that may refuse or change things.
+  // Pressing the button takes the focus from another control first. The form's answer to that may
+  // disable the button.
   if (GetFocus() != window()) SetFocus(window());
   if (!enabled()) return;
   if (tip_ != nullptr) SendMessageA(tip_, TTM_POP, 0, 0);
@@ -229,14 +232,14 @@ bool ButtonOfBox::handleKey(UINT message, WPARAM wParam, LPARAM lParam) {
   constexpr WPARAM charOfCtrlEnter = '\n';
   if (message == WM_CHAR) return wParam == charOfCtrlEnter;
   if (!isPressingKey(message, wParam)) return false;
-  // Windows has to see that Alt was not pressed alone, or its release opens the menu bar.
+  // Windows must see this key too: it opens the menu bar when Alt is released without another key.
   if (message == WM_SYSKEYDOWN) standard(message, wParam, lParam);
-  // A held key opens the link once.
+  // A key held down opens the link only once.
   if ((lParam & repeatedKey) == 0 && enabled()) notify(window(), TXTBTN::clicked);
   return true;
 }
 
-// What follows from messages that the box itself has answered.
+// Called after the text box has handled a message.
 void ButtonOfBox::afterStandard(UINT message, WPARAM wParam) {
   switch (message) {
     case WM_SIZE:
@@ -255,7 +258,7 @@ void ButtonOfBox::afterStandard(UINT message, WPARAM wParam) {
     case WM_KILLFOCUS: {
       const auto to = reinterpret_cast<HWND>(wParam);
       const HWND form = GetAncestor(window(), GA_ROOT);
-      // The form itself takes the focus only to hand it on.
+      // The form gets the focus only to pass it on to a control.
       if (to != nullptr && to != window() && to != form && GetAncestor(to, GA_ROOT) == form)
         notify(window(), TXTBTN::left);
       break;
@@ -270,7 +273,7 @@ LRESULT ButtonOfBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NCCALCSIZE: {
       const LRESULT answer = standard(message, wParam, lParam);
       auto& inner = *reinterpret_cast<RECT*>(lParam);
-      // The message speaks of the size to come, not of the one that `place` is taken from.
+      // Computed from the size in this message: the window, and so `place`, still has the old size.
       const int side = heightOf(inner) + 2 * (GetSystemMetrics(SM_CYEDGE) - border());
       if (widthOf(inner) > side) inner.right -= side;
       return answer;
@@ -313,7 +316,7 @@ void ButtonOfBox::paint() const {
 }
 
 void ButtonOfBox::draw(HDC dc, const RECT& button) const {
-  // The form decides what lies behind the text; the button lies on the same.
+  // The button has the same background as the text, which the form chooses.
   const UINT asked = enabled() ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC;
   auto behind = reinterpret_cast<HBRUSH>(SendMessageA(GetParent(window()), asked,
                                                       reinterpret_cast<WPARAM>(dc),

@@ -10,18 +10,18 @@
 
 namespace controls {
 
-/// The control is a standard text box, so that the label before it names it and everything
-/// that reads or fills text boxes works; its own notices (EN_CHANGE and the rest) stay as they
-/// are. The button stands inside its right edge. It is pressed with the mouse, or from the box
-/// with F4, Alt+Down or Ctrl+Enter. While the box is greyed or locked the button is too.
+/// The control is a standard text box, so that the label before it names it for screen readers, and
+/// other programs can read and fill it. It sends the notices of a text box (EN_CHANGE and so on).
+/// The button is inside its right edge. It is pressed with the mouse or, from the box, with F4,
+/// Alt+Down or Ctrl+Enter. It is disabled while the box is disabled or read-only.
 class TXTBTN : public windowing::TextBox {
  public:
   /// Codes of the WM_COMMAND messages that the box sends besides a text box's own, as
   /// MAKEWPARAM(identifier, code) and the box's handle.
   enum Notice : int {
     clicked = 0x0800,  ///< the button was pressed and released
-    left = 0x0801,     ///< the focus went to another control of the same window; a box, a dialog
-                       ///< or another program coming up is no leaving
+    left = 0x0801,     ///< the focus went to another control of the same window; not sent when it
+                       ///< went to a message box, a dialog or another program
   };
 
   using TextBox::TextBox;

@@ -10,7 +10,7 @@ namespace {
 using windowing::scaled;
 
 void draw(HWND window, HDC dc, const RECT& area) {
-  // The line lies on whatever the container paints behind labels.
+  // The background is the one that the container paints behind labels.
   auto behind = reinterpret_cast<HBRUSH>(SendMessageA(GetParent(window), WM_CTLCOLORSTATIC,
                                                       reinterpret_cast<WPARAM>(dc),
                                                       reinterpret_cast<LPARAM>(window)));

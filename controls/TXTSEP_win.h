@@ -7,8 +7,8 @@
 
 namespace controls {
 
-/// An etched line through the middle of the control's place: lying in a place that is wider
-/// than high, else standing. It takes neither focus nor mouse.
+/// An etched line through the middle of the control's place: horizontal where the place is wider
+/// than high, else vertical. It takes neither the focus nor the mouse.
 class TXTSEP : public windowing::Control {
  public:
   using Control::Control;

@@ -7,13 +7,13 @@
 
 namespace controls {
 
-/// Two system colours mixed: `percent` of `over` on `under`. Where the user asked for high
-/// contrast nothing is mixed: it is `over` from 50 percent up, else `under`.
+/// Two system colours mixed: `percent` of `over` on `under`. In high contrast no colours are mixed:
+/// the result is `over` from 50 percent up, else `under`.
 [[nodiscard]] COLORREF mixedColour(int under, int over, int percent);
 [[nodiscard]] bool highContrast();
 
 void fill(HDC dc, const RECT& area, COLORREF colour);
-/// Frame of the given thickness (pixels) inside `area`.
+/// Draws a frame of the given thickness (pixels) inside `area`.
 void frame(HDC dc, const RECT& area, COLORREF colour, int thickness);
 
 [[nodiscard]] constexpr int widthOf(const RECT& area) {
@@ -23,8 +23,8 @@ void frame(HDC dc, const RECT& area, COLORREF colour, int thickness);
   return area.bottom - area.top;
 }
 
-/// A bitmap to paint into unseen, shown all at once at the end of the scope. Its coordinates
-/// are those of the target.
+/// A bitmap to paint into; the end of the scope copies it to the target all at once. Its
+/// coordinates are those of the target.
 class Buffered {
  public:
   Buffered(HDC target, const RECT& area);

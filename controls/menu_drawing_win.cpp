@@ -20,13 +20,13 @@ constexpr int imagePadding = 4;    // on both sides of a picture: the column's w
 constexpr int pressedPadding = 2;  // between a picture and the box of its check mark
 constexpr int textGap = 7;         // between the column and the words
 constexpr int shortcutGap = 28;    // at least this between words and shortcut
-constexpr int rightMargin = 20;    // holds the arrow of an item that opens a menu
+constexpr int rightMargin = 20;    // room for the arrow of an item that opens a menu
 constexpr int separatorHeight = 7;
 constexpr int smallestImage = 16;
 
 constexpr UINT noAccessKeys = 0x0100;  // ODS_NOACCEL
 
-// Marks of the system's symbol font, which scale as text does.
+// Characters of the system's symbol font, which scale like text.
 constexpr char checkGlyph[] = "a";
 constexpr char arrowGlyph[] = "4";
 
@@ -79,13 +79,13 @@ bool flatMenus() {
   return SystemParametersInfoA(SPI_GETFLATMENU, 0, &flat, 0) && flat != FALSE;
 }
 
-// Paints the ground of an item and says what colour shows on it.
+// Paints the background of an item and returns the colour for its text.
 COLORREF drawGround(HDC dc, const RECT& place, bool selected, bool disabled) {
   const COLORREF text = GetSysColor(disabled ? COLOR_GRAYTEXT : COLOR_MENUTEXT);
   fill(dc, place, GetSysColor(COLOR_MENU));
   if (!selected) return text;
   if (disabled) {
-    // Reached by the keyboard, yet not available: a pale bar with a frame.
+    // A disabled item that is highlighted gets a pale bar with a frame.
     fill(dc, place, mixedColour(COLOR_MENU, COLOR_HIGHLIGHT, 12));
     frame(dc, place, mixedColour(COLOR_MENU, COLOR_HIGHLIGHT, 50), scaled(1));
     return text;
@@ -120,7 +120,8 @@ void drawColumn(HDC dc, const RECT& column, const MenuItemLook& look, UINT state
     if (isChecked) drawMark(dc, column, checkGlyph, mark);
     return;
   }
-  // Blue pictures would drown in the highlight: a picture keeps a ground of its own.
+  // Blue pictures could not be seen on the highlight, so a picture has a pale background of its
+  // own.
   if ((state & ODS_SELECTED) != 0 && !disabled) {
     fill(dc, column, mixedColour(COLOR_MENU, COLOR_HIGHLIGHT, 20));
     frame(dc, column, GetSysColor(COLOR_HIGHLIGHT), scaled(1));
@@ -147,7 +148,7 @@ void drawWords(HDC dc, const RECT& place, const MenuItemLook& look, UINT state, 
   area.right -= scaled(rightMargin);
   constexpr UINT line = DT_SINGLELINE | DT_VCENTER;
   if ((state & noAccessKeys) != 0) {
-    // Not left to DT_HIDEPREFIX: Wine underlines the letters all the same.
+    // DT_HIDEPREFIX is not used, because Wine underlines the letters all the same.
     const std::string bare = spokenText(words);
     DrawTextA(dc, bare.c_str(), -1, &area, line | DT_LEFT | DT_NOPREFIX);
   } else {

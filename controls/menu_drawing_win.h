@@ -17,14 +17,14 @@ struct MenuItemLook {
   int image = -1;  ///< -1: no picture
 };
 
-/// Natural size of an item, pixels, with room for picture, shortcut and arrow.
+/// The size that an item needs, pixels, with room for picture, shortcut and arrow.
 [[nodiscard]] SIZE menuItemSize(const MenuItemLook& look, const windowing::ImageList* images);
 
 /// Paints an item. `state` holds the ODS_ flags.
 void drawMenuItem(HDC dc, const RECT& place, const MenuItemLook& look, UINT state,
                   const windowing::ImageList* images);
 
-/// Forgets the menu font after the user has chosen another.
+/// To be called when the user has chosen another menu font.
 void menuFontChanged();
 
 }  // namespace controls

@@ -1,5 +1,5 @@
-// What a menu item's caption says: its words, its access key and the shortcut behind the tab;
-// and which item a key that the user presses in an open menu means.
+// The parts of a menu item's caption (words, access key and shortcut), and the item that a key
+// chooses in an open menu.
 #pragma once
 
 #include <span>
@@ -19,7 +19,8 @@ struct MenuText {
 /// ("&&" is a "&" to be shown); 0 where there is none.
 [[nodiscard]] char accessKey(std::string_view caption);
 
-/// A caption as it is read aloud: without the marks of access keys, the shortcut after a blank.
+/// A caption as screen readers read it: without the marks of access keys, and with a blank before
+/// the shortcut.
 [[nodiscard]] std::string spokenText(std::string_view caption);
 
 /// One line of an open menu.
@@ -30,16 +31,16 @@ struct MenuEntry {
   bool highlighted = false;
 };
 
-/// What a key does in an open menu: the position it means (-1: none) and whether that item
-/// runs at once or is only highlighted.
+/// What a key does in an open menu: the position of the item that it chooses (-1: none), and
+/// whether that item runs at once or is only highlighted.
 struct KeyChoice {
   int position = -1;
   bool run = false;
 };
 
-/// The item that the key `pressed` means. An access key comes before a first letter, which
-/// counts for items without an access key. An available item that is alone with its key
-/// runs; several are highlighted in turn, from the highlighted one on.
+/// The item that the key `pressed` chooses: one with this access key; if there is none, one without
+/// access key that begins with this letter. If only one item fits and it is enabled, it runs. If
+/// several fit, the next one after the highlighted one is highlighted.
 [[nodiscard]] KeyChoice chooseByKey(std::span<const MenuEntry> entries, char pressed);
 
 }  // namespace controls

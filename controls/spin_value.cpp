@@ -22,7 +22,7 @@ constexpr bool isDecimalSign(char c, char decimalSign) {
 std::optional<int> parseTenths(std::string_view text, char decimalSign) {
   constexpr std::int64_t most = std::numeric_limits<int>::max();
   std::int64_t value = 0;
-  int decimals = -1;  // digits after the sign; -1 before it
+  int decimals = -1;  // how many digits follow the decimal sign; -1 while none was found
   bool anyDigit = false;
   for (const char c : text) {
     if (isDecimalSign(c, decimalSign)) {
@@ -65,7 +65,7 @@ bool acceptedWhileTyping(std::string_view text, char decimalSign) {
 }
 
 int withinLimits(int tenths, const SpinLimits& limits) {
-  // Limits that cross (a tiny sheet of paper) leave the lowest.
+  // On a very small sheet of paper the highest can be below the lowest; then the lowest is used.
   return std::max(limits.lowest, std::min(tenths, limits.highest));
 }
 

@@ -15,9 +15,9 @@ struct SpinLimits {
   friend bool operator==(const SpinLimits&, const SpinLimits&) = default;
 };
 
-/// The number that `text` is, in tenths; "." counts as well as the user's sign. Nothing while it
-/// is not a number yet ("", "."). A number too large to count is the largest there is; decimals
-/// after the first are rounded half up.
+/// The number in `text`, in tenths; "." is allowed besides the user's decimal sign. No value for a
+/// text that is no number yet ("", "."). A number too large for the type gives the largest one.
+/// Decimals after the first are rounded half up.
 [[nodiscard]] std::optional<int> parseTenths(std::string_view text, char decimalSign);
 
 /// `tenths` as text with one decimal: "1.0".

@@ -14,7 +14,7 @@ constexpr UINT_PTR subclassId = 1;
 void Subclass::attach(HWND window, std::unique_ptr<Subclass> added) {
   added->window_ = window;
   const auto kept = reinterpret_cast<DWORD_PTR>(added.get());
-  // From here on the window owns it.
+  // From now on the window owns the object.
   if (SetWindowSubclass(window, procedure, subclassId, kept)) (void)added.release();
 }
 

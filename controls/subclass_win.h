@@ -1,5 +1,5 @@
-// What a control of ours adds to a standard one: an object that sees the control's messages
-// first and lives exactly as long as its window.
+// The code that one of the program's controls adds to a standard control: an object that gets the
+// control's messages first and is destroyed with its window.
 #pragma once
 
 #include <windows.h>
@@ -15,19 +15,19 @@ class Subclass {
   Subclass& operator=(const Subclass&) = delete;
   virtual ~Subclass() = default;
 
-  /// Puts `added` before the window procedure of `window`; it goes with the window.
+  /// Puts `added` before the window procedure of `window`, which then owns it.
   static void attach(HWND window, std::unique_ptr<Subclass> added);
-  /// What was attached to `window`; null when nothing was, or the window is gone.
+  /// The object attached to `window`; null when there is none, or the window is destroyed.
   [[nodiscard]] static Subclass* of(HWND window);
 
  protected:
   [[nodiscard]] HWND window() const { return window_; }
   /// Answers a message; errors are reported and answered with 0.
   virtual LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) = 0;
-  /// What the standard control does.
+  /// Has the standard control handle a message.
   LRESULT standard(UINT message, WPARAM wParam, LPARAM lParam) const;
-  /// Sends WM_COMMAND with a code of ours to the window that the control reports to. The
-  /// receiver may destroy the control: nothing of this object may be used afterwards.
+  /// Sends WM_COMMAND with `code` to the parent of the control. The receiver may destroy the
+  /// control: nothing of this object may be used afterwards.
   static void notify(HWND sender, int code);
 
  private:

@@ -16,13 +16,13 @@
 
 namespace document {
 
-/// A list of contacts, indexed from 0, with one spare element past the last contact. A contact
-/// that was read from a file stays there, in the file's bytes, which the list keeps; only
-/// contacts that were changed own their texts. So the list of a large file costs little more
-/// than the file, and taking one contact out of the middle moves a few small handles.
+/// A list of contacts, indexed from 0, with one spare element past the last contact. The list
+/// keeps the bytes of the file; a contact that was read from it is only a place in them, and only
+/// contacts that were changed own their texts. So the list of a large file takes little more
+/// memory than the file, and removing a contact in the middle moves small entries only.
 ///
-/// Indexes run from 0 to count(), the spare element included. Any other index reads as empty
-/// texts and cannot be stored to: stepping checks no bounds, so an index may well be outside.
+/// Indexes run from 0 to count(), which is the spare element. At any other index all texts are
+/// empty, and storing does nothing. Such an index does occur, because the steps check no bounds.
 class ContactList {
  public:
   static constexpr std::int16_t maxCount = std::numeric_limits<std::int16_t>::max();
@@ -41,9 +41,9 @@ class ContactList {
   [[nodiscard]] std::int16_t current() const { return current_; }
   void setCurrent(std::int16_t index) { current_ = index; }
 
-  /// One text. The view holds until the next change of the list.
+  /// One text. The view is valid until the list changes.
   [[nodiscard]] std::string_view field(int index, Slot slot) const;
-  /// All texts in slot order, in one pass. The views hold until the next change of the list.
+  /// All texts in slot order, in one pass. The views are valid until the list changes.
   [[nodiscard]] Texts texts(int index) const;
   /// A copy of a contact's texts.
   [[nodiscard]] ContactRecord record(int index) const;
@@ -51,36 +51,36 @@ class ContactList {
   /// contact without names shows one blank.
   [[nodiscard]] std::string nameEntry(int index) const;
 
-  /// Sets one text. A text that is already there changes nothing.
+  /// Sets one text. Does nothing where the contact has this text already.
   void store(int index, Slot slot, std::string_view text);
-  /// Empties all fields of the last contact; nothing on an empty list.
+  /// Empties all fields of the last contact. Does nothing on an empty list.
   void ClearLastRecord();
-  /// Makes the spare element, as it stands, the last contact and adds a new spare one. A full
-  /// list (32,767) stays as it is, and the answer is false.
+  /// Makes the spare element the last contact, with the texts that it has, and adds a new spare
+  /// element. Returns false and changes nothing where the list is full (32,767).
   [[nodiscard]] bool append();
-  /// Takes a contact out: those behind it move down, the spare element becomes empty. With one
-  /// contact left, that is the current one; otherwise the current index stays, and points at
-  /// the spare element after the last contact was removed. Nothing when there is no such contact.
+  /// Removes a contact: those behind it move down, the spare element becomes empty. If one contact
+  /// is left, it becomes the current one; otherwise the current index stays, so that it is the
+  /// spare element after the last contact was removed. Does nothing where there is no such contact.
   void remove(int index);
   /// Back to the empty list.
   void clear();
   /// Where a contact lies in a file's bytes.
   struct Place {
     std::size_t start;
-    std::size_t size;  ///< up to the next contact; 0 where it is not written as this program would
+    std::size_t size;  ///< up to the next contact; 0 where the program would write other bytes
   };
   /// Replaces everything by contacts that lie in `bytes` at `places` (at most 32,767), each 28
   /// items long. The first one becomes current.
   void replace(Bytes bytes, const std::vector<Place>& places);
-  /// The lines of a contact that stands in its file unchanged and just as it is to be written;
-  /// empty for any other. The view holds until the next change of the list.
+  /// The bytes of an unchanged contact, if the program would write the same bytes again; empty for
+  /// any other. The view is valid until the list changes.
   [[nodiscard]] std::string_view linesInFile(int index) const;
 
-  /// The four steps set the current index and check no bounds: that is deliberate, as the
-  /// commands are not offered at the ends. On an empty list GoLast steps to -1.
+  /// The four steps set the current index. They deliberately check no bounds, since the commands
+  /// are disabled at the ends. On an empty list GoLast steps to -1.
   void GoFirst() { current_ = 0; }
   void GoLast() { current_ = static_cast<std::int16_t>(count() - 1); }
-  /// False, and no step, where the 16-bit index would overflow.
+  /// Returns false and does not step where the 16-bit index would overflow.
   bool GoNext();
   bool GoPrevious();
 

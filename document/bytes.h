@@ -1,5 +1,5 @@
-// The bytes of a document file: storage that is not zeroed before it is filled, for a large
-// file would otherwise be walked through once more.
+// The bytes of a document file. The storage is not set to zero before it is filled, because that
+// would be one more pass over a large file.
 #pragma once
 
 #include <algorithm>
@@ -9,11 +9,11 @@
 
 namespace document {
 
-/// A block of bytes, filled once by whoever made it. Moving keeps the bytes where they are.
+/// A block of bytes, filled once by its maker. Moving it does not move the bytes.
 class Bytes {
  public:
   Bytes() = default;
-  /// Room for `size` bytes of arbitrary content; throws std::bad_alloc where there is none.
+  /// `size` bytes of any content. Throws std::bad_alloc.
   explicit Bytes(std::size_t size) : data_(new char[size]), size_(size) {}
   /// A copy of `text`.
   explicit Bytes(std::string_view text) : Bytes(text.size()) {
@@ -23,7 +23,7 @@ class Bytes {
   [[nodiscard]] char* data() { return data_.get(); }
   [[nodiscard]] std::size_t size() const { return size_; }
   [[nodiscard]] std::string_view view() const { return {data_.get(), size_}; }
-  /// Forgets what lies past the first `size` bytes (a file that grew shorter while read).
+  /// Drops all but the first `size` bytes (for a file that became shorter while it was read).
   void shrink(std::size_t size) { size_ = std::min(size_, size); }
 
  private:

@@ -1,6 +1,6 @@
-// The 28 fields of a contact: one table that everything else walks. The order of the slots,
-// the order of the edit boxes and the order in the file are three different orders, for the
-// company joined the family late: slot 24, box 23, last in the file. Never assume that two agree.
+// The 28 fields of a contact, in one table that all other code goes by. The slots, the edit boxes
+// and the items of the file have three different orders, because the company was added late: it
+// has slot 24 and box 23, and is the last item in the file.
 #pragma once
 
 #include <array>
@@ -54,8 +54,8 @@ struct Field {
   int filePosition;  ///< 1 to 28
   Box box;
   int item;                      ///< index in TXTITEMS, -1 for a link box
-  std::string_view caption;      ///< of the label above the box; second address lines have none
-  std::string_view reportLabel;  ///< before the value; empty where the report has no such line
+  std::string_view caption;      ///< of the label above the box; empty for second address lines
+  std::string_view reportLabel;  ///< printed before the value; empty where none is
 };
 
 // clang-format off
@@ -92,7 +92,7 @@ constexpr std::array<Field, fieldCount> fields{{
 }};
 // clang-format on
 
-/// Row of the table for `slot`.
+/// The row of `slot`.
 [[nodiscard]] constexpr const Field& fieldOf(Slot slot) {
   return fields[static_cast<std::size_t>(slot)];
 }

@@ -1,4 +1,4 @@
-// Items of comma- and line-delimited text, the grain of the document file.
+// Items of text that commas and line ends divide; a document file is a row of them.
 #pragma once
 
 #include <cstddef>
@@ -8,10 +8,9 @@
 namespace document {
 
 /// Reads one item after the other. Blanks before an item are skipped (blanks only: a tab is
-/// text). A quoted item runs to the next double quote, line breaks included, and the rest of
-/// its line is dropped up to a comma or the line end; an item without quotes runs to a comma
-/// or the line end. CR LF, CR and LF each end a line once. No other byte means anything, neither
-/// NUL nor 0x1A.
+/// text). A quoted item runs to the next double quote, line breaks included; what follows the
+/// quote is dropped up to a comma or the line end. An item without quotes runs to a comma or the
+/// line end. CR LF, CR and LF each end one line. All other bytes are text, NUL and 0x1A too.
 class ItemScanner {
  public:
   explicit ItemScanner(std::string_view bytes, std::size_t start = 0)
@@ -22,8 +21,8 @@ class ItemScanner {
   [[nodiscard]] bool atEnd() const { return at_ == end_; }
   [[nodiscard]] std::size_t position() const { return static_cast<std::size_t>(at_ - begin_); }
 
-  /// Skips the next item if it is a line of its own as this program writes it: a quote, text, a
-  /// quote, CR LF. False, and nothing skipped, for any other.
+  /// Skips the next item if it is a line as this program writes it: a quote, text, a quote, CR LF.
+  /// Returns false and skips nothing for any other item.
   bool skipOwnLine() {
     if (end_ - at_ < 4 || *at_ != '"') return false;
     const void* quote = std::memchr(at_ + 1, '"', static_cast<std::size_t>(end_ - at_ - 1));
@@ -34,9 +33,9 @@ class ItemScanner {
     return true;
   }
 
-  /// The next item into `item`, a view of the scanned bytes. False when the bytes were used up
-  /// before it began. A quote that is never closed takes the rest of the bytes, and the last
-  /// line counts without its line end too.
+  /// Sets `item` to the next item, a view of the scanned bytes. False when no bytes are left. An
+  /// item whose quote is never closed runs to the end of the bytes. The last line needs no line
+  /// end.
   bool next(std::string_view& item) {
     if (at_ == end_) return false;
     while (*at_ == ' ')

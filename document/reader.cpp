@@ -9,7 +9,8 @@
 namespace document {
 namespace {
 
-// `asWritten` turns false where an item does not stand in the file as it would be written.
+// Skips one contact. Sets `asWritten` to false where the program would write an item in another
+// way.
 bool skipRecord(ItemScanner& scanner, bool& asWritten) {
   std::string_view item;
   for (int i = 0; i < fieldCount; ++i) {

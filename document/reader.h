@@ -16,12 +16,12 @@ enum class ReadResult {
 
 struct ReadOutcome {
   ReadResult result;
-  int contacts;  ///< complete contacts read; they are in the list whatever the result
+  int contacts;  ///< complete contacts read; the list holds them after every result
 };
 
 /// Replaces the list by the contacts of a file whose content is `bytes` (which the list keeps)
-/// and makes the first one current. Whether the file has come to its end is asked only between
-/// contacts; the one that breaks off is dropped. Raises nothing but std::bad_alloc.
+/// and makes the first one current. A file may end only between contacts; a contact that is not
+/// complete is dropped. Raises nothing but std::bad_alloc.
 ReadOutcome read(Bytes bytes, ContactList& list);
 
 /// The same from a copy of `text`.

@@ -6,7 +6,7 @@ namespace document {
 
 namespace {
 
-// Gathers small pieces and lets large ones through as they are.
+// Joins small pieces into larger ones before it hands them to the sink.
 class Pieces {
  public:
   explicit Pieces(const std::function<void(std::string_view)>& sink) : sink_(sink) {}
@@ -47,7 +47,8 @@ void writeLines(const ContactList::Texts& texts, Pieces& pieces) {
 
 void write(const ContactList& list, const std::function<void(std::string_view)>& sink) {
   Pieces pieces(sink);
-  // Contacts that stand in a row in the file they were read from go out as one.
+  // Contacts that stand one behind the other in the file they were read from are written as one
+  // piece.
   std::string_view row;
   for (int index = 0; index < list.count(); ++index) {
     const std::string_view lines = list.linesInFile(index);

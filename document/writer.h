@@ -9,13 +9,13 @@
 
 namespace document {
 
-/// Bytes, about, of one piece; a row of contacts that nobody touched goes out as one.
+/// Approximate size of a piece, bytes. A row of unchanged contacts is one piece of any size.
 constexpr std::size_t writeChunk = std::size_t{256} * 1024;
 
-/// Hands the file's content to `sink`, piece by piece and in order; an empty list has none.
-/// Each text goes on a line of its own between double quotes and as it stands: a double quote
-/// inside it is deliberately neither doubled nor escaped, as the format has it. What `sink`
-/// throws passes through.
+/// Hands the file's content to `sink`, piece by piece and in order; for an empty list, nothing.
+/// Each text is written between double quotes on a line of its own. A double quote inside a text
+/// is deliberately neither doubled nor escaped: the format has no way to do that. Errors of `sink`
+/// are passed on.
 void write(const ContactList& list, const std::function<void(std::string_view)>& sink);
 
 }  // namespace document

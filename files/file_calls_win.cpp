@@ -29,8 +29,8 @@ bool FileCalls::setAttributes(const std::string& path, DWORD attributes) {
 }
 
 HANDLE FileCalls::open(const std::string& path, DWORD access, DWORD disposition) {
-  // Readers may look on while a document is read; nobody shares a file being written; whoever
-  // only asks for its facts disturbs nobody.
+  // Others may read a document that is being read. Nobody may open a file that is being written.
+  // Asking only for a file's facts keeps nobody from anything.
   const DWORD share = (access & GENERIC_WRITE) != 0 ? 0
                       : access == FILE_READ_ATTRIBUTES
                           ? FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE
@@ -125,7 +125,7 @@ bool FileCalls::securityIsWhole() {
 bool FileCalls::hasStreams(const std::string& path) {
   std::vector<wchar_t> name(path.size() + 1);
   MultiByteToWideChar(CP_ACP, 0, path.c_str(), -1, name.data(), static_cast<int>(name.size()));
-  // The first is the content.
+  // The first stream is the content.
   WIN32_FIND_STREAM_DATA stream{};
   const values::FindHandle search(
       FindFirstStreamW(name.data(), FindStreamInfoStandard, &stream, 0));

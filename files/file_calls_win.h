@@ -8,7 +8,7 @@
 
 namespace files {
 
-/// Thin: each function asks one thing and reports failure by its result and GetLastError.
+/// Each function makes one call; it reports failure by its result and GetLastError.
 class FileCalls {
  public:
   FileCalls() = default;
@@ -19,9 +19,9 @@ class FileCalls {
   virtual DWORD attributes(const std::string& path);
   virtual bool setAttributes(const std::string& path, DWORD attributes);
   virtual HANDLE open(const std::string& path, DWORD access, DWORD disposition);
-  /// A new file to write to; fails where there is one.
+  /// Makes a new file to write to; fails where one of this name exists.
   virtual HANDLE create(const std::string& path, DWORD attributes);
-  /// The same, gone again as soon as it is closed.
+  /// The same, but the file is deleted when it is closed.
   virtual HANDLE probe(const std::string& path);
   virtual bool information(HANDLE file, BY_HANDLE_FILE_INFORMATION& facts);
   /// Full name of an open file, all links followed, with the prefix of long names.
@@ -34,13 +34,14 @@ class FileCalls {
   virtual bool flush(HANDLE file);
   virtual bool setLastWrite(HANDLE file, const FILETIME& time);
   virtual bool close(HANDLE file);
-  /// Owner and access control as bytes to compare; empty where the file system has neither.
+  /// Owner and access control list as bytes to compare; empty where the file system has neither.
   virtual std::string security(const std::string& path);
-  /// Gives `to` the access control of `from`. On Wine never more than that to the Unix group,
-  /// sometimes less.
+  /// Gives `to` the access control list of `from`. On Wine the Unix group of `to` may get less
+  /// than that of `from` has, but never more.
   virtual bool copySecurity(const std::string& from, const std::string& to);
-  /// Whether `security` tells all. Wine makes it up from the permission bits of the Unix file and
-  /// leaves out the group's, its owning group, and what else Unix knows.
+  /// Whether `security` tells everything about who may use a file. On Wine it does not: Wine makes
+  /// it from the permission bits of the Unix file, without the bits of the group and without the
+  /// name of the group.
   virtual bool securityIsWhole();
   /// Whether the file has streams besides its content.
   virtual bool hasStreams(const std::string& path);

@@ -8,7 +8,7 @@ void OpenFile::write(std::string_view data) {
   const auto size = static_cast<DWORD>(data.size());
   DWORD done = 0;
   if (size != 0 && !calls_.write(file_, data.data(), size, done)) values::raiseLastError();
-  // On Wine a full disk reports success and a short count.
+  // On a full disk, Wine reports success but writes fewer bytes.
   if (done != size) throw values::systemError(ERROR_DISK_FULL);
 }
 
@@ -48,7 +48,7 @@ void OpenFile::putBack(const std::string& content, const FILETIME& lastWrite) {
 }
 
 bool mayPass(DWORD error) {
-  // A move over a file that is open is told by the second.
+  // Windows reports the second when a file is moved over one that is open.
   return error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED ||
          error == ERROR_LOCK_VIOLATION;
 }

@@ -1,4 +1,4 @@
-// Pieces that every manner of writing a document is made of.
+// What both ways of writing a document (swapping in a new file, writing in place) are made of.
 #pragma once
 
 #include <windows.h>
@@ -12,12 +12,12 @@
 
 namespace files {
 
-/// Takes the next piece of a file's new content.
+/// Receives the next piece of a file's new content.
 using FileSink = std::function<void(std::string_view)>;
-/// Hands a file's new content to a sink, the same each time.
+/// Hands a file's new content to a sink. It may be called again, and hands over the same content.
 using FileProducer = std::function<void(const FileSink&)>;
 
-/// An open file; closed at the end of its scope where nothing closed it before.
+/// An open file. It is closed at the end of its scope, unless it was closed before.
 class OpenFile {
  public:
   OpenFile(HANDLE file, FileCalls& calls) : file_(file), calls_(calls) {}
@@ -33,10 +33,10 @@ class OpenFile {
   void flush();
   void close();
   [[nodiscard]] std::string readAll();
-  /// Gives the file this content, on the disk, whatever it held.
+  /// Replaces the file's content and flushes it to the disk.
   void overwrite(const FileProducer& produce);
-  /// Gives the file its old content back, and the time that goes with it: whoever knows the file
-  /// by its time would take it for somebody else's writing.
+  /// Writes the file's old content again and sets its old time of writing. With a new time, this
+  /// program and others would believe that somebody else had changed the file.
   void putBack(const std::string& content, const FILETIME& lastWrite);
 
  private:
@@ -44,7 +44,7 @@ class OpenFile {
   FileCalls& calls_;
 };
 
-/// Removes a file at the end of its scope, unless it was kept.
+/// Removes a file at the end of its scope, unless `keep` was called.
 class Temporary {
  public:
   Temporary(std::string path, FileCalls& calls) : path_(std::move(path)), calls_(calls) {}
@@ -60,12 +60,12 @@ class Temporary {
   FileCalls& calls_;
 };
 
-/// Whether another program may only have the file open for a moment, as scanners and
-/// synchronisers do.
+/// Whether `error` may go away by itself: another program, such as a virus scanner, may have the
+/// file open for a moment only.
 [[nodiscard]] bool mayPass(DWORD error);
 
-/// Does `action`, which tells whether it succeeded, again for a quarter of a second as long as
-/// another program may stand in its way.
+/// Repeats `action` until it returns true, for a quarter of a second, as long as its error may go
+/// away by itself (`mayPass`).
 template <typename Action>
 bool patiently(FileCalls& calls, Action action) {
   constexpr DWORD longest = 128;  // milliseconds; 248 in all
@@ -80,10 +80,10 @@ bool patiently(FileCalls& calls, Action action) {
   return true;
 }
 
-/// Opens an existing file to read and write; waits for it a moment. Raises.
+/// Opens an existing file to read and write, patiently. Raises when that fails.
 [[nodiscard]] HANDLE openToRewrite(const std::string& path, FileCalls& calls);
 
-/// Moves a file over another one; waits for it a moment. Raises.
+/// Moves a file over another one, patiently. Raises when that fails.
 void moveOver(const std::string& from, const std::string& to, FileCalls& calls);
 
 }  // namespace files

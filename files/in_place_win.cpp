@@ -9,7 +9,8 @@ namespace {
 
 constexpr int mostCopies = 9;
 
-// False where the name is taken. Raises where there can be no such file; none is left then.
+// Writes `bytes` to a new file `name`. False where a file of this name exists. Raises where the
+// file cannot be made or written, and leaves none behind.
 bool writeCopy(const std::string& name, const SaveTarget& target, const std::string& bytes,
                FileCalls& calls) {
   const HANDLE file = calls.create(name, target.attributes & FILE_ATTRIBUTE_ENCRYPTED);
@@ -37,7 +38,7 @@ std::string writeNextCopy(const std::string& name, const SaveTarget& target,
   return copy;
 }
 
-// The name of the copy. Raises where there is no place for one.
+// Makes the copy and returns its name. Raises where it can be made in neither folder.
 std::string keepCopy(const SaveTarget& target, const std::string& bytes, FileCalls& calls) {
   char full[MAX_PATH] = {};
   char* name = nullptr;

@@ -1,4 +1,4 @@
-// Writing a file over itself, for where nothing can be swapped in.
+// Writing new content into the existing file, where no new file can take its place.
 #pragma once
 
 #include <string>
@@ -7,11 +7,11 @@
 
 namespace files {
 
-/// Writes `content` over the file's own. A copy of the old bytes is on the disk before the first
-/// of them is touched, beside the file ("Friends.tly.old") or, where nothing can be put there,
-/// among the user's temporary files. It is removed once the file is complete, and stays after a
-/// crash; no save overwrites one. Raises the first failure; the old bytes are back then, or
-/// where nothing can be written any more the copy stays.
+/// Writes `content` into the file. Before that, a copy of the old bytes is written and flushed:
+/// beside the file ("Friends.tly.old") or, where no file can be made there, among the user's
+/// temporary files. The copy is removed once the file is complete; after a crash it stays. A save
+/// never overwrites such a copy. Raises the first failure, after it wrote the old bytes back;
+/// where they cannot be written back, the copy stays.
 void writeInPlace(const SaveTarget& target, const std::string& content, FileCalls& calls);
 
 }  // namespace files

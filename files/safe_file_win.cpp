@@ -12,39 +12,41 @@
 namespace files {
 namespace {
 
-// What one may set of `attributes`; the others say how a file is stored.
+// Those of `attributes` that a new file is given. The others say how the file system stores a file
+// and cannot be set.
 DWORD settable(DWORD attributes) {
   constexpr DWORD mask =
       FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-  // New content is for the next backup, as after any other writing.
+  // The next backup has to take the new content, as after any other writing.
   return (attributes & mask) | FILE_ATTRIBUTE_ARCHIVE;
 }
 
-// The old file's second name while its first is the new one's.
+// The name that the old file keeps while the new file has its name.
 std::string secondName(const std::string& temporary) {
   return temporary.substr(0, temporary.size() - 3) + "old";
 }
 
-// Removes what a crash may have left behind. It may be read-only or hidden, as its document is.
+// Removes a temporary file that a crash left. Like the document, it may be read-only or hidden.
 void clearLeftover(const std::string& temporary, FileCalls& calls) {
   if (calls.remove(temporary) || GetLastError() != ERROR_ACCESS_DENIED) return;
   if (calls.setAttributes(temporary, FILE_ATTRIBUTE_NORMAL)) calls.remove(temporary);
 }
 
-// How a new file that takes an old one's place comes by what the old one is besides its bytes.
+// How a document keeps what belongs to its file besides the bytes (names, streams, owner, rights).
 enum class Manner {
-  swap,      // it has all of it
-  giveBack,  // not at all: the old file is kept under a second name, to come back
-  inPlace    // the same, where a file can have one name only
+  swap,      // the new file has all of it, and replaces the old one
+  giveBack,  // the old file waits under a second name, gets the new bytes and comes back
+  inPlace    // the old file cannot have a second name, so the new bytes are written into it
 };
 
 struct Plan {
   Manner manner = Manner::swap;
-  bool mustComeBack = false;  // the old file; else what is saved may stay in the new one
-  std::string oldBytes;       // if so
+  bool mustComeBack = false;  // the old file; otherwise the new file may stay where it cannot
+  std::string oldBytes;       // of the old file, where it must come back
 };
 
-// Access control is copied only where it differs from what a new file has of itself.
+// Gives `to` the owner and rights of `from`, unless the new file has the same already. False where
+// they differ afterwards.
 bool takesSecurity(const std::string& from, const std::string& to, FileCalls& calls) {
   const std::string wanted = calls.security(from);
   if (calls.security(to) == wanted) return true;
@@ -62,13 +64,14 @@ Plan prepare(const SaveTarget& target, const std::string& temporary, FileCalls& 
                       (whole && !takesSecurity(target.path, temporary, calls));
   if (!plan.mustComeBack && whole) return plan;
   {
-    // A file that others have open could neither come back nor lose a second name.
+    // Opened first to find out: while another program has the file open, it can neither come back
+    // nor lose its second name.
     OpenFile old(openToRewrite(target.path, calls), calls);
     if (plan.mustComeBack) plan.oldBytes = old.readAll();
   }
   if (calls.link(target.path, secondName(temporary))) {
     plan.manner = Manner::giveBack;
-    // It is the document for a moment, and what a crash there leaves.
+    // The temporary file is the document for a moment, and stays so after a crash in that moment.
     calls.copySecurity(target.path, temporary);
   } else if (plan.mustComeBack || calls.security(temporary) != calls.security(target.path)) {
     plan.manner = Manner::inPlace;
@@ -82,7 +85,8 @@ void rewrite(const std::string& path, const FileProducer& produce, FileCalls& ca
   file.close();
 }
 
-// Whether the old file is back, with its old bytes and their time.
+// Puts the old file back with its old bytes and their time. False where that fails, and where the
+// old file need not come back.
 bool restore(const SaveTarget& target, const std::string& second, const Plan& plan,
              FileCalls& calls) {
   if (!plan.mustComeBack) return false;
@@ -97,8 +101,8 @@ bool restore(const SaveTarget& target, const std::string& second, const Plan& pl
   }
 }
 
-// The new content stands under the name. The file that was there before gets it as well, under
-// its second name, and comes back with all that it is.
+// Called when the new file has the document's name. Writes the new content into the old file too,
+// and moves the old file back to its name, with all that belongs to it.
 void giveBack(const SaveTarget& target, const std::string& second, const FileProducer& produce,
               const Plan& plan, FileCalls& calls) {
   try {
@@ -106,12 +110,13 @@ void giveBack(const SaveTarget& target, const std::string& second, const FilePro
     moveOver(second, target.path, calls);
   } catch (...) {
     if (restore(target, second, plan, calls)) throw;
-    // It stays away then; what was to be saved is.
+    // The new file stays the document. Its content is what was to be saved.
     calls.remove(second);
   }
 }
 
-// False where the file has to be written in place; nothing has happened then.
+// Saves by way of a new file. False where the document has to be written in place; the document is
+// unchanged then.
 bool swapIn(const SaveTarget& target, const FileProducer& produce, FileCalls& calls) {
   const std::string temporary = temporaryName(target.path);
   const std::string second = secondName(temporary);
@@ -145,14 +150,15 @@ bool swapIn(const SaveTarget& target, const FileProducer& produce, FileCalls& ca
 }  // namespace
 
 std::string temporaryName(const std::string& path) {
-  // In full, for "C:name" and "folder/name" too have to lead to the folder of the document.
+  // The full path, because "C:name" and "folder/name" too must lead to the document's folder.
   std::vector<char> full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr) + 1);
   char* name = nullptr;
   const DWORD length =
       GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), &name);
   if (length == 0 || length >= full.size()) values::raiseLastError();
   if (name == nullptr) throw values::systemError(ERROR_ACCESS_DENIED);  // a folder
-  // Short, so that the longest path there can be still takes it; different for every name.
+  // A short name, so that the longest possible path has room for it; made from a hash of the
+  // document's name, so that two documents in one folder do not share it.
   std::uint32_t hash = 2166136261U;
   for (const char* at = name; *at != '\0'; ++at) {
     const auto letter =
@@ -168,11 +174,12 @@ std::string temporaryName(const std::string& path) {
 void replaceFile(const std::string& path, const FileProducer& produce, FileCalls& calls) {
   const SaveTarget target = findSaveTarget(path, calls);
   Temporary undo(target.made ? target.path : std::string(), calls);
-  // A move would step over the attribute that keeps the file from being changed.
+  // Checked here, because a move would replace a read-only file without complaint.
   if ((target.attributes & FILE_ATTRIBUTE_READONLY) != 0)
     throw values::systemError(ERROR_ACCESS_DENIED);
   if (!target.reachable || !swapIn(target, produce, calls)) {
-    // It is complete before the file is touched.
+    // All pieces are collected before the file is touched, so that a failure in `produce` harms
+    // nothing.
     std::string content;
     produce([&](std::string_view piece) { content += piece; });
     writeInPlace(target, content, calls);

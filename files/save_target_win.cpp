@@ -6,7 +6,7 @@
 namespace files {
 namespace {
 
-// Empty where the code page lacks a letter of it.
+// Empty where the code page lacks a letter of `wide`.
 std::string inCodePage(const std::wstring& wide) {
   const auto size = static_cast<int>(wide.size());
   std::string text(4 * wide.size() + 1, '\0');
@@ -31,7 +31,7 @@ void followLinks(HANDLE file, SaveTarget& target, FileCalls& calls) {
     target.reachable = !plain.empty();
     if (target.reachable) target.path = plain;
   } else {
-    // Some drives know no such names. There, a file is where it says unless it is a link.
+    // Some drives do not tell the final name. There, a path that is no link leads where it says.
     target.reachable = !isLink(target.path, calls);
   }
 }
@@ -45,8 +45,9 @@ void describe(HANDLE file, SaveTarget& target, FileCalls& calls) {
   target.lastWrite = facts.ftLastWriteTime;
 }
 
-// Wine does not show a link that has nothing at its end, and lets nothing new take its place, but
-// follows it: the file is made there.
+// For a link that leads to no file: Wine reports that the link is not there, but refuses to make a
+// new file of its name. It does follow the link when a file may be made or opened, so that makes
+// the file at the end of the link.
 void findBehindLinkOnWine(SaveTarget& target, FileCalls& calls) {
   OpenFile file(calls.open(target.path, GENERIC_WRITE, OPEN_ALWAYS), calls);
   if (!file.valid()) values::raiseLastError();
@@ -60,12 +61,14 @@ void findBehindLinkOnWine(SaveTarget& target, FileCalls& calls) {
   undo.keep();
 }
 
-// A new file, gone at once, tells where a link leads that has nothing at its end.
+// For a path where no file is found. It may be a link that leads to no file; a new file, deleted
+// at once, tells where it leads.
 void findMissing(SaveTarget& target, FileCalls& calls) {
   const OpenFile probe(calls.probe(target.path), calls);
   if (probe.valid()) {
     followLinks(probe.handle(), target, calls);
-    // The folder's full name may have letters that the code page lacks; its short name serves.
+    // The folder's full name may have letters that the code page lacks; `path` itself will do then,
+    // unless it is a link.
     target.reachable = target.reachable || !isLink(target.path, calls);
     return;
   }

@@ -5,8 +5,8 @@
 
 namespace library {
 
-/// Centres the next dialog of the system that opens in this scope. Open it right before the
-/// dialog; one whose dialog never came leaves nothing armed.
+/// Centres the next dialog of the system that opens in this scope. Make it right before the dialog.
+/// If no dialog opens, the end of the scope removes the hook.
 class CentredDialog {
  public:
   CentredDialog() { LIBRARY().HOOKFRMLOAD(); }

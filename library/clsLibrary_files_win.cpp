@@ -1,4 +1,4 @@
-// Files, folders and the shell. Nothing here reports a failure of its own: the shell does.
+// Files, folders and the shell. No function here reports a failure; the shell reports its own.
 #include <windows.h>
 
 #include <shellapi.h>
@@ -20,15 +20,15 @@
 namespace library {
 namespace {
 
-// Attributes of what the path names, and nothing else: no match of a wildcard, no path cut
-// short at a NUL.
+// The attributes of a file or folder. A path with a wildcard or a NUL has none, because Windows
+// would look for another file.
 DWORD attributesOf(const std::string& path) {
   const bool plain = !path.empty() && !hasWildcards(path) && path.find('\0') == std::string::npos;
   return plain ? GetFileAttributesA(path.c_str()) : INVALID_FILE_ATTRIBUTES;
 }
 
-// The only flag is the one for undoing, so the shell asks, shows its progress and reports itself;
-// its result is not looked at.
+// Only the flag that allows undoing is set, so the shell itself asks the user, shows its progress
+// and reports errors. The result is ignored.
 void shellOperation(UINT function, const std::string& from, const std::string& to) {
   const HWND owner = windowing::dialogOwner();
   if (!windowing::wine::shellTakesPath(from) || !windowing::wine::shellTakesPath(to)) {
@@ -49,8 +49,8 @@ void shellOperation(UINT function, const std::string& from, const std::string& t
   (void)SHFileOperationA(&operation);
 }
 
-// The shell puts an address between double quotes of its own on a command line: one inside would
-// end it there and make arguments of the rest.
+// The shell puts an address between double quotes on a command line. A double quote inside would
+// end the address, and the rest would become further arguments.
 std::string withoutQuotes(const std::string& address) {
   std::string safe;
   for (const char letter : address) {
@@ -79,13 +79,12 @@ bool clsLibrary::FOLDEREXIST(const std::string& FILELOCATION) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-// Without a full path the shell deletes for good instead of moving to the recycle bin.
+// Full paths only: without one, the shell deletes for good instead of moving to the recycle bin.
 void clsLibrary::FILEDELETE(const std::string& FILEPATH) {
   if (isSafeToDelete(FILEPATH)) shellOperation(FO_DELETE, FILEPATH, "");
 }
 
-// Moved and renamed is whatever the shell makes of both paths: patterns and names in the current
-// folder too.
+// Both paths go to the shell as they are, also patterns and names in the current folder.
 void clsLibrary::FILEMOVE(const std::string& FILELOCATION, const std::string& FILEDESTINATION) {
   shellOperation(FO_MOVE, FILELOCATION, FILEDESTINATION);
 }
@@ -108,7 +107,7 @@ void clsLibrary::FOLDERBROWSE(windowing::Form& CURRENTFORM, const std::string& C
     SetActiveWindow(CURRENTFORM.handle());
     MODALFORM.showModal();
   } catch (const values::RuntimeError&) {
-    // A form that cannot be shown leaves the folder as it was.
+    // Where the form cannot be shown, the folder stays as it was.
   }
 }
 

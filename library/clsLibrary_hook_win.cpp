@@ -1,4 +1,4 @@
-// The hook that puts the next dialog of the system into the middle of the screen.
+// The hook that centres the next dialog of the system on the screen.
 #include "library/clsLibrary_win.h"
 #include "library/placement.h"
 #include "windowing/screen_win.h"
@@ -8,14 +8,14 @@ namespace {
 
 // One pending dialog for the whole program, on its user-interface thread.
 struct CentringHook {
-  HHOOK handle = nullptr;  ///< null once the hook has served a dialog
-  bool installed = false;  ///< disarming leaves the handle as it was, so it cannot tell
+  HHOOK handle = nullptr;  ///< null after the hook has centred a dialog
+  bool installed = false;  ///< not told by `handle`, which disarming does not clear
   WNDPROC oldProcedure = nullptr;
   RECT dialog{};
 } hook;
 
-// Dialogs of the system are Unicode windows. To set their procedure by the A function would
-// turn them into ANSI ones, and names typed in a file dialog would arrive wrong.
+// Dialogs of the system are Unicode windows. The A function would turn them into ANSI windows, and
+// names typed in a file dialog would arrive wrong.
 WNDPROC replaceProcedure(HWND window, WNDPROC procedure) {
   const auto value = reinterpret_cast<LONG_PTR>(procedure);
   return reinterpret_cast<WNDPROC>(IsWindowUnicode(window)
@@ -44,8 +44,9 @@ LRESULT CALLBACK centringProcedure(HWND window, UINT message, WPARAM wParam, LPA
   const WNDPROC old = hook.oldProcedure;
   if (message != WM_INITDIALOG) return callProcedure(old, window, message, wParam, lParam);
   replaceProcedure(window, old);
-  // A dialog that is moved before it has set itself up answers with what is not there yet. Wine's
-  // file dialogs then fault when they are cancelled; Wine hides it until the 60th ends the program.
+  // The dialog handles the message first, because a move makes it use what it sets up in there. On
+  // Wine, a file dialog that is moved first faults when it is cancelled; Wine hides the fault,
+  // until the 60th ends the program.
   const LRESULT answer = callProcedure(old, window, message, wParam, lParam);
   centre(window);
   return answer;
@@ -68,7 +69,7 @@ LRESULT CALLBACK hookProcedure(int code, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 void clsLibrary::HOOKFRMLOAD() {
-  // Armed for a dialog that never came, the hook serves the next one.
+  // A hook that is still armed, because no dialog opened, is used again.
   if (hook.installed) return;
   hook.handle = SetWindowsHookExA(WH_CALLWNDPROC, hookProcedure, nullptr, GetCurrentThreadId());
   hook.installed = hook.handle != nullptr;
@@ -77,7 +78,7 @@ void clsLibrary::HOOKFRMLOAD() {
 void clsLibrary::HOOKFRMUNLOAD() {
   if (hook.handle == nullptr || !hook.installed) return;
   UnhookWindowsHookEx(hook.handle);
-  // The handle itself is not cleared, deliberately; it counts for nothing any more.
+  // The handle is deliberately not cleared; nobody uses it any more.
   hook.installed = false;
 }
 

@@ -17,7 +17,8 @@ int imageOfKey(const std::string& key) {
   return index;
 }
 
-// The shared pop-up menu and the preview describe the menus of the form that shows the text.
+// For the shared pop-up menu and the preview, the item is looked for in the menus of the form whose
+// status bar shows the text.
 bool itemIsOfStatusForm(const windowing::Form& form) {
   const std::string_view name = form.name();
   return name == "frmPopup" || name == "frmPPrev";
@@ -28,7 +29,7 @@ void describe(clsLibrary& shared, CommandForm& form, std::string_view caption,
   const std::string product = windowing::productName();
   const DescriptionContext context{noun, product, std::string_view(form.name()) == "frmPPrev"};
   const auto description = commandDescription(caption, context);
-  // A caption that nothing is known of shows nothing new.
+  // For a caption without description, the status bar stays as it is.
   if (description) shared.STATUSBARCAPTION(form, *description, false);
 }
 
@@ -37,7 +38,8 @@ void describe(clsLibrary& shared, CommandForm& form, std::string_view caption,
 void clsLibrary::MENUCREATE(CommandForm& ICOMNUFORM, CommandForm& IMGLSTFORM,
                             const std::string& CAPTION, const std::string& ICONKEY, int PARENT,
                             bool ENABLED, bool CHECKED, int MENUNUMBER) {
-  // An item's number is the command it sends. A line has no caption, and the bar holds menus.
+  // An item sends its own number as its command. A separator has no caption. Items on the menu bar
+  // open menus.
   const bool separator = CAPTION.empty();
   const bool title = PARENT == 0;
   ICOMNUFORM.iconMenus().AddItem(MENUNUMBER, PARENT, CAPTION, ENABLED, CHECKED, MENUNUMBER,
@@ -58,7 +60,8 @@ void clsLibrary::STATUSTEXTDESC(CommandForm& ICOMNUFORM, CommandForm& SBFORM, in
                                 bool SHOWVAL, const std::string& NOUN) {
   CommandForm& owner = itemIsOfStatusForm(ICOMNUFORM) ? SBFORM : ICOMNUFORM;
   const controls::ICOMNU& menus = owner.iconMenus();
-  // Deliberate: the flag that is called "show" clears. It comes without an item when a menu ends.
+  // Deliberate: the flag that is called "show" clears the text. It is set when a menu ends, and no
+  // item is given then.
   if (SHOWVAL) {
     STATUSBARCAPTION(SBFORM, "", false);
   } else {

@@ -26,7 +26,7 @@ int showMessage(Composer compose, int number, const std::string& file1, const st
 
 void clsLibrary::MESSAGEBOX(int MSGNO, const std::string& FILE1, const std::string& FILE2,
                             const std::string& FILE3, const std::string& FILE4) {
-  (void)FILE4;  // accepted for the callers of the family, used by no message
+  (void)FILE4;  // other products of the maker pass it; no message uses it
   showMessage(composeMessage, MSGNO, FILE1, FILE2, FILE3);
 }
 

@@ -1,4 +1,4 @@
-// Windows come back where the user left them, and standard buttons have their places.
+// Storing and restoring where forms are, and placing the standard buttons.
 #include <string_view>
 
 #include "library/clsLibrary_win.h"
@@ -24,7 +24,7 @@ FormPlacement placementOf(const windowing::Form& form) {
 }
 
 StoredPlacement storedPlacement(const std::string& formName) {
-  // A default that is no number and stands for a value that is not there.
+  // No stored text can be this one, so it tells that a value is missing.
   const std::string missing(1, '\0');
   const auto read = [&](Setting setting) -> std::optional<std::string> {
     std::string text = readText(setting, missing, formName);
@@ -62,14 +62,16 @@ void clsLibrary::FORMLOAD(const std::string& FORMNAME, windowing::Form& CURRENTF
   FormPlacement placed = load();
   placeForm(CURRENTFORM, placed);
   if (RESIZE) {
-    // Windows lets no form grow beyond the screen: where it stands follows from the size that it
-    // got, lest one that is stored too large have its caption out of reach.
+    // Windows makes no form larger than the screen. So the place is computed again from the size
+    // that the form got; with a stored size that is too large, its caption could lie off the
+    // screen.
     stored.width.reset();
     stored.height.reset();
     placed = load();
     placeForm(CURRENTFORM, placed);
   }
-  // "Minimised" is never stored by a program; a form that started so could not be found.
+  // A stored "minimised" is ignored: the program never stores it, and the user would not find a
+  // form that starts minimised.
   if (placed.state == WindowState::maximized) CURRENTFORM.maximiseWhenShown();
 }
 
@@ -96,7 +98,7 @@ void clsLibrary::RESIZEBTNSOKCANCEL(windowing::Form& CURRENTFORM) {
     placeLeft(cancel, lefts.cancel);
     placeLeft(ok, lefts.ok);
   } catch (const values::RuntimeError&) {
-    // A form without a Cancel button leaves OK where its design put it, deliberately.
+    // Deliberate: on a form without a Cancel button, OK stays where its design put it.
   }
 }
 

@@ -1,4 +1,5 @@
-// The settings store: every value goes to the registry and comes from it at the moment of need.
+// The settings store. Values are read from the registry and written to it at once; none is kept in
+// memory.
 #include <array>
 
 #include "library/clsLibrary_win.h"
@@ -34,8 +35,7 @@ RegistryKey createdKey(HKEY root, const std::string& path) {
 
 std::string readText(HKEY root, const std::string& path, const std::string& name,
                      const std::string& otherwise) {
-  // Full access is asked for deliberately: settings that the user could not write count as
-  // absent.
+  // Deliberately with full access: a setting that the user may not write counts as missing.
   HKEY opened = nullptr;
   if (RegOpenKeyExA(root, path.c_str(), 0, KEY_ALL_ACCESS, &opened) != ERROR_SUCCESS)
     return otherwise;
@@ -60,7 +60,7 @@ std::string clsLibrary::REGSTRREAD(const std::string& hKey, const std::string& S
   try {
     return readText(rootKey(hKey), SUBKEY, VALNAME, SDEFAULT);
   } catch (const values::RuntimeError&) {
-    // Deliberately not the default, which stands for a value that is not there.
+    // Deliberately not the default, which is for a missing value only.
     return {};
   }
 }
@@ -70,13 +70,13 @@ bool clsLibrary::REGSTRWRITE(const std::string& hKey, const std::string& SUBKEY,
   try {
     RegistryKey key = createdKey(rootKey(hKey), SUBKEY);
     if (!key) return false;
-    // The terminator is not counted, but stands behind the text: Windows looks for it there
-    // and stores it too.
+    // The size does not count the terminator, but Windows finds it behind the text and stores it
+    // too.
     const LSTATUS result = RegSetValueExA(key.get(), VALNAME.c_str(), 0, REG_SZ,
                                           reinterpret_cast<const BYTE*>(SDATAVAL.c_str()),
                                           static_cast<DWORD>(SDATAVAL.size()));
     if (result == ERROR_SUCCESS) return true;
-    // A key that could not be written stays open, deliberately.
+    // Deliberate: the key stays open after a failed write.
     (void)key.release();
     return false;
   } catch (const values::RuntimeError&) {
@@ -96,7 +96,7 @@ bool clsLibrary::REGBINARYREAD(const std::string& hKey, const std::string& SUBKE
 }
 
 void clsLibrary::REGBINARYWRITE() {
-  // Nothing in this program calls this; it is there for the other products.
+  // Only other products of the maker call this.
   const SettingRow& buttons = settingRow(Setting::toolbarButtons);
   REGBINARYREAD(currentUserRoot, keyOf(buttons.setting), buttons.name, {100, 0, 0, 0, 101});
 }
@@ -117,7 +117,8 @@ std::string clsLibrary::FILESLOCATION() {
   std::string folder = FILENAMELENCHK(readText(Setting::filesLocation, own));
   if (!FOLDEREXIST(folder)) {
     folder = own;
-    // Not where it was read: a folder that comes back is found again.
+    // Written elsewhere, not over the setting itself: if the missing folder exists again later, it
+    // is used again.
     writeText(Setting::missingFilesLocation, folder);
   }
   return folder;
@@ -143,7 +144,7 @@ std::string clsLibrary::GETAPPNUMBER() {
 std::string clsLibrary::GETWINDOWSDIR() {
   std::array<char, 255> buffer{};
   const UINT length = GetWindowsDirectoryA(buffer.data(), buffer.size());
-  // A greater number is the size it would have needed.
+  // Where the buffer is too small, the result is the size that it would need.
   return length < buffer.size() ? std::string(buffer.data(), length) : std::string();
 }
 

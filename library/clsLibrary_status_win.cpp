@@ -1,4 +1,4 @@
-// The first panel of a form's status bar, and where the pointer is.
+// The first panel of a form's status bar, and whether the pointer is in a rectangle of a form.
 #include "library/clsLibrary_win.h"
 #include "library/command_descriptions.h"
 
@@ -15,9 +15,9 @@ bool pointerIn(const windowing::Form& form, const RECT& area) {
 
 void clsLibrary::STATUSBARCAPTION(windowing::Form& SBFORM, const std::string& STATUSTEXT,
                                   bool FLAG) {
-  (void)FLAG;  // accepted for the callers of the family, without an effect
+  (void)FLAG;  // other products of the maker pass it; it has no effect
   const windowing::StatusBar bar(SBFORM.control("SBMAIN").handle());
-  // Position texts and "..." bring their own full stop.
+  // Some texts end with a full stop already (record positions, "...").
   const bool complete = STATUSTEXT.empty() || STATUSTEXT.back() == '.';
   bar.setPanel(complete ? STATUSTEXT : STATUSTEXT + ".");
 }
@@ -33,7 +33,7 @@ bool clsLibrary::MOUSEMOVE(windowing::Form& FORM, int CONTROLLEFT, int CONTROLRI
 
 bool clsLibrary::MOUSEMOVEMDI(windowing::Form& FORM, int CONTROLLEFT, int CONTROLRIGHT,
                               int CONTROLTOP, int CONTROLBOTTOM) {
-  // A frame of several documents has its bars in its client area like any form.
+  // The bars of a frame with several documents lie in its client area, as in any form.
   return pointerIn(FORM, {CONTROLLEFT, CONTROLTOP, CONTROLRIGHT, CONTROLBOTTOM});
 }
 

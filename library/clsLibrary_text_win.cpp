@@ -1,4 +1,5 @@
-// Text and number helpers by their names in the family; the work is done by plain functions.
+// The text and number helpers under the names that the maker's products share. Plain functions do
+// the work.
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
 #include "library/text_utilities.h"
@@ -9,7 +10,7 @@
 namespace library {
 namespace {
 
-// The combo box among its parent's children is known by its place.
+// Finds the child of the combo box's parent that has the same place, which is the combo box.
 HWND childAtSamePlace(HWND combo) {
   RECT wanted{};
   GetWindowRect(combo, &wanted);
@@ -82,7 +83,7 @@ void clsLibrary::COMBOINIT(const std::string& HWNDTEXT, const std::string& ITEMC
   SetWindowPos(found, nullptr, 0, 0, width, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
   combo.send(WM_NULL, static_cast<WPARAM>(-1));
-  // Controls of the current look size their lists by rows and would open twice as many.
+  // Controls of version 6 size their lists by this number of rows; their default is 30.
   constexpr UINT setMinimumVisible = 0x1701;  // CB_SETMINVISIBLE
   combo.send(setMinimumVisible, static_cast<WPARAM>(values::toInteger32(ITEMCOUNT, '.')));
 }

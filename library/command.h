@@ -1,5 +1,5 @@
-// The commands of a form, as data: menus, toolbar, shortcuts, descriptions and the bars that are
-// shown and hidden all follow from one table.
+// The commands of a form in one table: its menus, toolbar, shortcuts, descriptions and the bars
+// that the user shows and hides are all made from it.
 #pragma once
 
 #include <cstddef>
@@ -12,27 +12,28 @@
 
 namespace library {
 
-// Parents of what lies in no menu: the titles on the menu bar, and what is only on the toolbar.
+// Parents of rows that are in no menu: the titles on the menu bar, and commands that are on the
+// toolbar only.
 constexpr int menuBar = 0;
 constexpr int noMenu = -1;
-/// Number of a line between two items, which has nothing but its menu and its name.
+/// Number of a separator line. Its row has only a parent and a name.
 constexpr int line = 0;
 
 enum class ToolButton { none, plain, afterGap };
 
-/// A bar that a command shows and hides, and the setting that says whether it is shown.
+/// A bar that a command shows and hides, and the setting that stores whether it is shown.
 struct Bar {
   int control = 0;
   Setting setting = {};
 };
 
-/// A command, or a menu: what other rows name as their parent.
+/// A command, a menu (a row that others name as their parent) or a separator line.
 struct Command {
-  int number;  ///< what the command is known by; a menu's counts in its own table only
+  int number;  ///< identifies a command in the program, a menu in its table
   int parent;
   std::string_view name;
   std::string_view caption = {};  ///< "&" marks the access key
-  std::string_view picture = {};  ///< key of the picture, which also names the button
+  std::string_view picture = {};  ///< key of the picture, and of the toolbar button
   ToolButton button = ToolButton::none;
   Shortcut shortcut = {};
   Bar bar = {};
@@ -89,7 +90,7 @@ constexpr bool shortcutsCanWork(Commands commands) {
   for (const Command& a : commands) {
     const auto [key, held] = a.shortcut;
     if (key == Key::none) continue;
-    // The system takes what is pressed with Alt, and a letter alone is typed.
+    // Windows uses keys with Alt itself. A letter without Ctrl is typed into a box.
     if (held == Held::alt && a.shortcut != closesWindow) return false;
     if (held == Held::nothing && designOf(key).text.empty()) return false;
     for (const Command& b : commands)
@@ -98,10 +99,10 @@ constexpr bool shortcutsCanWork(Commands commands) {
   return true;
 }
 
-/// Whether the table has a row for each command, and for no other: `isCommand` knows them all.
+/// Whether the table has a row for each number that `isCommand` accepts, and no other row.
 template <typename IsCommand>
 constexpr bool holdsEveryCommand(Commands commands, int first, IsCommand isCommand) {
-  constexpr int range = 100;  // numbers that a form's commands have to themselves
+  constexpr int range = 100;  // the numbers reserved for the commands of one form
   for (int number = first; number < first + range; ++number)
     if (isCommand(number) != (findCommand(commands, number) != nullptr)) return false;
   return true;

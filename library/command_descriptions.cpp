@@ -8,7 +8,7 @@ namespace {
 
 enum class Window { any, preview, others };
 
-// In a description, @ stands for the document noun and # for the product's name.
+// In a description, "@" is replaced by the noun for documents, "#" by the product's name.
 struct Row {
   std::string_view caption;
   std::string_view description;
@@ -17,9 +17,9 @@ struct Row {
 
 constexpr std::string_view recent = "Open this recent document in #";
 
-// One table for every product of the family, so most rows are for commands that this program
-// does not have. The order decides which row a caption finds; rows that an earlier one hides
-// ("&New Window" behind "&New") stay where the family has them.
+// All products of the maker share this table, so most rows are for commands that this program does
+// not have. A caption finds the first row that it begins with. Rows that can never be found,
+// because an earlier one matches too ("&New" before "&New Window"), stay deliberately.
 constexpr Row rows[] = {
     {"&New", "Create a new @"},
     {"&Open", "Open an existing @"},
@@ -188,7 +188,7 @@ std::optional<std::string> commandDescription(std::string_view caption,
   });
   if (row == std::end(rows)) return std::nullopt;
   std::string_view pattern = row->description;
-  // "E&xit" alone has a second half, which the picture product leaves out.
+  // Only the description of "E&xit" has a second half, which the picture product does not show.
   if (context.pictureProduct) pattern = pattern.substr(0, pattern.find(';'));
   std::string text;
   for (const char c : pattern) {

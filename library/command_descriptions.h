@@ -1,5 +1,5 @@
-// One sentence for every menu command of the product family, shown in the status bar while
-// the command is under the pointer or highlighted.
+// One sentence for each menu command of the maker's products. The status bar shows it while the
+// command is highlighted or under the pointer.
 #pragma once
 
 #include <optional>
@@ -8,8 +8,8 @@
 
 namespace library {
 
-/// Who asks for a description: what its documents are called, the product's name, whether the
-/// print preview asks (its "&Close" closes no document), and whether it is the picture product.
+/// What a description depends on: the noun for documents, the product's name, whether it is for the
+/// print preview (whose "&Close" closes no document) and for the picture product.
 struct DescriptionContext {
   std::string_view noun;
   std::string_view product;
@@ -17,9 +17,9 @@ struct DescriptionContext {
   bool pictureProduct = false;
 };
 
-/// Description of the command with menu caption `caption` ("&" marks the access key; what
-/// follows the words, like "..." or a shortcut, does not matter): that of the first row whose
-/// caption it begins with, case included. Nothing where no row matches.
+/// Description of the command with the menu caption `caption`: that of the first row whose caption
+/// `caption` begins with, upper and lower case and "&" included. So "..." or a shortcut after the
+/// words does not matter. No value where no row matches.
 [[nodiscard]] std::optional<std::string> commandDescription(std::string_view caption,
                                                             const DescriptionContext& context);
 

@@ -16,7 +16,7 @@ namespace {
 constexpr windowing::ImageStrip imageStrips[] = {
     {16, IDB_TOOLBAR16}, {20, IDB_TOOLBAR20}, {24, IDB_TOOLBAR24}, {32, IDB_TOOLBAR32}};
 
-// Numbers of the lines between items, which the menus need and nobody else.
+// First number for separator lines. The menus need numbers for them; nothing else uses these.
 constexpr int firstLine = 101;
 
 constexpr char documentNoun[] = "tellary";  // what the descriptions call a document
@@ -68,9 +68,9 @@ windowing::StatusBar CommandForm::SBMAIN() const {
 }
 
 void CommandForm::ICONMENUS() {
-  // Sizes that change with the menu bar are for the time when it is complete.
+  // Removing the menu bar changes the form's size. It is not laid out again until the bar is back.
   const bool wasReady = std::exchange(ready_, false);
-  // On a window the bar would be drawn with every item.
+  // While the window has the bar, Windows draws the bar again for each item that is added.
   SetMenu(handle(), nullptr);
   ICOMNU.clear();
   int nextLine = firstLine;
@@ -112,7 +112,7 @@ void CommandForm::run(int number, bool byButton) {
   }
 }
 
-// A key that means something to the control with the focus stays with it.
+// A key that the control with the focus uses itself runs no command.
 bool CommandForm::handleKey(const MSG& message) {
   if (message.message != WM_KEYDOWN || GetKeyState(VK_SHIFT) < 0) return false;
   const Shortcut pressed{static_cast<Key>(message.wParam),
@@ -156,7 +156,7 @@ void CommandForm::showBar(const Command& command, bool shown) {
 void CommandForm::toggleBar(int number) {
   const Command& command = *findCommand(number);
   const bool shown = !commandChecked(number);
-  // A hidden control that kept the focus would leave the keyboard dead.
+  // The focus must not stay on a hidden control: no key would reach a visible one.
   if (!shown && IsChild(control(command.bar.control).handle(), GetFocus()))
     control(commands_.body).focus();
   showBar(command, shown);
@@ -177,7 +177,7 @@ void CommandForm::onSize() {
   if (ready_) arrange();
 }
 
-// Descriptions stay as long as the pointer is on what they describe.
+// Shows the description of a highlighted menu item, until another one is highlighted.
 void CommandForm::describeItem(int number) {
   endDescription();
   if (number == 0) return;
@@ -191,7 +191,7 @@ void CommandForm::describeButton(const Command& command) {
   SetTimer(handle(), TMR1, timerInterval, nullptr);
 }
 
-// The status bar may show something else by now.
+// Clears the description, unless the status bar shows another text by now.
 void CommandForm::endDescription() {
   KillTimer(handle(), TMR1);
   if (!described_.empty() && SBMAIN().panel() == described_)
@@ -215,8 +215,8 @@ LRESULT CommandForm::onNotify(NMHDR& header) {
 
 void CommandForm::onTimer(UINT_PTR timer) {
   if (timer != TMR1) return;
-  // The family's figures for the watched area (1, 533, 44, 65) belong to one theme at one
-  // resolution; the toolbar itself says where it is.
+  // Deliberately not the fixed rectangle of the maker's other products (1, 533, 44, 65), which is
+  // right for one theme at one resolution only.
   const HWND toolbar = TBARMAIN().handle();
   RECT area{};
   GetClientRect(toolbar, &area);
@@ -229,7 +229,8 @@ LRESULT CommandForm::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (ICOMNU.handleMessage(handle(), message, wParam, lParam, answer)) return answer;
   switch (message) {
     case WM_QUERYENDSESSION:
-      // The one question of a shutdown; what is answered "No" stays until the session ends.
+      // The only question when Windows shuts down. "No" discards nothing until the session has
+      // really ended.
       return onQueryUnload() ? TRUE : FALSE;
     case WM_ENDSESSION:
       if (wParam != FALSE) onUnload();

@@ -17,21 +17,21 @@ namespace library {
 
 struct CommandDesign {
   Commands commands;
-  int body;  ///< control that takes the focus when the bar that has it is hidden
+  int body;  ///< control that gets the focus when a bar that has it is hidden
 };
 
 /// Its controls include the toolbar TBARMAIN and the status bar SBMAIN.
 class CommandForm : public windowing::Form {
  public:
-  /// The timer that finds out when the pointer has left a button that is described.
+  /// The timer that looks whether the pointer has left the button whose description is shown.
   static constexpr UINT_PTR TMR1 = 1;
 
   CommandForm(const windowing::FormDesign& design, const CommandDesign& commands);
 
-  /// Builds the icon menus; called again, it builds them anew. What was enabled and checked stays.
+  /// Builds the icon menus, again if they exist. Items keep whether they are enabled and checked.
   void ICONMENUS();
-  /// Runs the command with this number, if it is offered; any other does nothing. Raises what the
-  /// command does not tell the user itself; out of memory names the command.
+  /// Runs the command with this number. Does nothing where it is disabled or no command. Raises an
+  /// error that the command does not report itself; "out of memory" then names the command.
   void runCommand(int number) { run(number, false); }
 
   [[nodiscard]] Commands commands() const { return commands_.commands; }
@@ -44,22 +44,22 @@ class CommandForm : public windowing::Form {
   bool handleKey(const MSG& message) override;
 
  protected:
-  /// Does what a command is for. `byButton`: it was chosen on the toolbar.
+  /// Runs a command. `byButton`: it was chosen on the toolbar.
   virtual void carryOut(int number, bool byButton) = 0;
-  /// Places the form's parts; not called before it is ready.
+  /// Places the form's controls. Called only when the form is ready.
   virtual void arrange() {}
-  /// The user has shown or hidden a bar.
+  /// Called when the user has shown or hidden a bar.
   virtual void viewChanged() { arrange(); }
 
   void setCommandEnabled(int number, bool enabled);
   void setCommandChecked(int number, bool checked) { ICOMNU.setChecked(number, checked); }
-  /// Enables all commands anew. `availability` says nothing of what is no command, as a menu.
+  /// Enables or disables every command. `availability` gives no value for a row that is no command.
   void enableCommands(const std::function<std::optional<bool>(int number)>& availability);
   void toggleBar(int number);
 
-  // Steps of loading, in this order, and of storing.
-  void buildToolbar();  ///< the buttons stand in the middle of their strip
-  void applyView();     ///< shows the bars that were shown when they were stored
+  // The steps of loading, in this order, and of storing.
+  void buildToolbar();  ///< adds the buttons, centred in their strip
+  void applyView();     ///< shows the bars that the settings say are shown
   void becomeReady() { ready_ = true; }
   void storeView() const;
 
@@ -86,7 +86,7 @@ class CommandForm : public windowing::Form {
   CommandDesign commands_;
   windowing::ImageList IMGLST;
   controls::ICOMNU ICOMNU;
-  std::string described_;  ///< what the status bar says of the command under the pointer
+  std::string described_;  ///< the description that the status bar was given
   bool ready_ = false;
 };
 

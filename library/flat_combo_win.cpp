@@ -40,7 +40,7 @@ LRESULT CALLBACK FlatCombo::procedure(HWND window, UINT message, WPARAM wParam, 
 LRESULT FlatCombo::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND window = combo_;
   const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
-  // The default handling can end the window.
+  // The window may be destroyed by now.
   if (combo_ == nullptr) return result;
   switch (message) {
     case WM_PAINT:
@@ -75,7 +75,7 @@ void FlatCombo::leavePointer() {
 }
 
 void FlatCombo::drawEdge() const {
-  // A visual style has a flat look of its own.
+  // With a visual style, combo boxes look flat anyway.
   const windowing::ThemeEngine& themes = windowing::themes();
   if (themes.isAppThemed() != FALSE && themes.isThemeActive() != FALSE) return;
   if (hot_ || GetFocus() == combo_) return;

@@ -5,7 +5,7 @@
 
 namespace library {
 
-/// Gives one combo box the flat look. It may outlive its window: it lets go when that dies.
+/// Gives one combo box the flat look. The object may outlive the combo box.
 class FlatCombo {
  public:
   explicit FlatCombo(HWND combo);
@@ -13,7 +13,7 @@ class FlatCombo {
   FlatCombo& operator=(const FlatCombo&) = delete;
   ~FlatCombo();
 
-  /// The combo box; null once its window is gone.
+  /// The combo box; null after its window was destroyed.
   [[nodiscard]] HWND combo() const { return combo_; }
 
  private:

@@ -1,5 +1,4 @@
-// Which picture belongs to which command: the pictures of all commands stand in one
-// row, in the same order in each of its sizes.
+// The pictures of commands. They stand side by side in one row, in the same order in each size.
 #pragma once
 
 #include <algorithm>
@@ -9,8 +8,7 @@
 
 namespace library {
 
-/// The keys of the pictures, in the order of the row; tools/render_icons.sh draws
-/// the row from this table.
+/// The keys of the pictures in the order of the row. tools/render_icons.sh reads this table.
 inline constexpr std::array<std::string_view, 22> imageKeys{
     "NEW",       "OPEN",      "SAVE",          "SAVE AS",    "PRINT",      "PRINT PREVIEW",
     "ADD",       "REMOVE",    "HEADERFOOTER",  "PROPERTIES", "FIRST PAGE", "PREVIOUS PAGE",
@@ -25,7 +23,6 @@ inline constexpr std::array<std::string_view, 22> imageKeys{
 }
 
 namespace detail {
-// The first place of each key is its own place only if no key stands there twice.
 constexpr bool imageKeysAreUnique() {
   for (std::size_t i = 0; i < imageKeys.size(); ++i)
     if (imageIndex(imageKeys[i]) != static_cast<int>(i)) return false;

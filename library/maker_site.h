@@ -1,9 +1,9 @@
-// Where the maker is found on the web.
+// The maker's web site.
 #pragma once
 
 namespace library {
 
-/// Address that Help > Zandor Online and the logo of the about box open. The domain is one
+/// Address that Help > Zandor Online and the logo of the about box open. Its domain is one of those
 /// reserved for examples.
 constexpr char makerSite[] = "http://www.zandor.example/";
 

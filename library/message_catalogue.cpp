@@ -11,8 +11,8 @@ namespace {
 
 enum class Title { fixed, product, programFolder };
 
-// In a text, %1 to %3 stand for the caller's texts; %b and %c for the plural "s" that goes with
-// the second and third read as a number.
+// In a text, %1 to %3 are replaced by the caller's texts. %b and %c are replaced by the plural "s"
+// where the caller's second or third text is a number other than 1.
 struct Entry {
   int number;
   std::string_view text;
@@ -25,7 +25,8 @@ struct Entry {
 constexpr unsigned stop = 16, asking = 32, exclamation = 48, information = 64;
 constexpr unsigned yesNoCancel = 3, yesNo = 4, secondIsDefault = 256;
 
-// Spelling, quotes and blanks are as users of the family know them ("loose", "have all been").
+// Mistakes in spelling and grammar ("loose", "have all been") are deliberate: the texts are the
+// same in all of the maker's products.
 constexpr Entry messages[] = {
     {message::spellingChecked, "Spell Checker has now finished checking your document.",
      Title::fixed, "Spell Checker", information},
@@ -41,7 +42,7 @@ constexpr Entry messages[] = {
      Title::fixed, "Save", exclamation},
     {message::noRoomToPrint, "You cannot enter a value which leaves you with no room to print.",
      Title::fixed, "Page Setup", exclamation},
-    // The program's folder as title is deliberate.
+    // Deliberate: its title is the program's folder.
     {message::noPrinter,
      "There is no printer installed. You will not be able to use the printer functions.",
      Title::programFolder, "", stop, true},
@@ -58,7 +59,7 @@ constexpr Entry messages[] = {
     {message::unreadableTga,
      "There is a problem with reading TGA 16 bit format, please try another format.", Title::fixed,
      "Picture", exclamation},
-    // Names another product of the family, whichever shows it; deliberate.
+    // Deliberate: it names another product, whichever product shows it.
     {message::tooManyDocuments,
      "You have reached the limit of documents that can be opened in a session, sorry.\r\nYou "
      "could always close Pressling and re-launch it.",

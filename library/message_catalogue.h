@@ -1,5 +1,5 @@
-// The numbered messages that the product family shares. A message is composed here, whole,
-// before anything is shown or sounds, so that a text that cannot be composed shows no box.
+// The numbered messages that the maker's products share. A message is composed completely before it
+// is shown, so that an error in composing it shows no box.
 #pragma once
 
 #include <string>
@@ -16,8 +16,8 @@ struct Message {
   friend bool operator==(const Message&, const Message&) = default;
 };
 
-/// What is inserted into messages: the caller's texts, the product's name, and the folder of
-/// the program, which one message has as its title.
+/// What is inserted into messages: the caller's texts, the product's name, and the program's
+/// folder, which is the title of one message.
 struct MessageInserts {
   std::string_view file1, file2, file3;
   std::string_view product;
@@ -25,11 +25,11 @@ struct MessageInserts {
   char decimalSign = '.';
 };
 
-/// Information or warning `number`; an empty message without flags where the catalogue has
-/// none. Raises type mismatch where a count that decides about a plural is no number.
+/// Information or warning `number`; an empty message without flags where there is none of this
+/// number. Raises type mismatch where a text that decides about a plural is no number.
 [[nodiscard]] Message composeMessage(int number, const MessageInserts& inserts);
 
-/// Question `number`, likewise.
+/// The same for question `number`.
 [[nodiscard]] Message composeQuestion(int number, const MessageInserts& inserts);
 
 }  // namespace library

@@ -1,10 +1,10 @@
-// The numbers that messages have throughout the maker's products; gaps are numbers that no
-// message has.
+// The numbers of messages, the same in all of the maker's products. No message has the numbers
+// between them.
 #pragma once
 
 namespace library {
 
-/// Informations and warnings, for MESSAGEBOX.
+/// Messages that inform or warn, for MESSAGEBOX.
 namespace message {
 constexpr int spellingChecked = 1, textFound = 3, textReplaced = 6, noSuchLine = 9,
               problemSaving = 10, noRoomToPrint = 12, noPrinter = 13, problemsReading = 14,

@@ -1,4 +1,4 @@
-// What the library remembers for the whole program.
+// Variables that the whole program shares.
 #pragma once
 
 #include <windows.h>
@@ -19,7 +19,7 @@ struct ProgramVariables {
   std::string documentPath;  ///< current document; empty while it has no file
   std::string documentKind;  ///< for the properties: "DOCUMENT", "UNTITLED", "PICTURE", "TEMPLATE"
 
-  HWND folderBrowseOwner = nullptr;  ///< form that asked for a folder; `formOf` gives it
+  HWND folderBrowseOwner = nullptr;  ///< window of the form that asked for a folder
   std::string folderBrowseFolder;    ///< where the browsing starts
 
   // Choices of the page setup, as decimal texts; empty until it was opened.
@@ -27,14 +27,14 @@ struct ProgramVariables {
   std::string printerName;
   std::string paperCode;
 
-  /// Shows the about box. Forms that may not know it, as the preview, ask here.
+  /// Shows the about box. For forms that cannot include it, such as the preview.
   std::function<void()> showAbout = [] {};
 
-  int preparedCombos = 0;                              ///< combo boxes prepared so far, flat or not
-  std::vector<std::unique_ptr<FlatCombo>> flatCombos;  ///< by that count less one
+  int preparedCombos = 0;  ///< how many combo boxes COMBOINIT has prepared, flat or not
+  std::vector<std::unique_ptr<FlatCombo>> flatCombos;  ///< entry n for the combo box n + 1
 };
 
-/// The one set of them.
+/// The only object of these variables.
 [[nodiscard]] ProgramVariables& modLibrary();
 
 }  // namespace library

@@ -16,7 +16,7 @@ bool isLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-// Begins at a drive's root or at a network share.
+// Whether a path begins with a drive and "\", or with "\\" (a network share).
 bool isFullPath(std::string_view path) {
   if (path.starts_with("\\\\")) return path.size() > 2;
   return path.size() > 2 && isLetter(path[0]) && path[1] == ':' && path[2] == '\\';
@@ -38,7 +38,7 @@ std::size_t lastBackslash(std::string_view path, LeadByteTest isLead) {
 std::string folderPath(std::string_view path, LeadByteTest isLead) {
   const std::size_t at = lastBackslash(path, isLead);
   const bool found = at != std::string_view::npos;
-  // The characters looked at are counted from the end in 16 bits.
+  // The search counts characters from the end, in 16 bits.
   (void)values::checkedCast<std::int16_t>(
       static_cast<std::int64_t>(found ? path.size() - at : path.size()));
   return std::string(path.substr(0, found ? at : 0));
@@ -90,7 +90,7 @@ std::string withDefaultExtension(std::string_view path, std::string_view extensi
 }
 
 bool isSafeToDelete(std::string_view path) {
-  // Three characters are a whole drive.
+  // A path of three characters ("C:\") is a whole drive.
   return path.size() > 3 && isFullPath(path) && !hasWildcards(path) &&
          path.find('\0') == std::string_view::npos;
 }

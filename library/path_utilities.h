@@ -1,5 +1,5 @@
-// Paths as texts; nothing here asks the disk. In a double-byte code page the second byte of
-// a character may have the value of "\": functions that look for one take a test for lead bytes.
+// Paths as texts; nothing here asks the disk. In a double-byte code page the second byte of a
+// character may be the same as "\". So functions that look for "\" take a test for lead bytes.
 #pragma once
 
 #include <string>
@@ -17,9 +17,9 @@ using LeadByteTest = bool (*)(unsigned char);
 /// Position of the last "\" that is a character of its own; npos where there is none.
 [[nodiscard]] std::size_t lastBackslash(std::string_view path, LeadByteTest isLead = noLeadBytes);
 
-/// Folder of a file's path, without its last "\"; empty where there is none after the first
-/// character ("C:\Book.tly" gives "C:"). Raises overflow where none of the last 32,767
-/// characters of a longer path is a "\".
+/// Folder of a file's path, without the last "\" ("C:\Book.tly" gives "C:"). Empty where the path
+/// has no "\" after its first character. Raises overflow where a path longer than 32,767
+/// characters has no "\" within its last 32,767.
 [[nodiscard]] std::string folderPath(std::string_view path, LeadByteTest isLead = noLeadBytes);
 
 /// Folder of a file's path up to and including its last "\"; empty where there is none.
@@ -29,7 +29,7 @@ using LeadByteTest = bool (*)(unsigned char);
 /// The part of a path after its last "\"; all of it where there is none.
 [[nodiscard]] std::string fileNameOf(std::string_view path, LeadByteTest isLead = noLeadBytes);
 
-/// `path` with a "\" at its end, unless it has one or is three characters or shorter.
+/// `path` with a "\" at its end. A path of up to three characters stays as it is.
 [[nodiscard]] std::string fileNameLengthCheck(std::string_view path,
                                               LeadByteTest isLead = noLeadBytes);
 
@@ -40,22 +40,21 @@ using LeadByteTest = bool (*)(unsigned char);
 /// `text` up to its first NUL.
 [[nodiscard]] std::string trimNull(std::string_view text);
 
-/// Whether `path` holds "?" or "*", which would match other files than the one meant.
+/// Whether `path` holds "?" or "*"; a search for it would find other files too.
 [[nodiscard]] bool hasWildcards(std::string_view path);
 
-/// `folder`, a bare drive ("C:") with its "\": without it, it means the drive's current folder.
+/// `folder`; a drive alone ("C:") gets a "\", since "C:" means the current folder of the drive.
 [[nodiscard]] std::string bareDriveToRoot(std::string_view folder);
 
-/// `path` with `extension` (".tly") appended where its last part has no extension.
+/// `path` with `extension` (".tly") appended where its file name has no extension.
 [[nodiscard]] std::string withDefaultExtension(std::string_view path, std::string_view extension,
                                                LeadByteTest isLead = noLeadBytes);
 
-/// Whether the shell may be asked to delete `path`: a full path of one file. Anything else is
-/// refused, since the shell would delete it for good or delete other files.
+/// Whether the shell may be asked to delete `path`, which must be the full path of one file or
+/// folder. For any other path, the shell would delete for good, or delete other files.
 [[nodiscard]] bool isSafeToDelete(std::string_view path);
 
-/// `path` as the list of one that shell operations take: its end is marked by two NULs, both
-/// inside the text.
+/// `path` as a list of one file for the shell. Two NULs end the list; both are part of the text.
 [[nodiscard]] std::string doubleNulList(std::string_view path);
 
 }  // namespace library

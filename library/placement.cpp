@@ -8,8 +8,8 @@ namespace {
 
 using values::Twips;
 
-// Stored places are rounded to seven digits, so a window that touches the screen's edge may
-// come back beyond it by less than this; no pixel is that small.
+// Stored numbers are rounded to seven digits. So a window at the screen's edge may come back beyond
+// the edge, but by less than this, which is less than a pixel.
 constexpr Twips roundingSlack{0.5};
 
 Twips lengthOf(const std::optional<std::string>& stored, Twips otherwise, char decimalSign) {
@@ -29,8 +29,9 @@ WindowState stateOf(const std::optional<std::string>& stored, WindowState otherw
   return static_cast<WindowState>(number);
 }
 
-/// The stored place on one axis, or the centre where it is missing or leaves the screen.
-/// The centre, not the nearest edge, also for a form larger than the screen; deliberate.
+/// The stored place on one axis. Where it is missing, or the form would not be on the screen as a
+/// whole: the place that centres the form (deliberately not the nearest edge), also for a form
+/// larger than the screen.
 Twips place(const std::optional<std::string>& stored, Twips middle, Twips size, Twips screen,
             char decimalSign) {
   Twips result = lengthOf(stored, middle, decimalSign);
@@ -61,7 +62,7 @@ FormPlacement loadPlacement(const StoredPlacement& stored, const FormPlacement& 
     loadRectangle(form, stored, screen, sizable, decimalSign);
     return form;
   }
-  // A maximised form is not moved, so what it would be restored to must not fail it either.
+  // A maximised form need not be moved, so an error in the rectangle to restore to is ignored.
   try {
     FormPlacement restored = form;
     loadRectangle(restored, stored, screen, sizable, decimalSign);

@@ -1,4 +1,5 @@
-// Where windows and the standard buttons of dialogs go. Lengths are twips unless named pixels.
+// The places of windows and of the standard buttons of dialogs. Lengths are twips, unless the type
+// is Pixels.
 #pragma once
 
 #include <cstdint>
@@ -24,17 +25,17 @@ struct ScreenSize {
   values::Twips width, height;
 };
 
-/// Texts of a stored placement; each may be missing.
+/// The texts of a stored placement; each may be missing.
 struct StoredPlacement {
   std::optional<std::string> state, left, top, width, height;
 };
 
-/// Placement of a form whose design is `design`: as stored, at the centre of the screen where
-/// nothing is stored or the stored place leaves it. A form larger than the screen gets a
-/// negative place. A form that is not sizable keeps its size and state. For a state other than
-/// normal the rectangle is the one to restore to. Raises type mismatch for a stored text that
-/// is no number, overflow where the centre leaves 16 bits, and an invalid call for an unknown
-/// state; the form then stays where its design put it.
+/// The placement of a form whose design is `design`: the stored one. Where no place is stored, or
+/// the form would not be on the screen as a whole, it is centred; a form larger than the screen
+/// gets a negative place. A form that is not sizable keeps its size and state. For a state other
+/// than normal, the rectangle is the one to restore to. Raises type mismatch for a stored text that
+/// is no number, overflow where the centre does not fit in 16 bits, and an invalid call for an
+/// unknown state; the form then stays where its design put it.
 [[nodiscard]] FormPlacement loadPlacement(const StoredPlacement& stored,
                                           const FormPlacement& design, const ScreenSize& screen,
                                           bool sizable, char decimalSign);
@@ -44,21 +45,22 @@ struct StoredValue {
   std::string text;
 };
 
-/// What to store of a form that closes, in the order of writing: nothing while minimised, the
-/// state alone while maximised, place and (of a sizable form) state and size otherwise.
+/// The values to store when a form closes, in the order of writing. A minimised form stores
+/// nothing, a maximised one its state only; any other its place and, if it is sizable, state and
+/// size.
 [[nodiscard]] std::vector<StoredValue> placementToStore(const FormPlacement& current, bool sizable,
                                                         char decimalSign);
 
 /// Top of the standard buttons in the strip at the foot of their form.
 constexpr values::Twips stripButtonTop{165};
-/// Space to the right of each of them.
+/// Space to the right of each of these buttons.
 constexpr values::Twips stripButtonGap{135};
 
 /// Left of the Close button in a form of the given inner width.
 [[nodiscard]] values::Twips closeButtonLeft(values::Twips innerWidth, values::Twips buttonWidth);
 
-/// Lefts of the OK and Cancel buttons. Both follow from Cancel's width: the two are meant to
-/// be equally wide.
+/// Left edges of the OK and Cancel buttons. Both are computed from Cancel's width, since the two
+/// are meant to be equally wide.
 struct OkCancelLefts {
   values::Twips ok, cancel;
 };
@@ -67,7 +69,8 @@ struct OkCancelLefts {
 /// Pixels of a screen side measured in twips.
 [[nodiscard]] values::Pixels screenPixels(values::Twips side, double twipsPerPixel);
 
-/// Position that centres a dialog's side on the screen's; negative where it is longer.
+/// Position of a dialog that is centred on the screen, on one axis; negative where the dialog is
+/// larger.
 [[nodiscard]] values::Pixels centred(values::Pixels screen, values::Pixels dialog);
 
 }  // namespace library

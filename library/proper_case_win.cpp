@@ -11,7 +11,7 @@
 namespace library {
 namespace {
 
-// Windows takes "/" in a path like the backslash.
+// In a path, Windows treats "/" like "\".
 bool isSeparator(char c) {
   return c == '\\' || c == '/';
 }
@@ -26,8 +26,8 @@ std::size_t nextSeparator(const std::string& path, std::size_t from) {
   return path.size();
 }
 
-// Length of what is no name on a disk: "C:\", or "\\server\share\". Of "C:windows" it is the drive
-// alone: the name is looked for in the drive's current folder.
+// Length of the start of a path that is not looked for on the disk: "C:\" or "\\server\share\"; for
+// "C:windows", which lies in the drive's current folder, "C:".
 std::size_t prefixLength(const std::string& path) {
   if (path.size() >= 2 && path[1] == ':') return path.size() >= 3 && isSeparator(path[2]) ? 3 : 2;
   if (path.size() < 2 || !isSeparator(path[0]) || !isSeparator(path[1])) return 0;
@@ -42,8 +42,7 @@ std::string foundName(const std::string& folder, const std::string& part) {
   if (!plain) return part;
   WIN32_FIND_DATAA found{};
   const values::FindHandle search(FindFirstFileA((folder + part).c_str(), &found));
-  // "?" in a found name stands for a character that the code page lacks: such a name would
-  // open nothing.
+  // A found name with "?" has a character that the code page lacks; no file could be opened by it.
   if (!search || hasWildcards(found.cFileName)) return part;
   return found.cFileName;
 }

@@ -1,13 +1,13 @@
-// Paths with the letters that the disk has.
+// Paths in upper and lower case as on the disk.
 #pragma once
 
 #include <string>
 
 namespace library {
 
-/// `path` with every folder and file name as it stands on the disk; the drive or network
-/// prefix stays. A part that is not found, that holds a wildcard, or whose name the ANSI code
-/// page cannot express stays as given.
+/// `path` with each folder and file name spelled as on the disk; the drive or network share stays.
+/// A name stays as given where it is not found, has a wildcard, or has letters on the disk that the
+/// ANSI code page lacks.
 [[nodiscard]] std::string PROPERCASEPATH(const std::string& path);
 
 /// `text` up to its first NUL.

@@ -1,5 +1,5 @@
-// Every value that the program keeps in the settings store or reads from it, one row each. The
-// registration of the document type alone stands elsewhere, in app/modAssociate.
+// Every value that the program reads from or writes to the settings store, one row each. Only the
+// registration of the document type is elsewhere, in app/modAssociate.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 namespace library {
 
 enum class Setting : int {
-  // Places of windows, of every form that stores its own.
+  // Place of a window; each form stores its own.
   windowState,
   windowLeft,
   windowTop,
@@ -49,39 +49,39 @@ enum class Setting : int {
   footerPageNumber,
   footerField1Text,
   footerField2Text,
-  // Who Windows is registered to.
+  // Registered owner of Windows.
   registeredOwner,
   registeredOrganization,
 };
 constexpr std::size_t settingCount = 35;
 
-/// Whose setting it is.
+/// Where a setting is stored, and for whom.
 enum class Scope {
   product,  ///< this product's own
   family,   ///< shared by all of the maker's products
-  literal,  ///< the product's own, below the maker's name as written here and not as the
-            ///< program's version information has it; deliberate
-  machine,  ///< of Windows, for everyone
-  user,     ///< of Windows, for the user
+  literal,  ///< the product's own, but deliberately with maker and product spelled out in
+            ///< `section`, and not taken from the program's version information
+  machine,  ///< of Windows, for all users
+  user,     ///< of Windows, for this user
 };
 
-/// What the stored text is to be, and what counts where it is not that.
+/// What the stored text must be, and what is done with any other text.
 enum class SettingKind {
   text,    ///< any text
-  length,  ///< a number of twips, with one decimal sign of any user; type mismatch otherwise
-  inches,  ///< likewise
-  truth,   ///< "True", "False" or a number; true otherwise
-  tick,    ///< "1" is on, "2" a greyed box, anything else off
-  folder,  ///< a folder that exists; the documents' folder otherwise
-  zoom,    ///< a zoom of the preview's list; "50 %" otherwise
-  bytes,   ///< written only
+  length,  ///< a number of twips, with any decimal sign; any other text raises type mismatch
+  inches,  ///< the same for a number of inches
+  truth,   ///< "True", "False" or a number; any other text counts as true
+  tick,    ///< "1" is ticked, "2" greyed; any other text is not ticked
+  folder,  ///< a folder that exists; for any other text, the documents' folder is used
+  zoom,    ///< a zoom of the preview's list; any other text counts as "50 %"
+  bytes,   ///< written, never read
 };
 
-/// `otherwise` of a setting whose default is found when it is read.
+/// `otherwise` of a setting whose default depends on more than its row.
 constexpr const char* computed = nullptr;
-/// Stands in `section` for the name of the form.
+/// In `section`, this is replaced by the name of a form.
 constexpr char formMark = '*';
-/// The name under which the preview and the properties keep one place together.
+/// The form's name under which the preview and the properties store their place, which they share.
 constexpr char sharedPlace[] = "GLOBAL";
 
 struct SettingRow {
@@ -89,7 +89,7 @@ struct SettingRow {
   Scope scope;
   const char* section;    ///< begins with a backslash
   const char* name;       ///< of the value
-  const char* otherwise;  ///< text that a missing value counts as
+  const char* otherwise;  ///< the text to use where the value is missing
   SettingKind kind;
 };
 
@@ -108,7 +108,7 @@ constexpr std::array<SettingRow, settingCount> settings{{
   {Setting::toolbarButtons,  Scope::literal, "\\frmMain\\Toolbar\\Standard", "Buttons", computed, SettingKind::bytes},
 
   {Setting::filesLocation,        Scope::product, "\\frmPrefs\\Items",         "Files Location", computed, SettingKind::folder},
-  // Another key than the one above, deliberately: a note to the other products.
+  // Deliberately another key than the one above: it tells the other products.
   {Setting::missingFilesLocation, Scope::family,  "\\GLOBAL\\frmPPrev\\Items", "Files Location", computed, SettingKind::text},
 
   {Setting::previewZoom,      Scope::family, "\\GLOBAL\\frmPPrev\\Items", "Zoom",       "50 %", SettingKind::zoom},
@@ -119,8 +119,8 @@ constexpr std::array<SettingRow, settingCount> settings{{
   {Setting::rightMargin,  Scope::family, "\\GLOBAL\\frmPPrev\\Items", "Page Margin 1", "1", SettingKind::inches},
   {Setting::topMargin,    Scope::family, "\\GLOBAL\\frmPPrev\\Items", "Page Margin 2", "1", SettingKind::inches},
   {Setting::bottomMargin, Scope::family, "\\GLOBAL\\frmPPrev\\Items", "Page Margin 3", "1", SettingKind::inches},
-  // The properties look for the left margin where nothing ever writes it: the section lacks
-  // letters, deliberately, so that for them it is always an inch wide.
+  // Deliberate: letters are missing in this section. No program writes it, so the properties always
+  // count with a left margin of one inch.
   {Setting::propertiesLeftMargin, Scope::family, "\\GLOBAL\\tems", "Page Margin 0", "1", SettingKind::inches},
 
   {Setting::header,           Scope::product, "\\frmPPrev\\Items\\Header", "Checked",   "1",      SettingKind::tick},
@@ -137,7 +137,7 @@ constexpr std::array<SettingRow, settingCount> settings{{
   {Setting::footerField1Text, Scope::product, "\\frmPPrev\\Items\\Footer", "txtField1", computed, SettingKind::text},
   {Setting::footerField2Text, Scope::product, "\\frmPPrev\\Items\\Footer", "txtField2", computed, SettingKind::text},
 
-  // The organization is looked for under the user, unlike the owner. Deliberate.
+  // Deliberate: the owner is read for the machine, the organization for the user.
   {Setting::registeredOwner,        Scope::machine, "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION", "RegisteredOwner",        "", SettingKind::text},
   {Setting::registeredOrganization, Scope::user,    "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION", "RegisteredOrganization", "", SettingKind::text},
 }};

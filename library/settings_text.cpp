@@ -17,10 +17,10 @@ std::string settingText(const SettingRead& read, std::string_view defaultText) {
   constexpr std::uint32_t text = 1, expandableText = 2;
   if (!read.succeeded || (read.type != text && read.type != expandableText))
     return std::string(defaultText);
-  // A value of no bytes is an empty text, not a missing one.
+  // A value of no bytes is an empty text; it is not missing.
   if (read.size == 0) return {};
-  // The last byte goes whatever it is, and NULs before it stay: the size is trusted, not the
-  // terminator, so that what was written comes back.
+  // The last byte counts as the terminator, whatever it is. NULs before it belong to the text, so
+  // that a text with NULs is read as it was written.
   return std::string(
       read.buffer.substr(0, std::min<std::size_t>(read.size, read.buffer.size()) - 1));
 }

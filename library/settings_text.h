@@ -1,4 +1,4 @@
-// Root keys of the settings store as texts, and what a value read from it means.
+// Root keys of the settings store as texts, and the text of a value that was read from it.
 #pragma once
 
 #include <cstdint>
@@ -7,20 +7,22 @@
 
 namespace library {
 
-/// Root keys as the text they travel as: HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE.
+/// HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE as texts.
 constexpr char currentUserRoot[] = "-2147483647";
 constexpr char localMachineRoot[] = "-2147483646";
 
-/// A root key travels as the decimal text of its signed 32-bit handle.
+/// The text of a root key: the decimal text of its signed 32-bit handle.
 [[nodiscard]] std::string rootText(std::int32_t root);
-/// The root key in `text`; raises type mismatch where it is no number, or overflow.
+/// The root key in `text`. Raises type mismatch where `text` is no number, overflow where it is too
+/// large.
 [[nodiscard]] std::int32_t rootOfText(std::string_view text);
 
-/// Bytes that a read of a text setting offers; with its terminator a longer text fails.
+/// Size of the buffer for a text setting. Reading fails for a text that is longer with its
+/// terminator.
 constexpr std::size_t settingBufferSize = 255;
 
-/// Answer of the store to one read: whether it succeeded, the value's type, and `size` bytes
-/// reported in `buffer`.
+/// Result of reading one value: whether that succeeded, the value's type, and its `size` bytes in
+/// `buffer`.
 struct SettingRead {
   bool succeeded = false;
   std::uint32_t type = 0;
@@ -28,8 +30,8 @@ struct SettingRead {
   std::uint32_t size = 0;
 };
 
-/// Text of a setting: all but the last reported byte (the terminator) of a text value, kept as
-/// they are, and empty for one of no bytes; `defaultText` for anything else.
+/// Text of a setting: all bytes but the last (the terminator) of a text value, empty where it has
+/// no bytes. `defaultText` where reading failed or the value is not a text.
 [[nodiscard]] std::string settingText(const SettingRead& read, std::string_view defaultText);
 
 /// Version as users see it: major and minor number with a point between ("5.3").

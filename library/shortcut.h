@@ -1,4 +1,4 @@
-// Keys that run commands: their text in a menu, and the controls that keep them for themselves.
+// Keys that run commands: their text in a menu, and the controls that use the same keys.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace library {
 
-/// A key by the number that Windows knows it by; that of a letter or digit is its character.
+/// Keys by their Windows virtual-key codes. The code of a letter or digit is its character.
 enum class Key : unsigned {
   none = 0,
   pageUp = 0x21,
@@ -21,7 +21,7 @@ enum class Key : unsigned {
 
 enum class Held : std::uint8_t { nothing, control, alt };
 
-/// A key that runs a command from anywhere in its window.
+/// A key that runs a command, whichever control of the window has the focus.
 struct Shortcut {
   Key key = Key::none;
   Held held = Held::nothing;
@@ -29,21 +29,21 @@ struct Shortcut {
   bool operator==(const Shortcut&) const = default;
 };
 
-/// What all windows have: the system answers it, a menu only shows it.
+/// Alt+F4. Windows itself handles it in every window; a menu only shows it.
 constexpr Shortcut closesWindow{Key::f4, Held::alt};
 
-/// Kinds of controls that may use a key themselves.
+/// Kinds of controls that use some keys themselves.
 enum KeyUser : std::uint8_t { nobody = 0, lineBox = 1, linesBox = 2, list = 4 };
 
 struct KeyDesign {
   Key key = Key::none;
   std::string_view text;    ///< in a menu
-  bool repeats = false;     ///< held down, it runs its command again and again
-  unsigned users = nobody;  ///< with the focus in one of them it runs no command
+  bool repeats = false;     ///< whether it runs its command again while it is held down
+  unsigned users = nobody;  ///< controls that use the key: it runs no command in them
 };
 
 constexpr KeyDesign keyDesigns[] = {
-    // A key held down would add, or remove, contact after contact.
+    // These two do not repeat: a key held down would add or remove one contact after the other.
     {Key::insert, "Ins", false, nobody},
     {Key::del, "Del", false, lineBox | linesBox},
     {Key::home, "Home", true, lineBox | linesBox | list},
@@ -53,7 +53,7 @@ constexpr KeyDesign keyDesigns[] = {
     {Key::f4, "F4"},
 };
 
-/// Design of a key; a letter's and a digit's have no text of their own.
+/// Design of a key; for a letter or digit, one without text.
 [[nodiscard]] constexpr KeyDesign designOf(Key key) {
   for (const KeyDesign& design : keyDesigns)
     if (design.key == key) return design;

@@ -1,4 +1,4 @@
-// The settings as the store has them at the moment; nothing is remembered between two calls.
+// Reading and writing settings by the rows of their table. Every call goes to the store.
 #pragma once
 
 #include <string>
@@ -16,13 +16,14 @@ namespace library {
                                    std::string_view form = {});
 /// The stored text, or the default of the table.
 [[nodiscard]] std::string readText(Setting setting);
-/// The stored number, or the default of the table. Raises type mismatch for a text that is none.
+/// The stored number, or the default of the table. Raises type mismatch for a text that is no
+/// number.
 [[nodiscard]] double readNumber(Setting setting);
-/// The stored truth value; true for a text that is none: a bar is shown then, as on the first
-/// start.
+/// The stored truth value. A text that is no truth value counts as true, so that a bar is shown, as
+/// on the first start.
 [[nodiscard]] bool readTruth(Setting setting);
 
-/// A value that cannot be written is not: settings are a convenience.
+/// Writes a value; an error is ignored, since the program works without stored settings.
 void writeText(Setting setting, const std::string& text, std::string_view form = {});
 void writeTruth(Setting setting, bool value);
 

@@ -51,7 +51,8 @@ double piece(std::string_view text, char separator, std::int16_t pieceNumber) {
   std::size_t start = 0;
   for (std::int16_t number = 1; number <= pieceNumber; ++number) {
     const std::size_t end = std::min(text.find(separator, start), text.size());
-    // Positions are 16-bit: a text too long for them is an error, never a wrong piece.
+    // Positions are counted in 16 bits. A text too long for that raises an error, instead of giving
+    // a wrong piece.
     (void)values::checkedCast<std::int16_t>(static_cast<std::int64_t>(end));
     if (number == pieceNumber) return values::leadingNumber(text.substr(start, end - start));
     if (end == text.size()) return 0;
@@ -75,7 +76,7 @@ std::int32_t wordCount(std::string_view text) {
 }
 
 std::string hexValue(std::int32_t color) {
-  // Blue is whatever lies above the low two bytes, by whole division and without a mask.
+  // Blue is the value divided by 65536, deliberately without a mask.
   const std::int32_t parts[] = {color & 0xFF, (color >> 8) & 0xFF, color / 65536};
   std::string hexadecimal = "#";
   std::string decimal;
@@ -88,7 +89,7 @@ std::string hexValue(std::int32_t color) {
       hexadecimal += static_cast<char>(*at >= 'a' ? *at - 'a' + 'A' : *at);
     decimal += values::integerText(part);
   }
-  // The decimal tail is deliberate: callers of the family read it from there.
+  // The decimal numbers at the end are deliberate: other products of the maker read them.
   return hexadecimal + decimal;
 }
 
@@ -108,7 +109,7 @@ std::string shortCaption(std::string_view caption) {
 }
 
 std::string colorDepthText(std::string_view depth) {
-  // 16 and 32 bits have no wording in the product family.
+  // There are deliberately no texts for 16 and 32 bits.
   static constexpr struct {
     std::string_view depth, text;
   } wordings[] = {{"1", "2 colors (1 bit)"},
@@ -123,12 +124,12 @@ std::string colorDepthText(std::string_view depth) {
 int currencyKey(std::string_view text, int character) {
   constexpr int backspace = 8;
   if ((character >= '0' && character <= '9') || character == backspace) return character;
-  // Always ".", whatever the user's decimal sign is.
+  // Deliberately ".", whatever the user's decimal sign is.
   return character == '.' && charCheck(text, '.') ? character : 0;
 }
 
 std::int32_t comboListHeight(std::string_view items, int itemHeight) {
-  // Two rows more: one for the edit field, one for the list's border.
+  // Two more rows: one for the edit field, one for the border of the list.
   return values::roundTo<std::int32_t>((values::toNumber(items, '.') + 2) * itemHeight);
 }
 
@@ -141,7 +142,7 @@ std::string htmlFormatCheck(std::string_view address) {
 }
 
 std::optional<std::string> webAddressOnLeave(std::string_view text) {
-  // A secure address is complete; a second scheme before it would spoil it without a word.
+  // "http://" before "https://" would spoil the address, and the user would not be told.
   if (values::lowerCaseAscii(text).starts_with("https://")) return std::nullopt;
   std::string checked = htmlFormatCheck(text);
   if (checked == text) return std::nullopt;

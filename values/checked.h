@@ -1,5 +1,4 @@
-// Checked whole-number arithmetic: the products and sums that the product family
-// computes in 16 or 32 bits raise an overflow instead of wrapping.
+// Whole-number arithmetic in 16 or 32 bits that raises an overflow instead of wrapping around.
 #pragma once
 
 #include <cmath>
@@ -33,7 +32,7 @@ requires(sizeof(T) <= 4) [[nodiscard]] constexpr T checkedMultiply(T a, T b) {
   return checkedCast<T>(std::int64_t{a} * std::int64_t{b});
 }
 
-/// `value` rounded to the nearest whole number, a half to the even one.
+/// `value` rounded to the nearest whole number; a half is rounded to the even one.
 [[nodiscard]] inline double roundHalfEven(double value) {
   const double below = std::floor(value);
   const double fraction = value - below;
@@ -42,8 +41,8 @@ requires(sizeof(T) <= 4) [[nodiscard]] constexpr T checkedMultiply(T a, T b) {
   return std::fmod(below, 2.0) == 0.0 ? below : below + 1.0;
 }
 
-/// `value` rounded half to even into the whole-number type `To`; raises overflow, also for
-/// a value that is not a number.
+/// `value` rounded half to even, as a `To`. Raises overflow where it does not fit or is not a
+/// number.
 template <std::signed_integral To>
 [[nodiscard]] To roundTo(double value) {
   const double rounded = roundHalfEven(value);

@@ -5,7 +5,7 @@
 namespace values {
 namespace {
 
-// Spaces of every width, those at which no line breaks among them.
+// Spaces of every width, non-breaking ones included.
 constexpr std::u16string_view spaces =
     u" \u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A\u202F\u205F"
     u"\u3000";

@@ -30,8 +30,8 @@ std::size_t countDigits(std::string_view text, std::size_t from) {
   return at - from;
 }
 
-/// Length of the number at the start of `text`; 0 where there is none. An "e" without digits
-/// after it is no part of the number.
+/// Length of the number at the start of `text`; 0 where there is none. An "e" belongs to the number
+/// only if digits follow.
 std::size_t numberLength(std::string_view text, char decimalSign) {
   std::size_t at = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
   std::size_t digits = countDigits(text, at);
@@ -50,8 +50,8 @@ std::size_t numberLength(std::string_view text, char decimalSign) {
   return at;
 }
 
-/// Value of a text whose grammar was checked; infinite where it is out of range. The program
-/// never leaves the C locale, so the C library's point is always ".".
+/// Value of a text that `numberLength` accepted; infinite where it is out of range. The program
+/// stays in the C locale, so the decimal sign of the C library is always ".".
 double valueOf(std::string_view number, char decimalSign) {
   std::string copy(number);
   std::replace(copy.begin(), copy.end(), decimalSign, '.');
@@ -76,13 +76,13 @@ DecimalDigits decimalDigits(double value, int significant) {
   const char* at = buffer;
   for (; *at != 'e'; ++at)
     if (isDigit(*at)) result.digits += *at;
-  // Read, not copied: C libraries disagree on how many digits an exponent has.
+  // Read as a number, because C libraries write exponents with different numbers of digits.
   constexpr int decimal = 10;
   result.point = static_cast<int>(std::strtol(at + 1, nullptr, decimal)) + 1;
   return result;
 }
 
-/// Rounds half away from zero so that `keep` digits are left, fewer than there are.
+/// Rounds to the first `keep` digits, half away from zero; `number` must have more.
 void roundDigits(DecimalDigits& number, int keep) {
   std::string& digits = number.digits;
   const bool up = keep >= 0 && digits[static_cast<std::size_t>(keep)] >= '5';
@@ -98,7 +98,7 @@ void roundDigits(DecimalDigits& number, int keep) {
   }
 }
 
-/// Text of `number` with its digits split at its point, zeros filled in on either side.
+/// The digits before and after the decimal sign, filled up with zeros.
 struct SplitDigits {
   std::string whole, fraction;
 };

@@ -1,6 +1,6 @@
-// Numbers and truth values as text: what settings, controls and labels hold. Every room
-// converts here, so that "." and the user's own decimal sign read right everywhere, and nothing
-// depends on the C library's locale.
+// Numbers and truth values as text, as settings, controls and labels hold them. All conversions are
+// here, so that "." and the user's own decimal sign are understood everywhere, whatever the locale
+// of the C library.
 #pragma once
 
 #include <cstdint>
@@ -12,17 +12,16 @@ namespace values {
 
 constexpr char noGrouping = '\0';
 
-/// The number that is the whole of `text`: blanks around it, a leading sign, "." or
-/// `decimalSign` once, and an exponent are allowed; grouping, hexadecimal, "inf" and "nan"
-/// are not. Nothing for any other text, the empty one and numbers out of range included.
+/// The number that `text` consists of. Allowed are blanks around it, a leading sign, one decimal
+/// sign ("." or `decimalSign`) and an exponent. No value for any other text: an empty one, one with
+/// group signs, hexadecimal digits, "inf", "nan", or a number out of range.
 [[nodiscard]] std::optional<double> parseNumber(std::string_view text, char decimalSign);
 
 /// As `parseNumber`; raises type mismatch where the text is no number.
 [[nodiscard]] double toNumber(std::string_view text, char decimalSign);
 
-/// As the two above for a text from the settings store, which keeps the sign that the user had
-/// when it was written: besides "." and `decimalSign`, "," counts as the decimal sign. Grouping is
-/// never stored.
+/// The same for stored settings. They hold the decimal sign that the user had when they were
+/// written, so "," is allowed too, besides "." and `decimalSign`. Group signs are never stored.
 [[nodiscard]] std::optional<double> parseStoredNumber(std::string_view text, char decimalSign);
 [[nodiscard]] double storedNumber(std::string_view text, char decimalSign);
 
@@ -46,23 +45,23 @@ constexpr char noGrouping = '\0';
 
 /// `value` with exactly `decimals` digits after the decimal sign and at least
 /// `minimumIntegerDigits` before it (0 leaves the zero out: ".98"), grouped by thousands
-/// unless `groupSeparator` is `noGrouping`. The decimal digits, 15 significant ones, are
-/// rounded half away from zero: 0.25 gives "0.3" to one decimal. A value that rounds to
-/// nothing has no "-". Raises overflow for a value that is not finite.
+/// unless `groupSeparator` is `noGrouping`. The decimal text of 15 significant digits is rounded
+/// half away from zero: 0.25 gives "0.3" to one decimal. A value that rounds to zero has no "-".
+/// Raises overflow for a value that is not finite.
 [[nodiscard]] std::string formatDecimals(double value, int minimumIntegerDigits, int decimals,
                                          char decimalSign, char groupSeparator = noGrouping);
 
-/// Truth value of a stored text: "True" or "False" in any case, or a number, of which any but zero
-/// is true; raises type mismatch for any other text.
+/// Truth value of a stored text: "True" or "False" in any case, or a number, where all but zero are
+/// true. Raises type mismatch for any other text.
 [[nodiscard]] bool booleanOfText(std::string_view text);
 
 /// "True" or "False".
 [[nodiscard]] std::string textOfBoolean(bool value);
 
-/// Whether `text` is the word "true" in any case; every other text is false and no error.
+/// Whether `text` is the word "true" in any case. No other text is an error.
 [[nodiscard]] bool flagIsTrue(std::string_view text);
 
-/// `text` with the letters A to Z in lower case; other bytes stay, whatever the locale.
+/// `text` with the letters A to Z in lower case. Other bytes stay as they are.
 [[nodiscard]] std::string lowerCaseAscii(std::string_view text);
 
 }  // namespace values

@@ -1,5 +1,5 @@
-// The one type of run-time error. It is thrown where a step cannot be done and
-// caught in event handlers, nowhere else but where errors are ignored on purpose.
+// The one type of run-time error. It is thrown where a step cannot be done, and caught in event
+// handlers and where errors are ignored on purpose.
 #pragma once
 
 #include <exception>
@@ -9,7 +9,7 @@
 
 namespace values {
 
-/// Numbers of run-time errors, as users of the product family know them from its reports.
+/// Numbers of run-time errors. Users of the maker's other products know them too.
 enum class ErrorNumber : int {
   invalidCall = 5,
   overflow = 6,
@@ -47,15 +47,14 @@ class RuntimeError : public std::runtime_error {
   throw RuntimeError(ErrorNumber::typeMismatch, "Type mismatch");
 }
 
-/// `undone` is a sentence that names what there was too little memory for; empty where nobody
-/// knows.
+/// `undone` is a sentence for the user that says what could not be done; may be empty.
 [[noreturn]] inline void raiseOutOfMemory(const std::string& undone = {}) {
   const std::string text = "Out of memory";
   throw RuntimeError(ErrorNumber::outOfMemory, undone.empty() ? text : text + "\r\n\r\n" + undone);
 }
 
-/// Whether an error says that there is too little memory, in this program's words or in those of
-/// the language's library, which also calls a text of more than half of all memory too long.
+/// Whether an error means that there is too little memory: a `RuntimeError`, `std::bad_alloc`, or
+/// the `std::length_error` that the C++ library raises for a text of more than half of all memory.
 [[nodiscard]] inline bool isOutOfMemory(const std::exception& error) {
   if (const auto* known = dynamic_cast<const RuntimeError*>(&error))
     return known->number() == ErrorNumber::outOfMemory;
@@ -63,13 +62,13 @@ class RuntimeError : public std::runtime_error {
          dynamic_cast<const std::length_error*>(&error) != nullptr;
 }
 
-/// Runs a step that the rest can do without: whatever error ends it, the caller goes on.
+/// Runs a step that may fail: the caller goes on after any error.
 template <typename Step>
 void ignoringErrors(Step step) {
   try {
     step();
   } catch (const std::exception&) {
-    // What the step would have shown or done stays as it was.
+    // Ignored on purpose.
   }
 }
 

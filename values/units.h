@@ -10,10 +10,11 @@ namespace values {
 constexpr int twipsPerInch = 1440;
 constexpr int designDpi = 96;  ///< resolution at which one pixel is 15 twips
 
-/// A length in twips; fractions occur where a device's pixel is no whole number of them.
+/// A length in twips. It may have a fraction, since a pixel of a device need not be a whole number
+/// of twips.
 struct Twips {
   double value = 0;
-  // The check mistakes the compiler's own 0 for a pointer.
+  // clang-tidy takes the 0 that the compiler generates here for a pointer.
   // NOLINTNEXTLINE(modernize-use-nullptr)
   friend constexpr auto operator<=>(const Twips&, const Twips&) = default;
   friend constexpr Twips operator+(Twips a, Twips b) { return {a.value + b.value}; }

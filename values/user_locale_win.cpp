@@ -7,8 +7,8 @@
 namespace values {
 namespace {
 
-// The character as one byte of the ANSI code page; NUL where it has none. What merely looks alike
-// counts for nothing.
+// The character as one byte of the ANSI code page; NUL where the code page lacks it. A byte for a
+// character that only looks similar does not count.
 char inCodePage(wchar_t character) {
   if (character < 0x80) return static_cast<char>(character);
   char bytes[8] = {};
@@ -18,8 +18,8 @@ char inCodePage(wchar_t character) {
   return length == 1 && !replaced ? bytes[0] : '\0';
 }
 
-// The user's sign, or the first character of one that is longer, read as wide text: the ANSI
-// function answers "?" for what the code page lacks.
+// The user's sign; the first character of it if it is longer. Read as wide text, because the ANSI
+// function gives "?" for a sign that the code page lacks.
 char userSign(LCTYPE information, char otherwise) {
   wchar_t text[8] = {};
   if (GetLocaleInfoW(LOCALE_USER_DEFAULT, information, text, 8) == 0) return otherwise;

@@ -1,12 +1,12 @@
-// How the user of this Windows writes numbers, and which bytes of the ANSI code page begin a
-// two-byte character. Asked anew each time: the user may change it while the program runs.
+// How the user writes numbers, and which bytes of the ANSI code page begin a two-byte character.
+// Windows is asked at each call, since the user may change these settings while the program runs.
 #pragma once
 
 namespace values {
 
-/// Sign between whole and decimal digits, and between groups of thousands. A space of any width
-/// is a blank. Where the code page lacks the sign, the decimal one is "." and the group one NUL,
-/// as where the user has none.
+/// The sign before the decimals, and the one between groups of thousands. For a space of any width,
+/// a blank. Where the user has no sign or the code page lacks it: "." before the decimals, NUL
+/// between groups.
 [[nodiscard]] char userDecimalSign();
 [[nodiscard]] char userGroupSeparator();
 

@@ -5,7 +5,7 @@
 
 namespace values {
 
-/// Wine is known by an export of its own.
+/// Wine's ntdll has a function of its own, by which programs can tell.
 [[nodiscard]] inline bool onWine() {
   static const bool wine =
       GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;

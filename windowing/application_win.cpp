@@ -7,8 +7,8 @@
 namespace windowing {
 namespace {
 
-// Reads version resources. Its library is none of those that Windows takes from its own folder
-// unasked.
+// Reads version resources. Called through pointers, because an imported version.dll could come
+// from the program's own folder.
 struct VersionReader {
   SystemLibrary library{"version.dll"};
   decltype(&GetFileVersionInfoSizeA) size = library.function("GetFileVersionInfoSizeA");

@@ -27,8 +27,8 @@ struct Version {
 
 [[nodiscard]] HINSTANCE programInstance();
 
-/// What follows the program's name on the command line, as written: quotes are not
-/// stripped, blanks around it are.
+/// What follows the program's name on the command line. Blanks around it are stripped, quotes are
+/// kept.
 [[nodiscard]] std::string commandLineTail();
 
 }  // namespace windowing

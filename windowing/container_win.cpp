@@ -10,8 +10,8 @@
 namespace windowing {
 namespace {
 
-// The colour in the middle of a tab strip's body. A theme may draw it as a picture, so it is
-// drawn once and looked at.
+// The colour in the middle of a tab strip's body. A theme may draw the body as a picture, so the
+// body is drawn once and the colour read from a pixel.
 COLORREF tabPageColour(HWND window) {
   const COLORREF face = GetSysColor(COLOR_BTNFACE);
   if (!themes().isAppThemed()) return face;
@@ -33,7 +33,7 @@ COLORREF tabPageColour(HWND window) {
   return colour == CLR_INVALID ? face : colour;
 }
 
-// The brush of tab pages; made anew when the theme or the system's colours change.
+// The brush of tab pages. It is made again when the theme or the system's colours change.
 values::BrushHandle& tabPageBrush() {
   static values::BrushHandle brush;
   return brush;
@@ -56,8 +56,8 @@ HBRUSH brushOf(HWND window) {
   return GetSysColorBrush(COLOR_BTNFACE);
 }
 
-// Labels, boxes to tick and group boxes lie on their container's own surface; a text box that
-// takes no input is grey whatever it lies on.
+// Labels, check boxes and group boxes take the colour of their container. A disabled or read-only
+// text box is grey in every container.
 LRESULT colourStatic(HWND window, HDC dc, HWND control) {
   const bool box = (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0;
   if (box) {

@@ -13,19 +13,20 @@ struct ControlDesign;
 /// Makes a control of `form` in `container` at `place` (pixels).
 using Maker = HWND(Form& form, const ControlDesign& design, HWND container, const RECT& place);
 
-/// How high a control is: as its design says, or as the form's font needs, in the middle of the
-/// place that its design gives it. Texts of the last three stand on one line with each other.
+/// What decides how high a control is: its design, or the form's font. In the latter case the
+/// control is centred in the height that its design gives it, so that a label, a box and a list
+/// of one design place have their texts on one line.
 enum class Height { design, text, box, list };
 
-/// A window class with styles, or who makes the control.
+/// A window class with styles, or a function that makes the control.
 struct ControlKind {
   const char* windowClass = nullptr;
   DWORD style = 0;  ///< besides WS_CHILD
   DWORD exStyle = 0;
-  /// Null where the class and the styles say it all.
+  /// Null where the control is simply a window of the class.
   Maker* make = nullptr;
   Height height = Height::design;
-  /// Its form makes what it holds, before it is first shown.
+  /// The form makes the page's controls before the page is first shown.
   bool isPage = false;
 };
 
@@ -38,14 +39,14 @@ Maker makeContainer;
 
 /// Holds other controls; paints the button face.
 inline constexpr ControlKind container{.make = makeContainer};
-/// A container out of sight at first: its form makes what it holds.
+/// A container that is hidden at first, and whose controls the form makes later.
 inline constexpr ControlKind page{.make = makeContainer, .isPage = true};
 /// Group box around its neighbours.
 inline constexpr ControlKind group{"BUTTON", shown | BS_GROUPBOX};
 inline constexpr ControlKind label{"STATIC", shown | SS_LEFT};
 /// A label that shows "&" as it is (texts of the user).
 inline constexpr ControlKind plainLabel{"STATIC", shown | SS_LEFT | SS_NOPREFIX};
-/// A label beside a box, in the same place from top to bottom.
+/// A label beside a box: its design gives it the same top and height as the box.
 inline constexpr ControlKind sideLabel{
     .windowClass = "STATIC", .style = shown | SS_LEFT, .height = Height::text};
 inline constexpr ControlKind textBox{.windowClass = "EDIT",

@@ -19,12 +19,11 @@ HWND createChild(const ChildDesign& design, HWND container, int id, const RECT& 
 }
 
 std::string Control::text() const {
-  // WM_GETTEXT also answers for controls of their own making, which GetWindowText may not ask.
   const auto length = static_cast<std::size_t>(send(WM_GETTEXTLENGTH));
   std::string text(length + 1, '\0');
   const auto copied = static_cast<std::size_t>(
       send(WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data())));
-  // It has a text and hands none out: that is no empty one.
+  // A control with a text that copies nothing ran out of memory; its text is not empty.
   if (copied == 0 && length > 0) values::raiseOutOfMemory();
   text.resize(copied <= length ? copied : length);
   return text;
@@ -97,7 +96,7 @@ bool ComboBox::insert(int index, const std::string& text) const {
 void ComboBox::replace(int index, const std::string& text) const {
   const int chosen = selected();
   remove(index);
-  // An entry keeps its place though its text finds no room.
+  // Without memory for the text, an empty entry keeps the places of those behind it.
   if (!insert(index, text)) insert(index, "");
   if (chosen >= 0) select(chosen);
 }

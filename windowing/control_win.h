@@ -10,7 +10,7 @@
 
 namespace windowing {
 
-/// What a child window is made of.
+/// Class, text and styles of a child window.
 struct ChildDesign {
   const char* windowClass;
   DWORD style;  ///< besides WS_CHILD
@@ -18,7 +18,7 @@ struct ChildDesign {
   const char* caption = "";
 };
 
-/// Makes a child of `container` at `place` (pixels). Raises what Windows refuses it for.
+/// Makes a child of `container` at `place` (pixels). Raises the system's error where that fails.
 [[nodiscard]] HWND createChild(const ChildDesign& design, HWND container, int id,
                                const RECT& place);
 
@@ -30,14 +30,14 @@ class Control {
   [[nodiscard]] HWND handle() const { return handle_; }
   [[nodiscard]] int id() const { return GetDlgCtrlID(handle_); }
 
-  /// Raises out of memory where the control has a text and cannot hand it out.
+  /// Raises out of memory where the control cannot copy its text.
   [[nodiscard]] std::string text() const;
-  /// False where the control says that it could not take the text; Wine's never says so.
+  /// False where the control reports that it could not take the text. On Wine none ever does.
   bool setText(const std::string& text) const;
 
   [[nodiscard]] bool enabled() const { return IsWindowEnabled(handle_) != FALSE; }
   void setEnabled(bool enabled) const;
-  /// Whether the control itself is shown, whatever its containers are.
+  /// Whether the control itself is shown, even if a container around it is hidden.
   [[nodiscard]] bool visible() const;
   void setVisible(bool visible) const;
 
@@ -70,18 +70,18 @@ class TextBox : public Control {
   using Control::Control;
   void selectAll() const { send(EM_SETSEL, 0, -1); }
   void setReadOnly(bool readOnly) const { send(EM_SETREADONLY, readOnly ? TRUE : FALSE); }
-  /// Longest text that can be typed, in characters; 0 is as long as the system takes.
+  /// Longest text that can be typed, in characters; 0 is the system's own limit.
   void setLimit(int characters) const { send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
   [[nodiscard]] int lineCount() const { return static_cast<int>(send(EM_GETLINECOUNT)); }
 };
 
-/// A drop-down list. Selecting by program raises no notice.
+/// A drop-down list. The form is told of an entry that the user selects, not of `select`.
 class ComboBox : public Control {
  public:
   using Control::Control;
   void clear() const { send(CB_RESETCONTENT); }
   void add(const std::string& entry) const;
-  /// False where there is no room for the text.
+  /// False where there is no memory for the text.
   bool insert(int index, const std::string& entry) const;
   void remove(int index) const { send(CB_DELETESTRING, static_cast<WPARAM>(index)); }
   /// Replaces the text of an entry; the selection stays.

@@ -34,10 +34,10 @@ bool isPushButton(HWND window) {
                                        (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
-// Twips, of a list that is closed.
+// Height in a design of a drop-down list while it is closed, twips.
 constexpr int closedListHeight = 315;
 
-// The control leaves a pixel above its text; as much is left below.
+// A text box leaves one pixel between its edge and its text; below the text it gets one too.
 int boxHeight() {
   return formLineHeight() + 2 * (GetSystemMetrics(SM_CYEDGE) + 1);
 }
@@ -55,11 +55,11 @@ void fitHeight(const Control& control, const ControlDesign& design) {
     case Height::box:
       height = boxHeight();
       break;
-    case Height::list:  // has done so itself
+    case Height::list:  // Windows gave the list its height
       break;
   }
   const int top = screenPixels(design.top);
-  // The design of a list may give the height that it has when it is open.
+  // The height in a list's design may be that of the open list.
   const bool list = design.kind.height == Height::list;
   const int room = screenPixels(design.top + (list ? closedListHeight : design.height)) - top;
   place.top = top + (room - height) / 2;
@@ -67,14 +67,14 @@ void fitHeight(const Control& control, const ControlDesign& design) {
   control.placePixels(place);
 }
 
-// Windows tells top-level windows only.
+// Windows sends the message to top-level windows only, so they pass it on.
 BOOL CALLBACK passColourChange(HWND control, LPARAM) {
   SendMessageA(control, WM_SYSCOLORCHANGE, 0, 0);
   return TRUE;
 }
 
-// Dialog keys that the system's dialog handling does not answer as users expect outside its
-// own dialogs. True when the key was used.
+// Keys that IsDialogMessage does not handle well in windows that are no dialogs of the system. True
+// when the key was used.
 bool handleDialogKey(Form& form, const MSG& message) {
   if (message.wParam == VK_TAB && GetKeyState(VK_CONTROL) >= 0) {
     form.focusNext(GetKeyState(VK_SHIFT) < 0);
@@ -117,7 +117,8 @@ void Form::load() {
     createControls(0);
     onLoad();
   } catch (...) {
-    // Half a form is none: who shows it next is told the reason, too.
+    // A form that was made only in part is destroyed. The next `load` tries again, and raises the
+    // error again if it is still there.
     DestroyWindow(handle());
     throw;
   }
@@ -185,7 +186,7 @@ void Form::runModalLoop() {
   while (loaded() && modal_) {
     const BOOL got = GetMessageW(&message, nullptr, 0, 0);
     if (got == 0) {
-      // The program is ending: let the outer loop see it too.
+      // The program is ending: the loop around this one has to get the message too.
       PostQuitMessage(static_cast<int>(message.wParam));
       break;
     }
@@ -200,7 +201,7 @@ bool Form::unload() {
   if (!loaded()) return true;
   if (!onQueryUnload()) return false;
   onUnload();
-  // The owner takes input again before this window goes, or another program would come to
+  // Enabled before this window goes: with no enabled window left, another program would come to
   // the front.
   disabled_.reset();
   const bool wasModal = modal_;
@@ -250,8 +251,8 @@ double Form::innerHeight() const {
   return screenTwips(area.bottom);
 }
 
-// The window order cannot serve here: pages lie above their tab strip, but come after it when
-// the user tabs.
+// Goes by the design's order, not by that of the windows: a page lies above its tab strip, but
+// comes after it in the tab order.
 void Form::focusNext(bool backwards) {
   std::vector<HWND> stops;
   std::size_t at = 0;
@@ -259,7 +260,7 @@ void Form::focusNext(bool backwards) {
   for (const ControlDesign& design : design_.controls) {
     const HWND window = control(design.id).handle();
     if (window == nullptr) continue;
-    // What lies in a container comes after it, and has the last word.
+    // For a control in a container both rows match. The control's row comes later and counts.
     if (window == focus || IsChild(window, focus)) at = stops.size();
     const bool takes = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0 &&
                        IsWindowVisible(window) && IsWindowEnabled(window);
@@ -269,14 +270,14 @@ void Form::focusNext(bool backwards) {
   const std::size_t next = focus == nullptr ? 0
                            : backwards      ? (at + stops.size() - 1) % stops.size()
                                             : (at + 1) % stops.size();
-  // Focus marks and access keys show from the first use of the keyboard on.
+  // From the first use of the keyboard on, focus marks and access keys are shown.
   SendMessageA(handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
   focusOn(stops[next]);
 }
 
 void Form::focusOn(HWND window) {
   SetFocus(window);
-  // A box that the keyboard reaches is ready to be typed over, as in every dialog.
+  // As in every dialog, typing replaces the text of a box that was reached by the keyboard.
   if (isClass(window, "Edit") && !isMultilineBox(window)) SendMessageA(window, EM_SETSEL, 0, -1);
 }
 
@@ -285,7 +286,7 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
   const int notice = HIWORD(wParam);
   const auto sender = reinterpret_cast<HWND>(lParam);
   const bool tool = isClass(sender, TOOLBARCLASSNAMEA);
-  // Pictures and labels report clicks as buttons do, with the same number.
+  // Pictures and labels report clicks with the same number as buttons.
   static_assert(STN_CLICKED == BN_CLICKED);
   const bool button = isClass(sender, "Button") || isClass(sender, "Static");
   const bool list = isClass(sender, "ComboBox");
@@ -297,8 +298,8 @@ LRESULT Form::dispatchCommand(WPARAM wParam, LPARAM lParam) {
     }
     return 0;
   }
-  // All else is a user's doing, of whom a form below a box or a dialog takes nothing: another
-  // program sent it, or it was under way when the box came up.
+  // Everything below is the user's doing. A form that a box or dialog has disabled takes none of
+  // it: another program sent it, or it was on its way when the box came up.
   if (!IsWindowEnabled(handle())) return 0;
   if (tool) {
     onToolButton(id);
@@ -347,7 +348,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       const auto sender = reinterpret_cast<HWND>(lParam);
       const HBRUSH brush = onColour(reinterpret_cast<HDC>(wParam), GetDlgCtrlID(sender));
       if (brush != nullptr) return reinterpret_cast<LRESULT>(brush);
-      // A container answers for what lies on it.
+      // For a control in a container, the container gives the colour.
       if (GetParent(sender) != handle()) return 0;
       break;
     }
@@ -364,7 +365,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       restoreFocus();
       return 0;
     case WM_CLOSE:
-      // Below a box or a dialog the form stays: what opened it goes on when it is answered.
+      // A form that a box or dialog has disabled stays open: the code that opened the dialog goes
+      // on using the form when the dialog is closed.
       if (IsWindowEnabled(handle())) unload();
       return 0;
     case WM_SYSCOLORCHANGE:
@@ -381,7 +383,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       RemovePropA(handle(), formProperty);
       controls_.clear();
       lastFocus_ = nullptr;
-      // A message that another program sends does not bring a loop round; this one does.
+      // A sent message does not make GetMessage return. This posted one does, and the loop sees
+      // that the form is gone.
       PostMessageA(nullptr, WM_NULL, 0, 0);
       break;
     default:
@@ -397,7 +400,7 @@ Form* formOf(HWND window) {
 
 void dispatchMessage(MSG& message) {
   Form* form = formOf(message.hwnd);
-  // Keys that another program posts to a form below a dialog run no commands of it.
+  // Keys that another program posts to a form that a dialog has disabled run no commands.
   if (form != nullptr && !IsWindowEnabled(form->handle())) form = nullptr;
   if (form != nullptr && (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)) {
     try {
@@ -407,7 +410,7 @@ void dispatchMessage(MSG& message) {
       reportError(error);
       return;
     }
-    // In a box of several lines Enter belongs to the text.
+    // In a box of several lines Enter begins a new line.
     if (message.wParam == VK_RETURN && isMultilineBox(message.hwnd)) form = nullptr;
   }
   if (form != nullptr && form->loaded() && IsDialogMessageW(form->handle(), &message)) return;

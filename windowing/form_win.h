@@ -17,8 +17,8 @@
 
 namespace windowing {
 
-/// One control of a form. The order of the rows is the tab order; a row's container stands
-/// before it. Places are twips at design resolution, from the container's top-left corner.
+/// One control of a form. The order of the rows is the tab order; the row of a container stands
+/// before the rows of its controls. Places are twips from the container's top-left corner.
 struct ControlDesign {
   const char* name;  ///< the control's name; controls of an array share one
   int id;
@@ -50,8 +50,8 @@ class Form : public Window {
   [[nodiscard]] const char* name() const { return design_.name; }
   [[nodiscard]] bool loaded() const { return handle() != nullptr; }
 
-  /// Makes the window, hidden, and runs the form's load handler; nothing when it is loaded.
-  /// Raises what either raises; the form is not loaded then.
+  /// Makes the window, hidden, and runs the form's load handler. Does nothing when the form is
+  /// loaded. Passes on any error; the form is not loaded then.
   void load();
   /// Loads when needed and shows the form beside the others.
   void show();
@@ -62,9 +62,9 @@ class Form : public Window {
   /// False when the form refused.
   bool unload();
 
-  /// A control by its identifier; a null control when there is none, or none yet.
+  /// A control by its identifier; a null control when the form has none or has not made it yet.
   [[nodiscard]] Control control(int id) const;
-  /// The same as what it is: `control<ComboBox>(id)`.
+  /// The same as a control of its own type: `control<ComboBox>(id)`.
   template <typename Kind>
   [[nodiscard]] Kind control(int id) const {
     return Kind(control(id).handle());
@@ -83,7 +83,7 @@ class Form : public Window {
   [[nodiscard]] double innerWidth() const;
   [[nodiscard]] double innerHeight() const;
 
-  /// A key before any control sees it; true when the form took it.
+  /// Called for a key before any control sees it. True when the form used the key.
   virtual bool handleKey(const MSG&) { return false; }
   /// Moves the focus to the next or previous control that takes it, in the design's order.
   void focusNext(bool backwards);
@@ -99,7 +99,7 @@ class Form : public Window {
   virtual void onUnload() {}
   /// A menu item or shortcut.
   virtual void onCommand(int id) { (void)id; }
-  /// A button of a toolbar; what it does is mostly what its menu item does.
+  /// A button of a toolbar. Most do what their menu item does.
   virtual void onToolButton(int id) { onCommand(id); }
   virtual void onClick(int id) { (void)id; }   ///< button, check box, option button
   virtual void onChange(int id) { (void)id; }  ///< text of a box
@@ -110,8 +110,8 @@ class Form : public Window {
     (void)notice;
   }
   virtual void onTab(int id) { (void)id; }  ///< tab of a strip, by the user
-  /// Brush and colours (set in `dc`) of a control that has others than the system's; null for
-  /// the system's.
+  /// For a control with colours of its own: sets them in `dc` and returns the brush. Null for a
+  /// control with the system's colours.
   virtual HBRUSH onColour(HDC dc, int id) {
     (void)dc;
     (void)id;
@@ -126,8 +126,8 @@ class Form : public Window {
   /// Enter and Esc, where no control takes them.
   virtual void onEnter() {}
   virtual void onEscape() {}
-  /// Makes those controls of a page that are not made yet, before it is shown. Raises what keeps
-  /// one from being made; those before it are there then.
+  /// Makes the controls of a page that are not made yet; called before the page is shown. Raises
+  /// when one cannot be made; the controls before it stay.
   void createControls(int page);
   virtual HMENU createMenu() { return nullptr; }
 
@@ -151,15 +151,15 @@ class Form : public Window {
   bool appearMaximised_ = false;
 };
 
-/// Whether a window is of the class `wanted`, whatever the case of its letters.
+/// Whether a window is of the class `wanted`; upper and lower case count as the same.
 [[nodiscard]] bool isClass(HWND window, const char* wanted);
 
 /// The form whose window `window` is or lies in; null when it is none of the program's.
 [[nodiscard]] Form* formOf(HWND window);
 
-/// Handles one message of the thread: keys of the active form first, then the dialog keys
-/// (Tab, access keys, Enter, Esc), then the window itself. The message has been taken by
-/// `GetMessageW`: taken as ANSI, a character of two bytes falls apart on its way to a box.
+/// Handles one message of the thread: first the form's `handleKey`, then the dialog keys (Tab,
+/// access keys, Enter, Esc), then the window itself. The message must come from `GetMessageW`:
+/// `GetMessageA` would give a box the two bytes of one character as two characters.
 void dispatchMessage(MSG& message);
 
 /// Runs the program as long as its main form is loaded; returns the exit code.

@@ -15,7 +15,8 @@ namespace windowing {
   return values::integerText(reinterpret_cast<LONG_PTR>(window));
 }
 
-/// The handle in `text`; raises type mismatch where it is no number, or overflow.
+/// The handle in `text`. Raises type mismatch where `text` is no number, overflow where it is too
+/// large.
 [[nodiscard]] inline HWND handleOfText(std::string_view text) {
   return reinterpret_cast<HWND>(static_cast<LONG_PTR>(values::toInteger32(text, '.')));
 }

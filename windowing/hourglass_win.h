@@ -4,7 +4,7 @@
 
 namespace windowing {
 
-/// The pointer is an hourglass for the length of a scope, errors included.
+/// Shows an hourglass as the pointer until the end of the scope, also when an error ends it.
 class Hourglass {
  public:
   Hourglass() : before_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {}

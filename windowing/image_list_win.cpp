@@ -20,7 +20,8 @@ struct Pixel {
   std::uint8_t alpha;
 };
 
-// A disabled picture: its greys, paler, so that it recedes on any background.
+// A pixel of a disabled picture: its grey, mixed with a middle grey so that it looks pale on a
+// light and on a dark background.
 Pixel faded(Pixel pixel) {
   const int grey = (pixel.red * 30 + pixel.green * 59 + pixel.blue * 11) / 100;
   const auto mixed = static_cast<std::uint8_t>((grey + 2 * 160) / 3);

@@ -28,8 +28,8 @@ struct ImageStrip {
 
 class ImageList {
  public:
-  /// Takes the largest strip whose pictures are no larger than 16 pixels at 96 dots per inch
-  /// are on this screen. An empty list where the resource is missing.
+  /// Takes the largest strip whose pictures are not larger than 16 pixels at 96 dots per inch,
+  /// scaled to this screen. The list is empty where the resource is missing.
   explicit ImageList(std::span<const ImageStrip> strips);
 
   [[nodiscard]] HIMAGELIST enabled() const { return enabled_.get(); }

@@ -41,7 +41,7 @@ std::optional<Picture> unpackPicture(std::span<const std::byte> bitmap, Alpha al
   const std::size_t start = headerSize + std::size_t{colours} * 4;
   if (bitmap.size() < start + rowSize * height) return std::nullopt;
 
-  // A pixel that names no colour of the palette stays clear.
+  // A pixel with a number beyond the palette is transparent.
   std::array<std::uint32_t, 256> palette{};
   for (std::uint32_t i = 0; i < colours; ++i) {
     const std::uint32_t colour = number(bitmap, headerSize + std::size_t{i} * 4, 4);

@@ -1,6 +1,6 @@
-// Pictures whose palette carries an alpha for every colour. Windows reads such a
-// bitmap as an opaque one, so the program unpacks it itself: the pictures then take a
-// quarter of the room in the executable that 32 bits for every pixel would.
+// Pictures with an alpha for every colour of their palette. They take a quarter of the room that
+// pictures of 32 bits a pixel would take in the executable. Windows ignores the alpha of a palette,
+// so the program unpacks them itself.
 #pragma once
 
 #include <cstddef>
@@ -11,8 +11,8 @@
 
 namespace windowing {
 
-/// How the colours of a picture relate to its alpha: as they are (image lists), or
-/// multiplied by it (AlphaBlend).
+/// Whether the colours of a picture are multiplied by its alpha (for AlphaBlend) or not (for image
+/// lists).
 enum class Alpha { straight, premultiplied };
 
 /// Pixels as 0xAARRGGBB, bottom row first as in a bitmap of positive height.
@@ -22,9 +22,8 @@ struct Picture {
   std::vector<std::uint32_t> pixels;
 };
 
-/// The picture in `bitmap`: a BITMAPINFOHEADER, its palette and the rows, as a bitmap
-/// resource holds them, with 4 or 8 bits for every pixel and no compression. Nothing
-/// where the bytes are no such bitmap.
+/// The picture in `bitmap`, which holds a BITMAPINFOHEADER, a palette and the rows of pixels as a
+/// bitmap resource does: 4 or 8 bits a pixel, not compressed. No value for any other bytes.
 [[nodiscard]] std::optional<Picture> unpackPicture(std::span<const std::byte> bitmap, Alpha alpha);
 
 }  // namespace windowing

@@ -33,7 +33,7 @@ void DisabledOthers::enable() {
 HWND dialogOwner() {
   const HWND active = GetActiveWindow();
   if (active != nullptr && IsWindowVisible(active)) return active;
-  // A box with an owner that is gone would not be shown at all.
+  // Windows would not show a box whose owner is destroyed.
   return IsWindow(theMainWindow) ? theMainWindow : nullptr;
 }
 

@@ -8,16 +8,16 @@
 
 namespace windowing {
 
-/// Disables every enabled top-level window of the calling thread but `except`, which a common
-/// dialog disables itself; enables them again at the end of the scope.
+/// Disables every enabled top-level window of the calling thread except `except` (a common dialog
+/// disables its owner itself), and enables them again at the end of the scope.
 class DisabledOthers {
  public:
   explicit DisabledOthers(HWND except);
   DisabledOthers(const DisabledOthers&) = delete;
   DisabledOthers& operator=(const DisabledOthers&) = delete;
   ~DisabledOthers() { enable(); }
-  /// Ends the disabling early: a modal window enables its owner before it goes, or another
-  /// program comes to the front.
+  /// Enables them before the end of the scope. A modal window calls this before it is destroyed;
+  /// otherwise another program would come to the front.
   void enable();
 
  private:

@@ -7,9 +7,8 @@
 
 namespace windowing {
 
-/// The bitmap resource `id` of `module` as a 32-bit device-independent bitmap with
-/// alpha, for an image list (straight) or for AlphaBlend (premultiplied). The caller
-/// deletes it. Null where there is no such resource or no memory.
+/// The bitmap resource `id` of `module` as a device-independent bitmap of 32 bits a pixel. The
+/// caller deletes it. Null where the resource or the memory is missing.
 [[nodiscard]] HBITMAP loadPicture(HINSTANCE module, int id, Alpha alpha);
 
 }  // namespace windowing

@@ -1,5 +1,5 @@
-// The primary screen: its resolution and size. The program is aware of the system's
-// resolution, which stays the same as long as it runs.
+// The primary screen: its resolution and size. The program is marked as aware of the system's
+// resolution, which does not change while the program runs.
 #pragma once
 
 #include <windows.h>

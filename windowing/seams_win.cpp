@@ -15,7 +15,7 @@
 namespace windowing {
 namespace {
 
-// The dialog wants NULs between the parts of a filter and two at its end.
+// The dialog expects a NUL after each part of the filter and one more at its end.
 std::string filterOf(std::string filter) {
   std::replace(filter.begin(), filter.end(), '|', '\0');
   filter.append(2, '\0');
@@ -39,13 +39,13 @@ std::optional<std::string> askForFile(HWND owner, const FileDialog& wanted) {
   dialog.lpstrInitialDir = wanted.folder.empty() ? nullptr : wanted.folder.c_str();
   dialog.lpstrTitle = wanted.title.c_str();
   dialog.lpstrDefExt = wanted.extension.empty() ? nullptr : wanted.extension.c_str();
-  // The program's own folder must not change under it.
+  // The dialog must not change the program's current folder.
   dialog.Flags = wanted.flags | OFN_NOCHANGEDIR;
   const BOOL chosen = wanted.save ? GetSaveFileNameA(&dialog) : GetOpenFileNameA(&dialog);
   if (chosen) return std::string(path.data());
   const DWORD error = CommDlgExtendedError();
   if (error == FNERR_INVALIDFILENAME && path.front() != '\0') {
-    // A proposed name that the dialog refuses keeps it from opening: ask without one.
+    // The dialog does not open with a proposed name that it finds invalid, so ask without one.
     FileDialog again = wanted;
     again.fileName.clear();
     return askForFile(owner, again);

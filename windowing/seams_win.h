@@ -11,7 +11,7 @@
 
 namespace windowing {
 
-/// What a file dialog is asked for. Paths and the filter are in the ANSI code page.
+/// What a file dialog shows, and how it asks.
 struct FileDialog {
   bool save = false;
   std::string title;
@@ -27,21 +27,21 @@ struct Seams {
   std::function<int(HWND owner, const std::string& text, const std::string& title, UINT flags)>
       messageBox;
   std::function<void()> beep;
-  /// Asks for a file; nothing when the user cancels. Raises what the dialog reports otherwise.
+  /// Asks for a file. No value when the user cancels; raises any other error of the dialog.
   std::function<std::optional<std::string>(HWND owner, const FileDialog&)> fileDialog;
-  /// Opens a file or an address with the program registered for it; the result is not known.
-  /// Does nothing where the address is longer than the shell of Wine survives.
+  /// Opens a file or an address with the program registered for it. Nobody is told whether that
+  /// worked. Does nothing where the address is so long that Wine's shell would end the program.
   std::function<void(HWND owner, const std::string& verb, const std::string& file,
                      const std::string& folder)>
       shellOpen;
   std::function<SYSTEMTIME()> localTime;
-  /// The key that stands for a predefined root (HKEY_CURRENT_USER, ...).
+  /// The key to use for a predefined root (HKEY_CURRENT_USER, ...); a test gives one of its own.
   std::function<HKEY(HKEY root)> settingsRoot;
 };
 
 [[nodiscard]] Seams& seams();
 
-/// One seam replaced for the length of a scope:
+/// Replaces one seam until the end of the scope:
 /// `Replaced box(seams().messageBox, [](auto&&...) { return IDYES; });`
 template <typename Function>
 class Replaced {

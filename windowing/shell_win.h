@@ -1,10 +1,10 @@
-// What the Windows shell asks of a thread that calls it.
+// Preparing a thread to call the Windows shell.
 #pragma once
 
 namespace windowing {
 
-/// Readies the calling thread for functions of the shell, whose extensions are COM objects; once,
-/// when the first of them is called. Without COM they still answer, but not all of them fully.
+/// Starts COM in the calling thread, at the first call only. The shell's extensions are COM
+/// objects; without COM its functions still answer, but some of them not completely.
 void prepareShell();
 
 }  // namespace windowing

@@ -16,7 +16,8 @@ HMODULE loadSystemLibrary(const char* name) {
   char folder[MAX_PATH] = {};
   const UINT length = GetSystemDirectoryA(folder, sizeof folder);
   if (length == 0 || length >= sizeof folder) return nullptr;
-  // What it needs itself is looked for beside it, not beside the program.
+  // The flag makes Windows look for the library's own libraries in its folder, not in the
+  // program's.
   return LoadLibraryExA((std::string(folder) + '\\' + name).c_str(), nullptr,
                         LOAD_WITH_ALTERED_SEARCH_PATH);
 }

@@ -1,27 +1,27 @@
-// Libraries of Windows, from the folder of Windows: one of the same name that lies beside the
-// program, as in a folder of downloads, must not run in it.
+// Loading Windows' libraries from the system's folder only. A file of the same name that lies
+// beside the program, as may happen in a folder of downloads, must not be loaded.
 #pragma once
 
 #include <windows.h>
 
 namespace windowing {
 
-/// Has all libraries that are loaded from now on come from the system's folder. Those that the
-/// program itself loads do so on every Windows; those that the system's libraries load in turn,
-/// where Windows knows how to (8 and later, 7 with its updates).
+/// From this call on Windows looks for libraries in the system's folder. On every Windows this
+/// holds for libraries that the program loads; for those that Windows' own libraries load, only
+/// on Windows 8 and later and on 7 with its updates.
 void loadLibrariesFromSystemOnly();
 
-/// Loads a library of the system's folder; null where there is none of this name.
+/// Loads a library of the system's folder; null where it has none of this name.
 [[nodiscard]] HMODULE loadSystemLibrary(const char* name);
 
-/// A library of the system's folder whose functions are called through pointers, since Windows
-/// would look for it beside the program first if it were imported.
+/// A library of the system's folder whose functions are called through pointers. If it were
+/// imported, Windows would look for it in the program's folder first.
 class SystemLibrary {
  public:
   /// Loads it; raises where there is none of this name.
   explicit SystemLibrary(const char* name);
 
-  /// A function that becomes a pointer to whatever type of function it is assigned to.
+  /// A function of the library; converts to any type of function pointer that it is assigned to.
   class Function {
    public:
     explicit Function(FARPROC found) : found_(found) {}

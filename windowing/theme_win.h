@@ -1,4 +1,5 @@
-// The theme engine. Its library is none of those that Windows takes from its own folder unasked.
+// The theme engine. Called through pointers, because an imported uxtheme.dll could come from the
+// program's own folder.
 #pragma once
 
 #include <windows.h>

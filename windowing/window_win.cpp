@@ -24,7 +24,7 @@ std::string reportOf(const std::exception& error) {
 
 Window::~Window() {
   if (handle_ == nullptr) return;
-  // The object is going: its overrides must not be called any more.
+  // The derived object is already destroyed, so its overrides must not be called any more.
   SetWindowLongPtrA(handle_, GWLP_USERDATA, 0);
   DestroyWindow(handle_);
 }
@@ -38,7 +38,7 @@ void Window::create(const Creation& creation) {
     made.lpfnWndProc = &Window::procedure;
     made.hInstance = programInstance();
     made.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    // The program's own icon is its first; every window of it has that one in its caption.
+    // All windows show the program's first icon in their caption.
     made.hIcon = LoadIconA(programInstance(), MAKEINTRESOURCEA(1));
     made.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     made.lpszClassName = creation.className;
@@ -78,7 +78,7 @@ LRESULT CALLBACK Window::procedure(HWND window, UINT message, WPARAM wParam, LPA
 }
 
 void reportError(const std::exception& error) {
-  // A failing paint handler would raise the next error as soon as the box uncovers it.
+  // A paint handler that fails is called again under the box, and would report its error again.
   static bool reporting = false;
   if (reporting) return;
   reporting = true;

@@ -1,5 +1,5 @@
-// A window of the program's own: one C++ object for one window handle. Errors never leave
-// its window procedure; they are reported there.
+// A window of the program's own: one C++ object for one window handle. Its window procedure
+// reports errors and lets none through to Windows.
 #pragma once
 
 #include <windows.h>
@@ -42,7 +42,7 @@ class Window {
   HWND handle_ = nullptr;
 };
 
-/// Tells the user of an error that reached the edge of an event handler.
+/// Shows the user an error that no event handler caught.
 void reportError(const std::exception& error);
 
 }  // namespace windowing

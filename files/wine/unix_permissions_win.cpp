@@ -2,8 +2,9 @@
 
 namespace files::wine {
 
-// What an owner may do who is the user Wine gives to the Unix group as well: 0600 would become
-// 0770. With an owner who is not, it is 0700, whoever really owns the file.
+// Wine gives the Unix group whatever the list gives to the owner, if the owner is the user: 0600
+// would become 0770. So the descriptor names another owner, and the file gets 0700, whoever owns
+// it.
 bool setAccessControl(const std::string& to, PSECURITY_DESCRIPTOR descriptor) {
   PACL list = nullptr;
   BOOL present = FALSE;
