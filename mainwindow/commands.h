@@ -14,7 +14,7 @@ constexpr auto mainCommands = [] {
   using library::closesWindow, library::line, library::menuBar;
   using library::Command, library::Held, library::Key;
   using enum library::ToolButton;
-    enum { fileMenu = 1, editMenu, viewMenu, goToMenu, helpMenu };
+  enum { fileMenu = 1, editMenu, viewMenu, goToMenu, helpMenu };
 
   return std::to_array<Command>({
     {fileMenu, menuBar, "MNUFILETOP", "&File"},

@@ -11,6 +11,7 @@
 namespace mainwindow {
 
 using library::LIBRARY;
+
 void frmMain::carryOut(int command, bool byButton) {
   switch (static_cast<id::MainCommand>(command)) {
     case id::NEW:

@@ -20,6 +20,7 @@
 namespace mainwindow {
 
 using windowing::PaintingSuspended;
+
 namespace {
 
 bool multipleBytes() {

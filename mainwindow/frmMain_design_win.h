@@ -16,6 +16,7 @@ using document::Slot;
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
+
 // Strips and the body.
 constexpr int formWidth = 8790;
 constexpr int toolbarHeight = 480;

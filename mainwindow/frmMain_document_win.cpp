@@ -30,13 +30,13 @@ namespace mainwindow {
 using library::LIBRARY;
 using values::ErrorNumber;
 using values::RuntimeError;
+
 namespace {
 
 constexpr char filter[] = "Tellary Document (*.tly)|*.tly";
 constexpr char extension[] = "tly";
 constexpr DWORD openFlags = OFN_EXPLORER | OFN_LONGNAMES | OFN_HIDEREADONLY;
 static_assert(openFlags == 0x280004);
-constexpr int askSaveBeforeClose = 6;
 
 // Whether certainly no file of this name exists. False where the drive does not answer.
 bool isFree(const std::string& path, files::FileCalls& calls) {
@@ -264,7 +264,7 @@ bool frmMain::saveAs() {
 }
 
 bool frmMain::onQueryUnload() {
-  return mayDiscard(askSaveBeforeClose);
+  return mayDiscard(library::question::saveBeforeClose);
 }
 
 void frmMain::onUnload() {

@@ -13,6 +13,7 @@ namespace mainwindow {
 using controls::TXTBTN;
 using library::LIBRARY;
 using windowing::handleText;
+
 namespace {
 
 bool isWeb(int box) {

@@ -13,6 +13,7 @@ namespace pagesetup::psetup_design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
+
 constexpr int formWidth = 6900;
 constexpr int margin = 90;   ///< round the tab strip
 constexpr int tabRow = 390;  ///< height of the row of tabs

@@ -23,6 +23,7 @@ using library::Setting;
 using paper::Orientation;
 using paper::printer;
 using values::ignoringErrors;
+
 namespace {
 
 struct StoredMargin {

@@ -14,6 +14,7 @@ namespace printing::design {
 using windowing::ControlDesign;
 using windowing::ControlKind;
 namespace kind = windowing::kind;
+
 constexpr int formWidth = 9900;
 constexpr int formHeight = 6600;
 constexpr int stripHeight = 480;

@@ -16,6 +16,7 @@ namespace printing {
 
 using library::LIBRARY;
 using windowing::screenPixels;
+
 namespace {
 
 void prepareList(const windowing::ComboBox& list, const char* rows) {

@@ -16,7 +16,7 @@ constexpr auto previewCommands = [] {
   using library::closesWindow, library::menuBar, library::noMenu;
   using library::Command, library::Key;
   using enum library::ToolButton;
-    enum { fileMenu = 1, viewMenu, zoomMenu, goToMenu, helpMenu };
+  enum { fileMenu = 1, viewMenu, zoomMenu, goToMenu, helpMenu };
 
   return std::to_array<Command>({
     {fileMenu, menuBar, "MNUFILETOP", "&File"},

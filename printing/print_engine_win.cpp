@@ -144,10 +144,11 @@ std::int32_t PrintEngine::countPages(DialogForm& form, const PageMargins& wholeI
   rememberPages();
   pageCount_ = 1;
   FORMATRANGE range = firstPage();
-  std::int32_t next = formatPage(text, range);
-  // Deliberate: for an empty text the dialog keeps its settings.
-  if (next == 0) return pageCount_;
-  for (; goesOn(next, range); next = formatPage(text, range)) {
+  for (;;) {
+    const std::int32_t next = formatPage(text, range);
+    // Deliberate: where nothing is formatted, the dialog keeps its settings.
+    if (next == 0) return pageCount_;
+    if (!goesOn(next, range)) break;
     advance(range, next);
     laidOut_.starts.push_back(next);
     pageCount_ = checkedAdd(pageCount_, std::int32_t{1});
@@ -294,6 +295,7 @@ void PrintEngine::drawAt(const FORMATRANGE& start, paper::PagePicture& picture) 
   // printable area.
   shown.rc = layout_.body;
   OffsetRect(&shown.rc, layout_.offset.x, layout_.offset.y);
+  shown.rcPage = layout_.page;  // the control may have changed it while the page was sought
   text.send(EM_FORMATRANGE, TRUE, reinterpret_cast<LPARAM>(&shown));
 }
 

@@ -140,7 +140,8 @@ void Form::createControls(int page) {
     controls_[design.id] = made;
     SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(formFont()), FALSE);
     fitHeight(Control(made), design);
-    if (isClass(made, "Edit")) TextBox(made).setLimit(0);
+    // A kind that makes its controls itself limits them itself.
+    if (design.kind.make == nullptr && isClass(made, "Edit")) TextBox(made).setLimit(0);
   }
 }
 
