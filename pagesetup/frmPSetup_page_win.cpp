@@ -157,7 +157,7 @@ void frmPSetup::setDefaultMargins() const {
 
 void frmPSetup::choosePrinter() {
   try {
-    printer().select(CBOPRINTERS().entry(CBOPRINTERS().selected()));
+    printer().select(CBOPRINTERS().selectedEntry());
   } catch (const values::RuntimeError&) {
     showPrinter();
     throw;

@@ -23,10 +23,9 @@ void frmPPrev::setCommandChecked(int command, bool checked) {
 }
 
 void frmPPrev::RefreshCommands() {
-  const windowing::ComboBox pages = CBOPGNO(), zooms = CBOPGZOOM();
-  const int zoom = zooms.selected();
-  const std::string zoomText = zoom < 0 ? std::string() : zooms.entry(zoom);
-  const PreviewState state{pages.count(), pages.selected(), zoomText};
+  const windowing::ComboBox pages = CBOPGNO();
+  const std::string zoom = CBOPGZOOM().selectedEntry();
+  const PreviewState state{pages.count(), pages.selected(), zoom};
   enableCommands([&state](int command) { return availability(command, state); });
 }
 
@@ -84,8 +83,7 @@ void frmPPrev::print(bool atOnce) {
 
 void frmPPrev::onSelect(int id) {
   if (id == id::CBOPGNO) {
-    const windowing::ComboBox pages = CBOPGNO();
-    PRINTING().PAGESEL(values::toInteger16(pages.entry(pages.selected()), '.'), PICSTDPAGE());
+    PRINTING().PAGESEL(values::toInteger16(CBOPGNO().selectedEntry(), '.'), PICSTDPAGE());
   } else if (id == id::CBOPGZOOM) {
     PRINTING().ZOOMSEL();
   }

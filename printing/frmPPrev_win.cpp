@@ -135,8 +135,7 @@ void frmPPrev::onUnload() {
   // The window is also loaded, hidden, only to print. Its place and zoom are not stored then.
   if (!IsWindowVisible(handle())) return;
   LIBRARY().FORMSAVE(library::sharedPlace, *this, true);
-  const windowing::ComboBox zooms = CBOPGZOOM();
-  library::writeText(library::Setting::previewZoom, zooms.entry(zooms.selected()));
+  library::writeText(library::Setting::previewZoom, CBOPGZOOM().selectedEntry());
   storeView();
 }
 

@@ -17,11 +17,6 @@ using paper::printer;
 
 namespace {
 
-std::string selectedText(const windowing::ComboBox& list) {
-  const int selected = list.selected();
-  return selected < 0 ? std::string() : list.entry(selected);
-}
-
 PageSize sizeOf(const paper::PagePicture& picture) {
   return {picture.width(), picture.height()};
 }
@@ -85,7 +80,7 @@ void PreviewController::showPaperSize() {
 }
 
 std::int32_t PreviewController::shownPage() const {
-  return static_cast<std::int32_t>(values::leadingNumber(selectedText(window_.CBOPGNO())));
+  return static_cast<std::int32_t>(values::leadingNumber(window_.CBOPGNO().selectedEntry()));
 }
 
 void PreviewController::goToPage(std::int32_t page) {
@@ -109,20 +104,20 @@ void PreviewController::setZoom(std::string_view text) {
 }
 
 void PreviewController::zoomIn() {
-  const std::string now = selectedText(window_.CBOPGZOOM());
+  const std::string now = window_.CBOPGZOOM().selectedEntry();
   const std::string_view next = zoomedIn(now);
   if (next != now) setZoom(next);  // which also updates the controls
 }
 
 void PreviewController::zoomOut() {
-  const std::string now = selectedText(window_.CBOPGZOOM());
+  const std::string now = window_.CBOPGZOOM().selectedEntry();
   const std::string_view next = zoomedOut(now);
   if (next != now) setZoom(next);  // which also updates the controls
 }
 
 void PreviewController::applyZoom() {
   window_.placeView();
-  const std::string zoom = selectedText(window_.CBOPGZOOM());
+  const std::string zoom = window_.CBOPGZOOM().selectedEntry();
   const PageSize page = sizeOf(window_.PICSTDPAGE());
   // Before the first page is drawn, there is nothing to zoom.
   if (zoom.empty() || page.width <= 0) return;
@@ -144,7 +139,7 @@ void PreviewController::ApplyZoomPercent(double percent) {
 }
 
 void PreviewController::UpdateZoomControls() {
-  const std::string zoom = selectedText(window_.CBOPGZOOM());
+  const std::string zoom = window_.CBOPGZOOM().selectedEntry();
   for (const ZoomLevel& level : zoomLevels)
     window_.setCommandChecked(level.command, level.text == zoom);
   window_.RefreshCommands();

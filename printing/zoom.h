@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "library/settings.h"
 #include "printing/frmPPrev_ids.h"
 
 namespace printing {
@@ -31,7 +32,8 @@ constexpr std::array<ZoomLevel, 8> zoomLevels = {{
 
 constexpr std::string_view pageWidthZoom = "Page Width";
 constexpr std::string_view wholePageZoom = "Whole Page";
-constexpr std::string_view defaultZoom = "50 %";
+constexpr std::string_view defaultZoom =
+    library::settingRow(library::Setting::previewZoom).otherwise;
 
 /// Index in the list of the zoom with this text; no value for any other text.
 [[nodiscard]] constexpr std::optional<int> zoomIndex(std::string_view text) {
@@ -58,5 +60,6 @@ constexpr std::string_view defaultZoom = "50 %";
 }
 
 static_assert(zoomLevels[6].text == pageWidthZoom && zoomLevels[7].text == wholePageZoom);
+static_assert(zoomIndex(defaultZoom));
 
 }  // namespace printing

@@ -91,6 +91,8 @@ class ComboBox : public Control {
   /// Index of the selected entry, -1 when there is none.
   [[nodiscard]] int selected() const { return static_cast<int>(send(CB_GETCURSEL)); }
   void select(int index) const { send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
+  /// Text of the selected entry; empty when there is none.
+  [[nodiscard]] std::string selectedEntry() const { return entry(selected()); }
 };
 
 /// A check box or option button.

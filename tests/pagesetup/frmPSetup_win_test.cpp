@@ -124,7 +124,7 @@ class PageSetup : public testing::Test {
 TEST_F(PageSetup, FirstLoadShowsThePrinterAndChoosesNothing) {
   form_.load();
   EXPECT_EQ(list(id::CBOPRINTERS).count(), 2);
-  EXPECT_EQ(list(id::CBOPRINTERS).entry(list(id::CBOPRINTERS).selected()), TestPrinters::letter);
+  EXPECT_EQ(list(id::CBOPRINTERS).selectedEntry(), TestPrinters::letter);
   ASSERT_EQ(list(id::CBOPAPER).count(), 22);
   EXPECT_EQ(list(id::CBOPAPER).entry(21), papers[21].name);
   EXPECT_EQ(list(id::CBOPAPER).selected(), 0);
@@ -443,7 +443,7 @@ TEST_F(PageSetup, APrinterThatCannotBeAskedForAnythingIsNamedAndTheFormCanBeClos
   std::construct_at(&printer());
   form_.load();
   ASSERT_EQ(list(id::CBOPRINTERS).count(), 3);
-  EXPECT_EQ(list(id::CBOPRINTERS).entry(list(id::CBOPRINTERS).selected()), TestPrinters::broken);
+  EXPECT_EQ(list(id::CBOPRINTERS).selectedEntry(), TestPrinters::broken);
   type(id::UDNLEFT, "2.0");
   click(id::BTNOK);
   EXPECT_FALSE(form_.loaded());

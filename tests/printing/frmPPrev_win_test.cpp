@@ -69,7 +69,7 @@ class Preview : public testing::Test {
     EXPECT_FALSE(thePreview().loaded());
   }
 
-  static std::string shown(const ComboBox& list) { return list.entry(list.selected()); }
+  static std::string shown(const ComboBox& list) { return list.selectedEntry(); }
   static std::string page() { return shown(thePreview().CBOPGNO()); }
   static std::string zoom() { return shown(thePreview().CBOPGZOOM()); }
   // Chooses as the user does: the selection, then the notice of it.
