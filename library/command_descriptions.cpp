@@ -159,7 +159,7 @@ constexpr Row rows[] = {
     {"&About", "Display information about #"},
     {"Nex&t", "Switch to the next page window"},
 };
-static_assert(std::size(rows) == 137);
+static_assert(std::size(rows) == 137, "a row was lost, or the number here is to be raised");
 
 struct SystemRow {
   unsigned code;

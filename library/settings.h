@@ -164,7 +164,9 @@ constexpr bool settingsAreUnique() {
   return true;
 }
 }  // namespace detail
-static_assert(detail::settingsAreInOrder() && detail::settingsAreUnique());
+static_assert(detail::settingsAreInOrder(),
+              "one row for each enumerator, in their order; settingCount is their number");
+static_assert(detail::settingsAreUnique(), "two rows name one value");
 
 /// Key of a setting below its root. Company and product come from the running program's version
 /// information; `form` is the name that a form's place is stored under.

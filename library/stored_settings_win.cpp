@@ -26,7 +26,8 @@ std::string readText(Setting setting, const std::string& otherwise, std::string_
 }
 
 std::string readText(Setting setting) {
-  return readText(setting, settingRow(setting).otherwise);
+  const char* otherwise = settingRow(setting).otherwise;
+  return readText(setting, otherwise == computed ? "" : otherwise);
 }
 
 double readNumber(Setting setting) {

@@ -14,7 +14,7 @@ namespace library {
 /// The stored text, or `otherwise`.
 [[nodiscard]] std::string readText(Setting setting, const std::string& otherwise,
                                    std::string_view form = {});
-/// The stored text, or the default of the table.
+/// The stored text, or the default of the table; a computed default is empty here.
 [[nodiscard]] std::string readText(Setting setting);
 /// The stored number, or the default of the table. Raises type mismatch for a text that is no
 /// number.

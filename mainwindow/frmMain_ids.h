@@ -4,7 +4,7 @@
 
 namespace mainwindow::id {
 
-// Commands of the main window, in menu order; new ones follow at the end. They are enumerators so
+// Commands of the main window; new ones follow at the end. They are enumerators so
 // that the compiler notices a `switch` that leaves one out.
 enum MainCommand : int {
   NEW = 40001,

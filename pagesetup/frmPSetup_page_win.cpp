@@ -139,10 +139,9 @@ void frmPSetup::loadMargins() const {
   const char sign = values::userDecimalSign();
   for (const StoredMargin& stored : storedMargins) {
     // Where the stored text is no number, the field keeps the number of its design.
-    ignoringErrors([&] {
-      const double inches = library::readNumber(stored.setting);
-      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(values::doubleText(inches, sign)));
-    });
+    const auto inches = values::parseStoredNumber(library::readText(stored.setting), sign);
+    if (inches)
+      margin(stored.box).setText(LIBRARY().TEXTJUSTIFY(values::doubleText(*inches, sign)));
   }
 }
 

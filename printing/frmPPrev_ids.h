@@ -5,7 +5,7 @@
 
 namespace printing::id {
 
-// Commands of the print preview, in menu order, its two toolbar commands last. Captions and
+// Commands of the print preview; new ones follow at the end. Captions and
 // names repeat those of the main window; the numbers do not.
 enum Command : int {
   PRINT = 40101,

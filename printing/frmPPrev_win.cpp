@@ -19,7 +19,7 @@ using windowing::screenPixels;
 
 namespace {
 
-void prepareList(const windowing::ComboBox& list, const char* rows) {
+void prepareList(const windowing::ComboBox& list, const std::string& rows) {
   LIBRARY().COMBOINIT(windowing::handleText(list.handle()), rows, list, true);
 }
 
@@ -67,7 +67,7 @@ void frmPPrev::onLoad() {
   buildToolbar();
   arrangeStrip();
   prepareList(CBOPGNO(), "15");
-  prepareList(CBOPGZOOM(), "8");
+  prepareList(CBOPGZOOM(), std::to_string(zoomLevels.size()));
   ICONMENUS();
   applyView();
   becomeReady();

@@ -16,10 +16,8 @@ struct ZoomLevel {
   int command;  ///< of its menu item
 };
 
-constexpr int steppedZooms = 6;  ///< number of percentages; zooming in and out goes through them
-
 /// All zooms in the order of the list: the percentages, smallest first, and the fitted ones.
-constexpr std::array<ZoomLevel, 8> zoomLevels = {{
+constexpr auto zoomLevels = std::to_array<ZoomLevel>({
     {"25 %", printing::id::ZOOM25},
     {"50 %", printing::id::ZOOM50},
     {"75 %", printing::id::ZOOM75},
@@ -28,7 +26,9 @@ constexpr std::array<ZoomLevel, 8> zoomLevels = {{
     {"200 %", printing::id::ZOOM200},
     {"Page Width", printing::id::ZOOMPW},
     {"Whole Page", printing::id::ZOOMWP},
-}};
+});
+/// Number of percentages; zooming in and out goes through them.
+constexpr int steppedZooms = static_cast<int>(zoomLevels.size()) - 2;
 
 constexpr std::string_view pageWidthZoom = "Page Width";
 constexpr std::string_view wholePageZoom = "Whole Page";
@@ -59,7 +59,9 @@ constexpr std::string_view defaultZoom =
   return zoomStepped(text, -1);
 }
 
-static_assert(zoomLevels[6].text == pageWidthZoom && zoomLevels[7].text == wholePageZoom);
+static_assert(zoomLevels[steppedZooms].text == pageWidthZoom &&
+                  zoomLevels[steppedZooms + 1].text == wholePageZoom,
+              "the fitted zooms stand last");
 static_assert(zoomIndex(defaultZoom));
 
 }  // namespace printing

@@ -12,8 +12,7 @@ namespace {
 
 // The colour in the middle of a tab strip's body. A theme may draw the body as a picture, so the
 // body is drawn once and the colour read from a pixel.
-COLORREF tabPageColour(HWND window) {
-  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+COLORREF themedTabPageColour(HWND window, COLORREF face) {
   if (!themes().isAppThemed()) return face;
   const HTHEME theme = themes().openThemeData(window, L"TAB");
   if (theme == nullptr) return face;
@@ -31,6 +30,16 @@ COLORREF tabPageColour(HWND window) {
   }
   themes().closeThemeData(theme);
   return colour == CLR_INVALID ? face : colour;
+}
+
+COLORREF tabPageColour(HWND window) {
+  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+  try {
+    return themedTabPageColour(window, face);
+  } catch (const std::exception&) {
+    // Without the library of themes there is none.
+    return face;
+  }
 }
 
 // The brush of tab pages. It is made again when the theme or the system's colours change.
