@@ -54,10 +54,6 @@ HMENU ICOMNU::bar() {
   return bar_.get();
 }
 
-HMENU ICOMNU::popup(int number) const {
-  return item(number).menu;
-}
-
 HMENU ICOMNU::menuOf(const Item& child) {
   return child.parent == 0 ? bar() : item(child.parent).menu;
 }

@@ -56,8 +56,6 @@ class ICOMNU {
 
   /// The menu bar, for the form's window.
   [[nodiscard]] HMENU bar();
-  /// The menu that an item opens; null when it opens none.
-  [[nodiscard]] HMENU popup(int number) const;
 
   /// Called with the number of an item, enabled or not, when it is highlighted. Called with 0 when
   /// a title, a separator or nothing is highlighted, and when the menu ends.

@@ -289,8 +289,4 @@ void SPIN::setLimits(double lowest, double highest) const {
   if (auto* number = numberOf(handle())) number->setLimits({tenthsOf(lowest), tenthsOf(highest)});
 }
 
-void SPIN::commit() const {
-  if (auto* number = numberOf(handle())) number->show();
-}
-
 }  // namespace controls

@@ -36,8 +36,6 @@ class SPIN : public windowing::Control {
   /// Sets the limits, rounded to tenths, and moves the number into them. Setting the same limits
   /// again does not disturb a text that is being typed.
   void setLimits(double lowest, double highest) const;
-  /// Replaces a text that is being typed by the value.
-  void commit() const;
 };
 
 inline constexpr windowing::ControlKind spinKind{

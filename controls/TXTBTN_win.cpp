@@ -362,14 +362,4 @@ void TXTBTN::setButton(const windowing::ImageList& images, int image,
   if (auto* button = buttonOf(handle())) button->setButton(images, image, tip);
 }
 
-RECT TXTBTN::buttonPlace() const {
-  const auto* button = buttonOf(handle());
-  return button != nullptr ? button->place() : RECT{};
-}
-
-bool TXTBTN::buttonEnabled() const {
-  const auto* button = buttonOf(handle());
-  return button != nullptr && button->enabled();
-}
-
 }  // namespace controls

@@ -32,10 +32,6 @@ class TXTBTN : public windowing::TextBox {
   /// Picture of the button, one of `images` (which must outlive the control), and its tooltip.
   void setButton(const windowing::ImageList& images, int image, const std::string& tip) const;
 
-  /// The button's place on the screen, pixels.
-  [[nodiscard]] RECT buttonPlace() const;
-  /// Whether the button can be pressed.
-  [[nodiscard]] bool buttonEnabled() const;
 };
 
 inline constexpr windowing::ControlKind linkBoxKind{

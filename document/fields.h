@@ -106,13 +106,6 @@ constexpr std::array<Slot, fieldCount> slotsInFileOrder() {
   return slots;
 }
 
-constexpr std::array<Slot, itemCount> slotsInItemOrder() {
-  std::array<Slot, itemCount> slots{};
-  for (const Field& field : fields)
-    if (field.box == Box::TXTITEMS) slots[static_cast<std::size_t>(field.item)] = field.slot;
-  return slots;
-}
-
 constexpr bool tableIsSound() {
   std::array<int, fieldCount> positions{};
   std::array<int, itemCount> items{};
@@ -140,7 +133,5 @@ static_assert(detail::tableIsSound());
 
 /// Slot of each file position, position 1 at index 0.
 constexpr std::array<Slot, fieldCount> slotAtFilePosition = detail::slotsInFileOrder();
-/// Slot that each box of TXTITEMS shows.
-constexpr std::array<Slot, itemCount> slotOfItem = detail::slotsInItemOrder();
 
 }  // namespace document

@@ -111,10 +111,6 @@ void PagePicture::finish() {
   dc_ = nullptr;
 }
 
-void PagePicture::draw(HDC device, const RECT& place) const {
-  draw(device, place, place);
-}
-
 void PagePicture::draw(HDC device, const RECT& place, const RECT& part) const {
   const SIZE whole{place.right - place.left, place.bottom - place.top};
   RECT visible{};

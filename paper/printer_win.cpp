@@ -123,12 +123,6 @@ void Printer::select(const std::string& wanted) {
   load(wanted);
 }
 
-void Printer::selectAt(int index) {
-  const std::vector<std::string> names = printerNames();
-  if (index < 0 || index >= static_cast<int>(names.size())) raisePrinter();
-  select(names[static_cast<std::size_t>(index)]);
-}
-
 // Where the printer's settings cannot be read, this raises and changes nothing.
 void Printer::load(const std::string& wanted) {
   std::vector<BYTE> settings = settingsOf(wanted);

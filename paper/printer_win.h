@@ -34,9 +34,8 @@ class Printer {
   /// Name of the printer, also of one that does not answer: no device is asked. Empty where there
   /// is no printer.
   [[nodiscard]] std::string name() const;
-  /// Changes to another printer, by its full name or its index in `printerNames`.
+  /// Changes to another printer, by its full name.
   void select(const std::string& name);
-  void selectAt(int index);
 
   /// Raises a printer error when the device is gone or cannot be asked for its settings.
   void check() const;
@@ -55,7 +54,6 @@ class Printer {
   [[nodiscard]] double height();
   /// Unit of `scaleWidth` and `scaleHeight`; twips at first.
   void setScaleMode(PrinterScale mode) { scaleMode_ = mode; }
-  [[nodiscard]] PrinterScale scaleMode() const { return scaleMode_; }
   /// Size of the printable area, in the unit that `setScaleMode` set.
   [[nodiscard]] double scaleWidth();
   [[nodiscard]] double scaleHeight();

@@ -21,7 +21,6 @@ enum class ErrorNumber : int {
   diskFull = 61,
   inputPastEnd = 62,
   permissionDenied = 70,
-  pathAccess = 75,
   pathNotFound = 76,
   objectMissing = 438,
   printer = 482,

@@ -63,8 +63,6 @@ class Control {
   HWND handle_ = nullptr;
 };
 
-using Label = Control;
-
 class TextBox : public Control {
  public:
   using Control::Control;

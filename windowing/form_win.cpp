@@ -246,12 +246,6 @@ double Form::innerWidth() const {
   return screenTwips(area.right);
 }
 
-double Form::innerHeight() const {
-  RECT area{};
-  GetClientRect(handle(), &area);
-  return screenTwips(area.bottom);
-}
-
 // Goes by the design's order, not by that of the windows: a page lies above its tab strip, but
 // comes after it in the tab order.
 void Form::focusNext(bool backwards) {

@@ -79,9 +79,8 @@ class Form : public Window {
   /// Has a hidden form appear maximised at its next showing; until then its outer rectangle
   /// is the one it will be restored to.
   void maximiseWhenShown();
-  /// Size of the client area, twips.
+  /// Width of the client area, twips.
   [[nodiscard]] double innerWidth() const;
-  [[nodiscard]] double innerHeight() const;
 
   /// Called for a key before any control sees it. True when the form used the key.
   virtual bool handleKey(const MSG&) { return false; }

@@ -53,23 +53,23 @@ TEST(IcoMnu, KeepsStatesOverARebuildAndDoublesNothing) {
   ICOMNU& menus = form.menus;
   menus.setEnabled(save, true);
   menus.setChecked(bar, false);
-  EXPECT_EQ(GetMenuState(menus.popup(view), 0, MF_BYPOSITION) & MF_CHECKED, 0U);
+  EXPECT_EQ(GetMenuState(GetSubMenu(menus.bar(), 1), 0, MF_BYPOSITION) & MF_CHECKED, 0U);
   menus.clear();
   EXPECT_EQ(GetMenuItemCount(menus.bar()), 0);
   for (int i = 0; i < 2; ++i) {
     form.build();
     EXPECT_EQ(GetMenuItemCount(menus.bar()), 2);
-    EXPECT_EQ(GetMenuItemCount(menus.popup(file)), 4);
+    EXPECT_EQ(GetMenuItemCount(GetSubMenu(menus.bar(), 0)), 4);
     EXPECT_TRUE(menus.isEnabled(save));
     EXPECT_FALSE(menus.isChecked(bar));
-    EXPECT_EQ(GetMenuState(menus.popup(file), 1, MF_BYPOSITION) & MF_GRAYED, 0U);
+    EXPECT_EQ(GetMenuState(GetSubMenu(menus.bar(), 0), 1, MF_BYPOSITION) & MF_GRAYED, 0U);
   }
   EXPECT_EQ(GetMenu(form.handle()), menus.bar());
 }
 
 TEST(IcoMnu, HighlightsCarryNumbers) {
   MenuForm form;
-  const HMENU popup = form.menus.popup(file);
+  const HMENU popup = GetSubMenu(form.menus.bar(), 0);
   form.select(form.menus.bar(), 0, MF_POPUP | MF_HILITE);
   form.select(popup, 401, MF_HILITE | MF_OWNERDRAW);
   form.select(popup, 402, MF_HILITE | MF_GRAYED | MF_OWNERDRAW);

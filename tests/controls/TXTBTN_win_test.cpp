@@ -22,13 +22,19 @@ class TxtBtn : public ::testing::Test {
 
   TxtBtn() { box.setButton(images, library::imageIndex("MAIL"), "Send mail (F4)"); }
 
+  POINT onButton() const {
+    RECT frame{};
+    GetWindowRect(box.handle(), &frame);
+    return {frame.right - 8, frame.top + 8};
+  }
   void down() const {
-    const RECT button = box.buttonPlace();
-    const LPARAM point = MAKELPARAM(button.left + 2, button.top + 2);
+    const POINT at = onButton();
+    const LPARAM point = MAKELPARAM(at.x, at.y);
     box.send(WM_NCLBUTTONDOWN, static_cast<WPARAM>(box.send(WM_NCHITTEST, 0, point)), point);
   }
   void up(int offset = 0) const {
-    POINT at{box.buttonPlace().left + 2 + offset, box.buttonPlace().top + 2};
+    POINT at = onButton();
+    at.x += offset;
     ScreenToClient(box.handle(), &at);
     box.send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     box.send(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));

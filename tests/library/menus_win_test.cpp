@@ -44,7 +44,7 @@ TEST(LibraryMenus, CreatesItemsWithPictureAndState) {
   EXPECT_EQ(form.menus.ItemIcon(23), -1);
   EXPECT_FALSE(form.menus.isEnabled(23));
   EXPECT_TRUE(form.menus.isChecked(23));
-  EXPECT_EQ(GetMenuItemCount(form.menus.popup(title)), 4);
+  EXPECT_EQ(GetMenuItemCount(GetSubMenu(form.menus.bar(), 0)), 4);
   LIBRARY().ICOMNUSETUP(form, form, 23, "EXIT");
   EXPECT_EQ(form.menus.ItemIcon(23), imageIndex("EXIT"));
   EXPECT_THROW(LIBRARY().ICOMNUSETUP(form, form, 23, "NO SUCH KEY"), values::RuntimeError);

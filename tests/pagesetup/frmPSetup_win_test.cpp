@@ -136,7 +136,7 @@ TEST_F(PageSetup, FirstLoadShowsThePrinterAndChoosesNothing) {
             "Tellary Report.|Ann Bee|Untitled|");
   EXPECT_EQ(texts({id::TXTHEADDATE, id::TXTHEADTIME}), "12/12/2002|12:00:00 pm|");
   EXPECT_FALSE(accepts());
-  EXPECT_EQ(printer().scaleMode(), paper::PrinterScale::pixels);
+  EXPECT_EQ(printer().scaleWidth(), GetDeviceCaps(printer().dc(), HORZRES)) << "in pixels";
   EXPECT_EQ(remembered(), "1||");
   EXPECT_EQ(stored(), "-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|-|");
 }

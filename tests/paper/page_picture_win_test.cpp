@@ -44,7 +44,8 @@ TEST(PagePicture, IsShownOnWhitePaperAtAnySize) {
     const LONG width = windowing::screenPixels(60.0 * percent),
                height = windowing::screenPixels(90.0 * percent);
     const Canvas shown(width + 10, height + 10);
-    picture.draw(shown.dc(), {10, 10, 10 + width, 10 + height});
+    const RECT place{10, 10, 10 + width, 10 + height};
+    picture.draw(shown.dc(), place, place);
     const LONG column = 10 + width / 2;
     EXPECT_LT(shown.darkest(column, 10, height), 220) << percent << " %: the rule shows";
     EXPECT_EQ(shown.darkest(column, 10, height * 9 / 20), 255);
@@ -71,7 +72,7 @@ TEST(PagePicture, PartsJoinToTheWhole) {
     const RECT place{7, 5, 7 + windowing::screenPixels(90.0 * percent),
                      5 + windowing::screenPixels(120.0 * percent)};
     const Canvas whole(place.right, place.bottom), parts(place.right, place.bottom);
-    picture.draw(whole.dc(), place);
+    picture.draw(whole.dc(), place, place);
     const LONG middle = place.bottom / 3 + 2;
     picture.draw(parts.dc(), place, {0, 0, place.right, middle});
     EXPECT_EQ(parts.at(8, middle), RGB(128, 128, 128)) << "nothing beyond the part";

@@ -54,14 +54,13 @@ class Printers : public testing::Test {
   Printer printer_;
 };
 
-TEST_F(Printers, AreChosenByNameOrIndexWithoutChangingTheWindowsDefault) {
+TEST_F(Printers, AreChosenByNameWithoutChangingTheWindowsDefault) {
   EXPECT_EQ(printerNames(), (std::vector<std::string>{TestPrinters::a4, TestPrinters::letter}));
   EXPECT_EQ(printer_.name(), TestPrinters::letter) << "whole, not cut off after 31 characters";
-  printer_.selectAt(0);
+  printer_.select(TestPrinters::a4);
   EXPECT_EQ(printer_.name(), TestPrinters::a4);
   EXPECT_EQ(Printer().name(), TestPrinters::letter) << "the default";
   EXPECT_EQ(errorOf([&] { printer_.select("no such printer"); }), printerError);
-  EXPECT_EQ(errorOf([&] { printer_.selectAt(2); }), printerError);
   EXPECT_EQ(printer_.name(), TestPrinters::a4) << "a failed choice changes nothing";
 }
 
