@@ -10,6 +10,7 @@
 #include "values/handles_win.h"
 #include "values/runtime_error.h"
 #include "windowing/modal_win.h"
+#include "windowing/seams_win.h"
 
 namespace paper {
 namespace {
@@ -78,13 +79,6 @@ WORD word(int value) {
 
 }  // namespace
 
-std::function<BOOL(PRINTDLGA&)>& printDialogSeam() {
-  static std::function<BOOL(PRINTDLGA&)> current = [](PRINTDLGA& dialog) {
-    return PrintDlgA(&dialog);
-  };
-  return current;
-}
-
 bool PrintDialog::show() {
   PRINTDLGA dialog{};
   dialog.lStructSize = sizeof dialog;
@@ -102,7 +96,7 @@ bool PrintDialog::show() {
   BOOL agreed = FALSE;
   {
     const windowing::DisabledOthers others(dialog.hwndOwner);
-    agreed = printDialogSeam()(dialog);
+    agreed = windowing::seams().printDialog(dialog);
   }
   // The dialog may have replaced both blocks. The program owns those that are there now.
   const GlobalMemory settings(dialog.hDevMode);

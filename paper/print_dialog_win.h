@@ -5,7 +5,6 @@
 
 #include <commdlg.h>
 
-#include <functional>
 
 namespace paper {
 
@@ -27,8 +26,5 @@ class PrintDialog {
   /// Whether the user chose a range of pages, not all.
   [[nodiscard]] bool rangeChosen() const { return (flags & PD_PAGENUMS) != 0; }
 };
-
-/// The system's dialog; a test replaces it.
-[[nodiscard]] std::function<BOOL(PRINTDLGA&)>& printDialogSeam();
 
 }  // namespace paper

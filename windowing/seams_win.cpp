@@ -1,7 +1,6 @@
 #include "windowing/seams_win.h"
 
 #include <cderr.h>
-#include <commdlg.h>
 #include <shellapi.h>
 
 #include <algorithm>
@@ -65,6 +64,7 @@ Seams realSeams() {
   };
   real.beep = [] { MessageBeep(MB_OK); };
   real.fileDialog = askForFile;
+  real.printDialog = [](PRINTDLGA& dialog) { return PrintDlgA(&dialog); };
   real.shellOpen = [](HWND owner, const std::string& verb, const std::string& file,
                       const std::string& folder) {
     if (!wine::shellTakesAddress(file)) return;

@@ -1,9 +1,11 @@
 // The few places where the program asks the outside world something that a test must be
-// able to answer: message boxes, file dialogs, the shell, the clock, the settings' root.
+// able to answer: message boxes, dialogs, the shell, the clock, the settings' root.
 // The defaults are the real ones; a test replaces one at a time.
 #pragma once
 
 #include <windows.h>
+
+#include <commdlg.h>
 
 #include <functional>
 #include <optional>
@@ -29,6 +31,8 @@ struct Seams {
   std::function<void()> beep;
   /// Asks for a file. No value when the user cancels; raises any other error of the dialog.
   std::function<std::optional<std::string>(HWND owner, const FileDialog&)> fileDialog;
+  /// Shows the system's print dialog; true for OK.
+  std::function<BOOL(PRINTDLGA&)> printDialog;
   /// Opens a file or an address with the program registered for it. Nobody is told whether that
   /// worked. Does nothing where the address is so long that Wine's shell would end the program.
   std::function<void(HWND owner, const std::string& verb, const std::string& file,

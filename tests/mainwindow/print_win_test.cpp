@@ -13,6 +13,7 @@
 #include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
 #include "tests/support/short_memory_win.h"
+#include "windowing/seams_win.h"
 
 namespace {
 
@@ -44,7 +45,7 @@ class PrintingContacts : public test_support::MainWindowTest {
 
   std::optional<TestPrinters> printers_{std::in_place};
   int asked_ = 0;
-  windowing::Replaced<std::function<BOOL(PRINTDLGA&)>> dialog_{paper::printDialogSeam(),
+  windowing::Replaced<std::function<BOOL(PRINTDLGA&)>> dialog_{windowing::seams().printDialog,
                                                                [this](PRINTDLGA&) -> BOOL {
                                                                  ++asked_;
                                                                  return TRUE;

@@ -34,7 +34,7 @@ TEST_F(PrintDialogs, StartFromTheCurrentPrinterAndChangeNothingWhenCancelled) {
   bystander.show();
   active.show();
   printer().setOrientation(Orientation::landscape);
-  windowing::Replaced answer(printDialogSeam(), [&](PRINTDLGA& shown) -> BOOL {
+  windowing::Replaced answer(windowing::seams().printDialog, [&](PRINTDLGA& shown) -> BOOL {
     const auto* settings = static_cast<const DEVMODEA*>(GlobalLock(shown.hDevMode));
     const auto* names = static_cast<const DEVNAMES*>(GlobalLock(shown.hDevNames));
     EXPECT_STREQ(reinterpret_cast<const char*>(names) + names->wDeviceOffset, TestPrinters::letter);
@@ -61,7 +61,7 @@ TEST_F(PrintDialogs, HandTheirChoiceToTheCurrentPrinter) {
   Printer other;
   other.select(TestPrinters::a4);
   HDC returned = nullptr;
-  windowing::Replaced answer(printDialogSeam(), [&](PRINTDLGA& shown) -> BOOL {
+  windowing::Replaced answer(windowing::seams().printDialog, [&](PRINTDLGA& shown) -> BOOL {
     // As the real dialog does, with blocks of its own.
     GlobalFree(shown.hDevMode);
     shown.hDevMode = GlobalAlloc(GHND, other.settings().size());

@@ -13,6 +13,7 @@
 #include "tests/support/scratch_registry_win.h"
 #include "values/runtime_error.h"
 #include "windowing/application_win.h"
+#include "windowing/seams_win.h"
 
 namespace printing {
 namespace {
@@ -71,7 +72,7 @@ class Printing : public testing::Test {
   std::vector<JobPage> printAfter(std::function<BOOL(PRINTDLGA&)> answer,
                                   const RichTextBox* source = nullptr) {
     TestPrinters::clearJobs();
-    const Replaced dialog(paper::printDialogSeam(), std::move(answer));
+    const Replaced dialog(windowing::seams().printDialog, std::move(answer));
     engine_.PRINTDOCUMENT(thePreview(), source != nullptr ? *source : RTF1_, false);
     return pagesOf(TestPrinters::letterJob());
   }

@@ -14,6 +14,7 @@
 #include "values/runtime_error.h"
 #include "windowing/application_win.h"
 #include "windowing/screen_win.h"
+#include "windowing/seams_win.h"
 
 namespace printing {
 namespace {
@@ -419,7 +420,7 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
   preview([&] {
     frmPPrev& form = thePreview();
     int dialogs = 0;
-    const windowing::Replaced dialog(paper::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
+    const windowing::Replaced dialog(windowing::seams().printDialog, [&](PRINTDLGA& asked) -> BOOL {
       ++dialogs;
       EXPECT_EQ(+asked.hwndOwner, form.handle());
       asked.Flags |= PD_PAGENUMS;
@@ -464,7 +465,7 @@ TEST_F(Preview, FollowsThePrinterThatIsChosenInTheDialog) {
   other.setOrientation(paper::Orientation::landscape);
   preview([&] {
     EXPECT_EQ(thePreview().CBOPGNO().count(), 2);
-    const windowing::Replaced dialog(paper::printDialogSeam(), [&](PRINTDLGA& asked) -> BOOL {
+    const windowing::Replaced dialog(windowing::seams().printDialog, [&](PRINTDLGA& asked) -> BOOL {
       printer().adopt(other.name(), *reinterpret_cast<const DEVMODEA*>(other.settings().data()));
       GlobalFree(asked.hDevMode);
       asked.hDevMode = nullptr;
