@@ -1,8 +1,5 @@
 #include "library/message_catalogue.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "library/message_numbers.h"
 #include "values/number_text.h"
 
@@ -14,11 +11,10 @@ enum class Title { fixed, product, programFolder };
 // In a text, %1 to %3 are replaced by the caller's texts. %b and %c are replaced by the plural "s"
 // where the caller's second or third text is a number other than 1.
 struct Entry {
-  int number;
-  std::string_view text;
-  Title titleKind;
-  std::string_view title;
-  unsigned flags;
+  std::string_view text = {};
+  Title titleKind = Title::fixed;
+  std::string_view title = {};
+  unsigned flags = 0;
   bool beep = false;
 };
 
@@ -27,63 +23,78 @@ constexpr unsigned yesNoCancel = 3, yesNo = 4, secondIsDefault = 256;
 
 // Mistakes in spelling and grammar ("loose", "have all been") are deliberate: the texts are the
 // same in all of the maker's products.
-constexpr Entry messages[] = {
-    {message::spellingChecked, "Spell Checker has now finished checking your document.",
-     Title::fixed, "Spell Checker", information},
-    {message::textFound, "The text '%1' has been found '%2' time%b.", Title::fixed, "Find",
-     information},
+constexpr Entry entryOf(message::Number number) {
+  switch (number) {
+    case message::spellingChecked:
+      return {"Spell Checker has now finished checking your document.", Title::fixed,
+              "Spell Checker", information};
+    case message::textFound:
+      return {"The text '%1' has been found '%2' time%b.", Title::fixed, "Find", information};
     // The plural follows the third text, not the second.
-    {message::textReplaced, "The text '%1' have all been replaced by '%2' %3 time%c.", Title::fixed,
-     "Replace", information},
-    {message::noSuchLine, "The line number entered is larger than the current %1 lines available.",
-     Title::fixed, "Go To", exclamation},
-    {message::problemSaving,
-     "There is a problem saving the document '%1'. This is possibly a read-only document.",
-     Title::fixed, "Save", exclamation},
-    {message::noRoomToPrint, "You cannot enter a value which leaves you with no room to print.",
-     Title::fixed, "Page Setup", exclamation},
+    case message::textReplaced:
+      return {"The text '%1' have all been replaced by '%2' %3 time%c.", Title::fixed, "Replace",
+              information};
+    case message::noSuchLine:
+      return {"The line number entered is larger than the current %1 lines available.",
+              Title::fixed, "Go To", exclamation};
+    case message::problemSaving:
+      return {"There is a problem saving the document '%1'. This is possibly a read-only document.",
+              Title::fixed, "Save", exclamation};
+    case message::noRoomToPrint:
+      return {"You cannot enter a value which leaves you with no room to print.", Title::fixed,
+              "Page Setup", exclamation};
     // Deliberate: its title is the program's folder.
-    {message::noPrinter,
-     "There is no printer installed. You will not be able to use the printer functions.",
-     Title::programFolder, "", stop, true},
-    {message::problemsReading,
-     "There are problems reading %1 so the details will be only partly available.", Title::fixed,
-     "Properties", exclamation},
-    {message::invalidImage,
-     "%1 is either an invalid format or the document is corrupt. \r\n Try re-saving the image to "
-     "a different name from within a paint package and trying again.",
-     Title::product, "", stop, true},
-    {message::cannotReopen,
-     "The document '%1' cannot be reopened. The document may no longer exist.", Title::fixed,
-     "ReOpen", exclamation},
-    {message::unreadableTga,
-     "There is a problem with reading TGA 16 bit format, please try another format.", Title::fixed,
-     "Picture", exclamation},
+    case message::noPrinter:
+      return {"There is no printer installed. You will not be able to use the printer functions.",
+              Title::programFolder, "", stop, true};
+    case message::problemsReading:
+      return {"There are problems reading %1 so the details will be only partly available.",
+              Title::fixed, "Properties", exclamation};
+    case message::invalidImage:
+      return {
+          "%1 is either an invalid format or the document is corrupt. \r\n Try re-saving the image "
+          "to "
+          "a different name from within a paint package and trying again.",
+          Title::product, "", stop, true};
+    case message::cannotReopen:
+      return {"The document '%1' cannot be reopened. The document may no longer exist.",
+              Title::fixed, "ReOpen", exclamation};
+    case message::unreadableTga:
+      return {"There is a problem with reading TGA 16 bit format, please try another format.",
+              Title::fixed, "Picture", exclamation};
     // Deliberate: it names another product, whichever product shows it.
-    {message::tooManyDocuments,
-     "You have reached the limit of documents that can be opened in a session, sorry.\r\nYou "
-     "could always close Pressling and re-launch it.",
-     Title::product, "", stop, true},
-    {message::goneFromList,
-     "The document %1 is no longer available and will now be removed from the list.",
-     Title::product, "", exclamation},
-};
+    case message::tooManyDocuments:
+      return {
+          "You have reached the limit of documents that can be opened in a session, sorry.\r\nYou "
+          "could always close Pressling and re-launch it.",
+          Title::product, "", stop, true};
+    case message::goneFromList:
+      return {"The document %1 is no longer available and will now be removed from the list.",
+              Title::product, "", exclamation};
+  }
+  return {};  // a number without a message
+}
 
-constexpr Entry questions[] = {
-    {question::deletePicture, "Are you really sure you want to delete '%1' to the Recycle Bin ?",
-     Title::fixed, "Clear Picture", yesNo | asking | secondIsDefault},
-    {question::overwrite,
-     "The document '%1' already exists.\r\nDo you really want to overwrite this ?", Title::fixed,
-     "Save As", yesNo | asking},
-    {question::looseChanges,
-     "Continuing will loose any unsaved changes for the %1\r\nDo you want to continue ?",
-     Title::fixed, "ReOpen", yesNo | asking},
-    {question::saveBeforeClose, "Do you wish to save '%1' before you close ?", Title::product, "",
-     yesNoCancel | asking},
-    {question::saveFirst, "You have unsaved work, do you want to save first ?", Title::fixed, "New",
-     yesNoCancel | asking},
-};
-static_assert(std::size(messages) == 13 && std::size(questions) == 5);
+constexpr Entry entryOf(question::Number number) {
+  switch (number) {
+    case question::deletePicture:
+      return {"Are you really sure you want to delete '%1' to the Recycle Bin ?", Title::fixed,
+              "Clear Picture", yesNo | asking | secondIsDefault};
+    case question::overwrite:
+      return {"The document '%1' already exists.\r\nDo you really want to overwrite this ?",
+              Title::fixed, "Save As", yesNo | asking};
+    case question::looseChanges:
+      return {"Continuing will loose any unsaved changes for the %1\r\nDo you want to continue ?",
+              Title::fixed, "ReOpen", yesNo | asking};
+    case question::saveBeforeClose:
+      return {"Do you wish to save '%1' before you close ?", Title::product, "",
+              yesNoCancel | asking};
+    case question::saveFirst:
+      return {"You have unsaved work, do you want to save first ?", Title::fixed, "New",
+              yesNoCancel | asking};
+  }
+  return {};  // a number without a message
+}
 
 std::string_view pluralOf(std::string_view count, const MessageInserts& inserts) {
   return values::toNumber(count, inserts.decimalSign) == 1 ? "" : "s";
@@ -115,17 +126,13 @@ std::string titleOf(const Entry& entry, const MessageInserts& inserts) {
   }
 }
 
-template <std::size_t count>
-Message compose(const Entry (&entries)[count], int number, const MessageInserts& inserts) {
-  const auto* entry = std::find_if(std::begin(entries), std::end(entries),
-                                   [&](const Entry& e) { return e.number == number; });
-  if (entry == std::end(entries)) return {};
-  Message message{{}, titleOf(*entry, inserts), entry->flags, entry->beep};
-  for (std::size_t i = 0; i < entry->text.size(); ++i) {
-    if (entry->text[i] == '%')
-      message.text += insertFor(entry->text[++i], inserts);
+Message compose(const Entry& entry, const MessageInserts& inserts) {
+  Message message{{}, titleOf(entry, inserts), entry.flags, entry.beep};
+  for (std::size_t i = 0; i < entry.text.size(); ++i) {
+    if (entry.text[i] == '%')
+      message.text += insertFor(entry.text[++i], inserts);
     else
-      message.text += entry->text[i];
+      message.text += entry.text[i];
   }
   return message;
 }
@@ -133,11 +140,11 @@ Message compose(const Entry (&entries)[count], int number, const MessageInserts&
 }  // namespace
 
 Message composeMessage(int number, const MessageInserts& inserts) {
-  return compose(messages, number, inserts);
+  return compose(entryOf(static_cast<message::Number>(number)), inserts);
 }
 
 Message composeQuestion(int number, const MessageInserts& inserts) {
-  return compose(questions, number, inserts);
+  return compose(entryOf(static_cast<question::Number>(number)), inserts);
 }
 
 }  // namespace library

@@ -2,6 +2,8 @@
 // samples.
 #include <windows.h>
 
+#include <algorithm>
+
 #include "library/clsLibrary_win.h"
 #include "library/settings_text.h"
 #include "library/stored_settings_win.h"
@@ -68,8 +70,34 @@ constexpr Setting saveOrder[] = {
     Setting::header,           Setting::headerTitleText,  Setting::footerField1Text,
     Setting::footerField2Text,
 };
-static_assert(std::size(saveOrder) == optionCount &&
-              std::size(optionBoxes) + std::size(optionTexts) == optionCount);
+
+constexpr bool everyOptionHasItsControl() {
+  return std::ranges::all_of(optionRows(), [](const library::SettingRow& row) {
+    const bool tick = row.kind == library::SettingKind::tick;
+    return std::ranges::count(optionBoxes, row.setting, &OptionBox::option) == (tick ? 1 : 0) &&
+           std::ranges::count(optionTexts, row.setting, &OptionText::option) == (tick ? 0 : 1) &&
+           std::ranges::count(saveOrder, row.setting) == 1;
+  });
+}
+constexpr bool everyControlIsInTheDesign() {
+  const auto designed = [](int control) {
+    return std::ranges::count(psetup_design::controls, control, &windowing::ControlDesign::id) == 1;
+  };
+  return std::ranges::all_of(optionTexts, designed, &OptionText::box) &&
+         std::ranges::all_of(optionBoxes, [&](const OptionBox& known) {
+           return designed(known.box) && designed(known.master) &&
+                  (known.sample == 0 || designed(known.sample));
+         });
+}
+constexpr bool everyCheckBoxHasItsOption() {
+  return std::ranges::all_of(psetup_design::controls, [](const windowing::ControlDesign& design) {
+    return design.kind.style != windowing::kind::checkBox.style ||
+           std::ranges::count(optionBoxes, design.id, &OptionBox::box) == 1;
+  });
+}
+static_assert(everyOptionHasItsControl());
+static_assert(everyControlIsInTheDesign());
+static_assert(everyCheckBoxHasItsOption());
 
 // The longest text that can be read back from the settings store.
 constexpr int longestText = static_cast<int>(library::settingBufferSize) - 1;

@@ -1,6 +1,8 @@
 // The first page: printer, paper, orientation and margins, and the sample that shows them.
 #include <windows.h>
 
+#include <algorithm>
+
 #include "controls/drawing_win.h"
 #include "library/clsLibrary_win.h"
 #include "library/modLibrary_win.h"
@@ -34,6 +36,12 @@ constexpr StoredMargin storedMargins[] = {{id::UDNLEFT, Setting::leftMargin},
                                           {id::UDNRIGHT, Setting::rightMargin},
                                           {id::UDNTOP, Setting::topMargin},
                                           {id::UDNBOTTOM, Setting::bottomMargin}};
+// The properties' own left margin is never written, so it has no field here.
+static_assert(std::ranges::all_of(library::settings, [](const library::SettingRow& row) {
+  const bool field =
+      row.kind == library::SettingKind::inches && row.setting != Setting::propertiesLeftMargin;
+  return std::ranges::count(storedMargins, row.setting, &StoredMargin::setting) == (field ? 1 : 0);
+}));
 constexpr double defaultMargin = 1.0;
 
 // This paper limits the margins as long as no printer has reported another.

@@ -2,6 +2,7 @@
 // from plain data; other code draws them on the printer or in the preview.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -24,6 +25,12 @@ constexpr std::size_t optionCount =
 [[nodiscard]] constexpr std::span<const library::SettingRow, optionCount> optionRows() {
   return std::span(library::settings).subspan<firstOption, optionCount>();
 }
+static_assert(std::ranges::all_of(library::settings, [](const library::SettingRow& row) {
+  const auto at = static_cast<std::size_t>(row.setting);
+  const std::string_view section = row.section;
+  return (at >= firstOption && at < firstOption + optionCount) ==
+         (section.ends_with("\\Header") || section.ends_with("\\Footer"));
+}));
 
 /// The texts that the defaults are made from.
 struct DefaultTexts {

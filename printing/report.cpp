@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string_view>
 
 namespace printing {
@@ -18,33 +19,36 @@ struct Line {
   std::string_view addressLabel{};  // empty for a line of one field
 };
 
-constexpr std::array<Line, 18> lines{{
-    {Slot::DateOfBirth},
-    {Slot::JobTitle},
-    {Slot::MobilePhone},
-    {Slot::Pager},
-    {Slot::Other1},
-    {Slot::Other2},
-    {Slot::Comments},
-    {Slot::HomeAddress1, "Address: "},
-    {Slot::HomePhone},
-    {Slot::HomeFax},
-    {Slot::Company},
-    {Slot::WorkAddress1, "Work Address: "},
-    {Slot::WorkPhone},
-    {Slot::WorkFax},
-    {Slot::HomeEmail},
-    {Slot::WorkEmail},
-    {Slot::HomeWebsite},
-    {Slot::WorkWebsite},
-}};
+constexpr Line lines[] = {
+    {Slot::DateOfBirth}, {Slot::JobTitle},
+    {Slot::MobilePhone}, {Slot::Pager},
+    {Slot::Other1},      {Slot::Other2},
+    {Slot::Comments},    {Slot::HomeAddress1, "Address: "},
+    {Slot::HomePhone},   {Slot::HomeFax},
+    {Slot::Company},     {Slot::WorkAddress1, "Work Address: "},
+    {Slot::WorkPhone},   {Slot::WorkFax},
+    {Slot::HomeEmail},   {Slot::WorkEmail},
+    {Slot::HomeWebsite}, {Slot::WorkWebsite},
+};
 
 constexpr bool everyLineHasALabel() {
-  return std::all_of(lines.begin(), lines.end(), [](const Line& line) {
+  return std::all_of(std::begin(lines), std::end(lines), [](const Line& line) {
     return line.addressLabel.empty() != document::fieldOf(line.field).reportLabel.empty();
   });
 }
 static_assert(everyLineHasALabel());
+
+constexpr bool everyFieldIsPrintedOnce() {
+  std::array<int, document::fieldCount> printed{};
+  const auto count = [&](Slot field, std::size_t fields) {
+    for (std::size_t i = 0; i < fields; ++i) ++printed.at(static_cast<std::size_t>(field) + i);
+  };
+  count(Slot::FirstNames, 1);  // the two in the heading
+  count(Slot::Surname, 1);
+  for (const Line& line : lines) count(line.field, line.addressLabel.empty() ? 1 : addressParts);
+  return std::all_of(printed.begin(), printed.end(), [](int times) { return times == 1; });
+}
+static_assert(everyFieldIsPrintedOnce());
 
 // The fields of an address follow each other: two lines of the street, city, country, postcode.
 std::string addressFrom(const ContactRecord& values, Slot street) {

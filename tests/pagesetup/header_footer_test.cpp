@@ -63,6 +63,12 @@ TEST(HeaderAndFooter, SwitchesAreOnOnlyWhenExactlyOne) {
     EXPECT_EQ(drawn(options, letterPage()), "") << off;
   }
   const std::string all = drawn(defaults(), letterPage());
+  for (const library::SettingRow& row : optionRows()) {
+    if (row.kind != library::SettingKind::tick) continue;
+    HeaderFooterOptions options = defaults();
+    options[row.setting] = "0";
+    EXPECT_NE(drawn(options, letterPage()), all) << row.name << " prints nothing";
+  }
   std::size_t start = 0;
   for (const Setting item : {Setting::headerRule, Setting::headerDate, Setting::headerTime,
                              Setting::headerTitle, Setting::footerRule, Setting::footerField1,
