@@ -45,11 +45,15 @@ files_of() {
       }'
 }
 
-# lint LANE NAME OPTIONS FILE ...: reads the files as one; prints findings.
+# lint LANE NAME OPTIONS FILE ...: reads the files as one; prints findings, each under its file's name.
 lint() {
   local lane=$1 name=$2 options=$3 checks=() one=$work/$1-$2.cpp log=$work/$1-$2.log file bad=0
   shift 3
-  printf '#include "%s"  // NOLINT\n' "$@" >"$one"
+  : >"$one"
+  for file in "$@"; do
+    echo "$(wc -l <"$one") $file"
+    cat "$file" >>"$one"
+  done >"$one.starts"
   if [[ $lane == product ]]; then
     options+=" --target=i686-w64-mingw32 -isystem$headers -isystem$headers/i686-w64-mingw32"
     # The Windows headers paste a lower-case "l" to their constants, so that check has no say there.
@@ -57,9 +61,17 @@ lint() {
   fi
   # shellcheck disable=SC2086
   if "$tidy" --quiet "--header-filter=^$root/" "${checks[@]}" "$one" -- $options \
-    -Xclang -analyzer-opt-analyze-headers >"$log" 2>"$log.err" </dev/null; then return 0; fi
+    >"$log" 2>"$log.err" </dev/null; then return 0; fi
   if [[ $# -eq 1 ]] || ! grep -q 'clang-diagnostic-error' "$log"; then
-    cat "$log"
+    awk -v one="$one:" '
+      NR == FNR { start[NR] = $1; file[NR] = $2; next }
+      index($0, one) == 1 {
+        place = substr($0, length(one) + 1)
+        for (i = 1; i + 1 in start && start[i + 1] < place + 0; ++i);
+        sub(/^[0-9]+/, place - start[i], place)
+        $0 = file[i] ":" place
+      }
+      { print }' "$one.starts" "$log"
     return 1
   fi
   for file in "$@"; do

@@ -138,9 +138,9 @@ const char* containerClass() {
   return name;
 }
 
-HWND kind::makeContainer(Form&, const ControlDesign& design, HWND container, const RECT& place) {
+HWND kind::makeContainer(Form&, const ControlDesign& design, HWND holder, const RECT& place) {
   const ChildDesign child{containerClass(), kind::shown | design.style, WS_EX_CONTROLPARENT};
-  return createChild(child, container, design.id, place);
+  return createChild(child, holder, design.id, place);
 }
 
 void setSurface(HWND container, Surface surface) {

@@ -52,7 +52,8 @@ class ScratchFolder {
   /// Removes a folder with all that is in it.
   static void removeTree(const std::string& folder) {
     for (const std::string& name : namesIn(folder)) {
-      const std::string path = folder + "\\" + name;
+      std::string path = folder;
+      path.append("\\").append(name);
       SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
       if (!DeleteFileA(path.c_str())) removeTree(path);
     }
