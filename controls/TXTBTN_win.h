@@ -31,7 +31,6 @@ class TXTBTN : public windowing::TextBox {
 
   /// Picture of the button, one of `images` (which must outlive the control), and its tooltip.
   void setButton(const windowing::ImageList& images, int image, const std::string& tip) const;
-
 };
 
 inline constexpr windowing::ControlKind linkBoxKind{

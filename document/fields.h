@@ -39,11 +39,12 @@ enum class Slot : int {
   Other1,
   Other2,
   Comments,
+  Count  ///< not a field; how many there are
 };
 
-constexpr int fieldCount = 28;
-constexpr int itemCount = 24;  ///< boxes of the control array TXTITEMS
-constexpr int linkCount = 4;   ///< boxes with a button: two for mail, two for the web
+constexpr int fieldCount = static_cast<int>(Slot::Count);
+constexpr int linkCount = 4;  ///< boxes with a button: two for mail, two for the web
+constexpr int itemCount = fieldCount - linkCount;  ///< boxes of the control array TXTITEMS
 
 /// The control that shows a field: a box of the array, or one of the four link boxes.
 enum class Box : int { TXTITEMS, CBOPEMAIL, CBOPWORKEMAIL, CBOPWEBSITE, CBOPWORKWEBSITE };

@@ -52,8 +52,9 @@ enum class Setting : int {
   // Registered owner of Windows.
   registeredOwner,
   registeredOrganization,
+  count  ///< not a setting; how many there are
 };
-constexpr std::size_t settingCount = 35;
+constexpr auto settingCount = static_cast<std::size_t>(Setting::count);
 
 /// Where a setting is stored, and for whom.
 enum class Scope {

@@ -19,17 +19,28 @@ struct Line {
   std::string_view addressLabel{};  // empty for a line of one field
 };
 
+// clang-format off
 constexpr Line lines[] = {
-    {Slot::DateOfBirth}, {Slot::JobTitle},
-    {Slot::MobilePhone}, {Slot::Pager},
-    {Slot::Other1},      {Slot::Other2},
-    {Slot::Comments},    {Slot::HomeAddress1, "Address: "},
-    {Slot::HomePhone},   {Slot::HomeFax},
-    {Slot::Company},     {Slot::WorkAddress1, "Work Address: "},
-    {Slot::WorkPhone},   {Slot::WorkFax},
-    {Slot::HomeEmail},   {Slot::WorkEmail},
-    {Slot::HomeWebsite}, {Slot::WorkWebsite},
+  {Slot::DateOfBirth},
+  {Slot::JobTitle},
+  {Slot::MobilePhone},
+  {Slot::Pager},
+  {Slot::Other1},
+  {Slot::Other2},
+  {Slot::Comments},
+  {Slot::HomeAddress1, "Address: "},
+  {Slot::HomePhone},
+  {Slot::HomeFax},
+  {Slot::Company},
+  {Slot::WorkAddress1, "Work Address: "},
+  {Slot::WorkPhone},
+  {Slot::WorkFax},
+  {Slot::HomeEmail},
+  {Slot::WorkEmail},
+  {Slot::HomeWebsite},
+  {Slot::WorkWebsite},
 };
+// clang-format on
 
 constexpr bool everyLineHasALabel() {
   return std::all_of(std::begin(lines), std::end(lines), [](const Line& line) {
