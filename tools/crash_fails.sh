@@ -7,9 +7,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 folder=$(mktemp -d) || exit 1
 trap 'rm -rf "$folder"' EXIT
 wrong=0
-ways=(nowhere case quietly exit)
 if [[ $1 == */winerun ]]; then
-  ways+=(late)
   # One for all runs: starting Wine takes longer than they do.
   export WINEPREFIX="$folder/prefix"
   mkdir "$WINEPREFIX"
@@ -21,14 +19,14 @@ fi
 is() {
   [[ $2 == "$3" ]] || { echo "crash_fails: $1: $3 where $2 is wanted"; wrong=1; }
 }
-for how in "${ways[@]}"; do
+for how in nowhere service case quietly exit debugger; do
   echo "add_test(crashing \"$1\" \"$2\" $how)" >"$folder/CTestTestfile.cmake"
   ctest --test-dir "$folder" -V >"$folder/log" 2>&1
   code=$?
   counts=$(awk -v failures="$folder/failures" -f "$root/tools/count_tests.awk" "$folder/log")
   case $how in
-    nowhere) is $how "0: 2 0 0" "$code: $counts" ;;
-    exit | late) is $how "8: 2 1 0" "$code: $counts" ;;
+    nowhere | service) is $how "0: 2 0 0" "$code: $counts" ;;
+    exit | debugger) is $how "8: 2 1 0" "$code: $counts" ;;
     *) is $how "8: 1 1 0" "$code: $counts" ;;
   esac
 done
