@@ -38,8 +38,8 @@ class PagePicture {
   [[nodiscard]] HDC dc() const { return dc_; }
   void finish();
 
-  /// Shows the picture, smoothly scaled, on white paper that fills `place`. Draws only the part of it
-  /// that lies in `part`.
+  /// Shows the picture, smoothly scaled, on white paper that fills `place`. Draws only the part of
+  /// it that lies in `part`.
   void draw(HDC device, const RECT& place, const RECT& part) const;
   /// The recording of the last drawing; null while there is none.
   [[nodiscard]] HENHMETAFILE recording() const { return recording_.get(); }

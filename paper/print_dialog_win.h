@@ -5,7 +5,6 @@
 
 #include <commdlg.h>
 
-
 namespace paper {
 
 /// The settings that the dialog shows at first, and the user's choices afterwards. Page numbers
