@@ -27,7 +27,7 @@ constexpr LPARAM wasDown = 1 << 30;  // of a key message: the key was down befor
 KeyUser userOfKeys(HWND focus) {
   if (windowing::isClass(focus, "ComboBox")) return list;
   if (!windowing::isClass(focus, "Edit")) return nobody;
-  return (GetWindowLongA(focus, GWL_STYLE) & ES_MULTILINE) != 0 ? linesBox : lineBox;
+  return windowing::isMultilineBox(focus) ? linesBox : lineBox;
 }
 
 std::string menuCaption(const Command& command) {

@@ -18,6 +18,16 @@ HWND createChild(const ChildDesign& design, HWND container, int id, const RECT& 
   return made;
 }
 
+bool isClass(HWND window, const char* wanted) {
+  char name[32] = {};
+  GetClassNameA(window, name, sizeof name);
+  return lstrcmpiA(name, wanted) == 0;
+}
+
+bool isMultilineBox(HWND window) {
+  return isClass(window, "Edit") && (GetWindowLongA(window, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
 std::string Control::text() const {
   const auto length = static_cast<std::size_t>(send(WM_GETTEXTLENGTH));
   std::string text(length + 1, '\0');

@@ -63,6 +63,11 @@ class Control {
   HWND handle_ = nullptr;
 };
 
+/// Whether a window is of this class, whatever the case of its letters.
+[[nodiscard]] bool isClass(HWND window, const char* wanted);
+/// Whether a window is a text box of several lines.
+[[nodiscard]] bool isMultilineBox(HWND window);
+
 class TextBox : public Control {
  public:
   using Control::Control;

@@ -150,9 +150,6 @@ class Form : public Window {
   bool appearMaximised_ = false;
 };
 
-/// Whether a window is of the class `wanted`; upper and lower case count as the same.
-[[nodiscard]] bool isClass(HWND window, const char* wanted);
-
 /// The form whose window `window` is or lies in; null when it is none of the program's.
 [[nodiscard]] Form* formOf(HWND window);
 
