@@ -59,7 +59,7 @@ lint() {
     # The Windows headers paste a lower-case "l" to their constants, so that check has no say there.
     checks=(--checks=-cert-dcl16-c)
   fi
-  # What hides what is the build's own question: here the names of one file meet another's.
+  # Without -Wshadow: here, names of one file hide those of another. The build looks for it in each file.
   # shellcheck disable=SC2086
   if "$tidy" --quiet "--header-filter=^$root/" "${checks[@]}" "$one" -- $options -Wno-shadow \
     >"$log" 2>"$log.err" </dev/null; then return 0; fi

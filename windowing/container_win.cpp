@@ -37,7 +37,7 @@ COLORREF tabPageColour(HWND window) {
   try {
     return themedTabPageColour(window, face);
   } catch (const std::exception&) {
-    // Without the library of themes there is none.
+    // The library of themes could not be loaded, so no theme is drawn.
     return face;
   }
 }

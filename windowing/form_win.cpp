@@ -111,7 +111,7 @@ void Form::createControls(int page) {
     controls_[design.id] = made;
     SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(formFont()), FALSE);
     fitHeight(Control(made), design);
-    // A kind that makes its controls itself limits them itself.
+    // A kind with its own function to make a control also limits the text itself.
     if (design.kind.make == nullptr && isClass(made, "Edit")) TextBox(made).setLimit(0);
   }
 }
