@@ -57,24 +57,24 @@ class Looks : public test_support::MainWindowTest {
   }
   /// Writes the picture of a menu, known by its access key.
   void drawMenu(windowing::Form& shown, char letter, const char* name) {
-    inMenu_ = [this, name](HWND menu) { write(menu, name); };
+    inMenu = [this, name](HWND menu) { write(menu, name); };
     SetTimer(nullptr, 0, 50, whileMenuIsOpen);
     shown.show();
     settle();
     SendMessageA(shown.handle(), WM_SYSCOMMAND, SC_KEYMENU, letter);
-    EXPECT_FALSE(inMenu_) << name << " did not open";
+    EXPECT_FALSE(inMenu) << name << " did not open";
   }
   static void CALLBACK whileMenuIsOpen(HWND, UINT, UINT_PTR timer, DWORD) {
     const HWND menu = FindWindowA("#32768", nullptr);
     if (menu == nullptr) return;
     KillTimer(nullptr, timer);
-    std::exchange(inMenu_, {})(menu);
+    std::exchange(inMenu, {})(menu);
     EndMenu();
   }
   static void CALLBACK whilePreviewIsOpen(HWND, UINT, UINT_PTR timer, DWORD) {
     if (!IsWindowVisible(printing::thePreview().handle())) return;
     KillTimer(nullptr, timer);
-    std::exchange(inPreview_, {})();
+    std::exchange(inPreview, {})();
     EXPECT_TRUE(printing::thePreview().unload());
   }
   static void turn(const windowing::Form& shown, int strip, int tab) {
@@ -85,8 +85,8 @@ class Looks : public test_support::MainWindowTest {
   }
 
   std::string folder_;
-  inline static std::function<void(HWND menu)> inMenu_;
-  inline static std::function<void()> inPreview_;
+  inline static std::function<void(HWND menu)> inMenu;
+  inline static std::function<void()> inPreview;
 };
 
 TEST_F(Looks, OfEveryForm) {
@@ -109,13 +109,13 @@ TEST_F(Looks, OfEveryForm) {
   // The toolbar's Print composes the report that is previewed.
   SendMessageA(form.handle(), WM_COMMAND, id::PRINT,
                reinterpret_cast<LPARAM>(form.control(id::TBARMAIN).handle()));
-  inPreview_ = [this] {
+  inPreview = [this] {
     write(printing::thePreview().handle(), "preview");
     drawMenu(printing::thePreview(), 'v', "preview-view-menu");
   };
   SetTimer(nullptr, 0, 20, whilePreviewIsOpen);
   run(id::PRINTPREVIEW);
-  EXPECT_FALSE(inPreview_) << "the preview did not open";
+  EXPECT_FALSE(inPreview) << "the preview did not open";
   run(id::REMOVE);
   run(id::REMOVE);
   draw(form, "no-contacts");

@@ -10,7 +10,7 @@ using drive::boxOf;
 using drive::Program;
 namespace id = mainwindow::id;
 
-class DISABLED_KilledSave : public drive::AppTest {
+class KilledSave : public drive::AppTest {
  protected:
   /// The document with this surname in front. One of another length moves all that follows, so
   /// a mixture of two documents is neither of them.
@@ -24,7 +24,7 @@ class DISABLED_KilledSave : public drive::AppTest {
   const std::string file_ = folder_.file("full.tly", documentOf("old"));
 };
 
-TEST_F(DISABLED_KilledSave, LeavesTheWholeOldOrNewDocument) {
+TEST_F(KilledSave, DISABLED_LeavesTheWholeOldOrNewDocument) {
   // The time that a save takes.
   std::string before = "saved";
   start(file_).enter(boxOf[drive::surname], before);
