@@ -4,6 +4,7 @@
 #include <tlhelp32.h>
 
 #include "tests/app/support/fixture_win.h"
+#include "tests/support/print_job_win.h"
 #include "tests/support/printers_win.h"
 
 namespace {
@@ -37,6 +38,7 @@ TEST_F(Libraries, ComeFromTheSystemEvenWhereOthersLieBesideTheProgram) {
 
   const drive::Program& program = start("", exe);
   program.clickButton(id::PRINT);
+  EXPECT_EQ(test_support::pagesOf(test_support::TestPrinters::letterJob()).size(), 1U);
   char system[MAX_PATH] = {};
   GetSystemDirectoryA(system, sizeof system);
   for (const std::string& name : names) EXPECT_STRCASEEQ(origin(name).c_str(), system) << name;

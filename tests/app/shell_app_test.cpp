@@ -47,6 +47,8 @@ TEST_F(Shell, ADoubleClickOpensADocumentEvenAfterTheProgramMoved) {
   ASSERT_TRUE(CreateDirectoryA(path("my  caf\xE9 -x").c_str(), nullptr));
   start();
   close();
+  EXPECT_EQ(Registry::text(HKEY_CLASSES_ROOT, "Tellary.Document\\DefaultIcon", ""),
+            drive::programUnderTest() + ",2");
   expectOpens("my  caf\xE9 -x\\old friends.tly", drive::programUnderTest());
 
   ASSERT_TRUE(CreateDirectoryA(path("other place").c_str(), nullptr));

@@ -12,27 +12,23 @@
 namespace dialogs {
 namespace {
 
-using test_support::ScratchRegistry;
-
-constexpr char windowsKey[] = "SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION";
+using library::Setting;
 
 class AboutBox : public testing::Test {
  protected:
   void TearDown() override { form_.unload(); }
   [[nodiscard]] std::string text(int control) const { return form_.control(control).text(); }
 
-  ScratchRegistry registry_;
+  test_support::ScratchRegistry registry_;
   frmAbout form_;
 };
 
-TEST_F(AboutBox, NamesTheOwnersOfTheirOwnPlacesWithoutAccessKeys) {
-  ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOrganization", "Machine");
-  ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOwner", "User");
+TEST_F(AboutBox, NamesTheOwnersWithoutAccessKeys) {
   form_.load();
   EXPECT_EQ(text(about_id::LBLREGNAME) + text(about_id::LBLREGCO), "");
   form_.unload();
-  ScratchRegistry::putText(registry_.machine(), windowsKey, "RegisteredOwner", "Mill & Sons");
-  ScratchRegistry::putText(registry_.user(), windowsKey, "RegisteredOrganization", "A && B");
+  registry_.store(Setting::registeredOwner, "Mill & Sons");
+  registry_.store(Setting::registeredOrganization, "A && B");
   form_.load();
   EXPECT_EQ(text(about_id::LBLREGNAME), "Mill & Sons");
   EXPECT_EQ(text(about_id::LBLREGCO), "A && B");

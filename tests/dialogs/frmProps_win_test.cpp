@@ -22,14 +22,11 @@
 namespace dialogs {
 namespace {
 
+using library::Setting;
 using test_support::ScratchFolder;
 using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 namespace id = dialogs::props_id;
-
-constexpr char placeKey[] = "SOFTWARE\\Zandor Software Development\\Tellary\\GLOBAL\\Window";
-constexpr char marginKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items";
-constexpr char misspeltKey[] = "SOFTWARE\\Zandor Software Development\\GLOBAL\\tems";
 
 class Properties : public testing::Test {
  protected:
@@ -44,9 +41,6 @@ class Properties : public testing::Test {
     library::modLibrary().documentKind = kind;
     form_.load();
     form_.UPDATEINFO();
-  }
-  void storeMargin(const char* key, const std::string& edge, const char* inches) const {
-    ScratchRegistry::putText(registry_.user(), key, "Page Margin " + edge, inches);
   }
   [[nodiscard]] std::string text(int control) const { return form_.control(control).text(); }
   [[nodiscard]] std::string texts(std::initializer_list<int> controls) const {
@@ -212,11 +206,13 @@ TEST_F(Properties, FiguresOfTheDocumentsText) {
   EXPECT_EQ(figures(), "2|55|327|55|");
   // Margins are shared with the maker's other products.
   const struct {
-    const char *edge, *inches, *figures;
-  } margins[] = {
-      {"2", "0,5", "1|55|327|55|"}, {"3", "8", "4|55|327|55|"}, {"3", "11", "55|55|327|55|"}};
+    Setting edge;
+    const char *inches, *figures;
+  } margins[] = {{Setting::topMargin, "0,5", "1|55|327|55|"},
+                 {Setting::bottomMargin, "8", "4|55|327|55|"},
+                 {Setting::bottomMargin, "11", "55|55|327|55|"}};
   for (const auto& margin : margins) {
-    storeMargin(marginKey, margin.edge, margin.inches);
+    registry_.store(margin.edge, margin.inches);
     form_.UPDATEINFO();
     EXPECT_EQ(figures(), margin.figures) << margin.inches;
   }
@@ -227,10 +223,10 @@ TEST_F(Properties, FiguresOfTheDocumentsText) {
   form_.UPDATEINFO();
   const int lines = std::stoi(text(id::TXTDOCLINES));
   EXPECT_GT(lines, 2);
-  storeMargin(marginKey, "0", "4");
+  registry_.store(Setting::leftMargin, "4");
   form_.UPDATEINFO();
   EXPECT_EQ(std::stoi(text(id::TXTDOCLINES)), lines);
-  storeMargin(misspeltKey, "0", "4");
+  registry_.store(Setting::propertiesLeftMargin, "4");
   form_.UPDATEINFO();
   EXPECT_GT(std::stoi(text(id::TXTDOCLINES)), lines);
 }
@@ -273,7 +269,7 @@ TEST_F(Properties, AFigureThatFailsLeavesOnlyItselfEmpty) {
   EXPECT_EQ(figures(), "|2|14|3|");
   EXPECT_EQ(text(id::TXTDOCPATH), "");
   form_.setPaper([] { return ReportPaper{12240, 15840, 240}; });
-  storeMargin(marginKey, "1", "wide");
+  registry_.store(Setting::rightMargin, "wide");
   form_.UPDATEINFO();
   EXPECT_EQ(figures(), "|2|14|3|");
   // Lines that nothing could be counted in are none.
@@ -301,7 +297,7 @@ TEST_F(Properties, ComesBackWhereItWasLeft) {
   EXPECT_EQ(form_.outerPixels().top, place.top);
   form_.unload();
   // A stored place that is none does not keep the dialog from opening; Esc closes it.
-  ScratchRegistry::putText(registry_.user(), placeKey, "Left", "far");
+  registry_.store(Setting::windowLeft, "far", library::sharedPlace);
   form_.load();
   PostMessageA(form_.control(id::TXTLOCATION).handle(), WM_KEYDOWN, VK_ESCAPE, 0);
   form_.showModal();

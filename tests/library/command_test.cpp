@@ -10,13 +10,6 @@ using namespace library;
 
 namespace {
 
-TEST(Shortcuts, HaveATextInTheMenu) {
-  EXPECT_EQ(shortcutText({}), "");
-  EXPECT_EQ(shortcutText(closesWindow), "Alt+F4");
-  EXPECT_EQ(shortcutText({Key::del, Held::control}), "Ctrl+Del");
-  EXPECT_EQ(shortcutText({Key{'S'}, Held::control}), "Ctrl+S");
-}
-
 // Each row is refused by one check, behind two that all accept.
 TEST(Commands, AreCheckedRowByRow) {
   using enum ToolButton;

@@ -19,7 +19,6 @@ namespace {
 
 using test_support::DialogDriver;
 using test_support::PlainForm;
-using test_support::ScratchRegistry;
 
 bool isCentred(const RECT& place) {
   return std::abs((place.left + place.right - GetSystemMetrics(SM_CXSCREEN)) / 2) <= 1 &&
@@ -29,16 +28,14 @@ bool isCentred(const RECT& place) {
 class PlacementTest : public testing::Test {
  protected:
   PlacementTest() { form.load(); }
-  [[nodiscard]] std::string stored(const std::string& name) const {
-    return ScratchRegistry::text(registry.user(), key, name);
+  [[nodiscard]] std::string stored(Setting setting) const {
+    return registry.stored(setting, "frmPlain");
   }
   static void expectPlace(const PlainForm& form, const RECT& place) {
     const RECT now = form.outerPixels();
     EXPECT_TRUE(EqualRect(&now, &place)) << now.left << "," << now.top;
   }
-  const std::string key = "SOFTWARE\\" + windowing::companyName() + "\\" +
-                          windowing::productName() + "\\frmPlain\\Window";
-  ScratchRegistry registry;
+  test_support::ScratchRegistry registry;
   PlainForm form;
 };
 
@@ -52,10 +49,10 @@ TEST_F(PlacementTest, FormsComeBackWhereTheyWereWithoutDrifting) {
     LIBRARY().FORMLOAD("frmPlain", form, true);
     expectPlace(form, place);
   }
-  EXPECT_EQ(stored("Window State"), "0");
+  EXPECT_EQ(stored(Setting::windowState), "0");
   if (windowing::screenDpi() == values::designDpi) {
-    EXPECT_EQ(stored("Left"), "555");
-    EXPECT_EQ(stored("Height"), "5250");
+    EXPECT_EQ(stored(Setting::windowLeft), "555");
+    EXPECT_EQ(stored(Setting::windowHeight), "5250");
   }
 }
 
@@ -67,7 +64,7 @@ TEST_F(PlacementTest, MaximisedFormsReopenMaximisedAndRestoreToTheStoredPlace) {
   ShowWindow(form.handle(), SW_MAXIMIZE);
   LIBRARY().FORMSAVE("frmPlain", form, true);
   form.unload();
-  EXPECT_EQ(stored("Window State"), "2");
+  EXPECT_EQ(stored(Setting::windowState), "2");
   form.load();
   LIBRARY().FORMLOAD("frmPlain", form, true);
   EXPECT_FALSE(IsWindowVisible(form.handle()));
@@ -78,13 +75,13 @@ TEST_F(PlacementTest, MaximisedFormsReopenMaximisedAndRestoreToTheStoredPlace) {
 }
 
 TEST_F(PlacementTest, MinimisedFormsStoreNothingAndNeverOpenMinimised) {
-  ScratchRegistry::putText(registry.user(), key, "Window State", "1");
+  registry.store(Setting::windowState, "1", "frmPlain");
   LIBRARY().FORMLOAD("frmPlain", form, true);
   form.show();
   EXPECT_FALSE(IsIconic(form.handle()));
   ShowWindow(form.handle(), SW_MINIMIZE);
   LIBRARY().FORMSAVE("frmPlain", form, true);
-  EXPECT_EQ(stored("Left") + stored("Window State"), "(none)1");
+  EXPECT_EQ(stored(Setting::windowLeft) + stored(Setting::windowState), "(none)1");
 }
 
 // A dialog that opens near the screen's corner unless something moves it.

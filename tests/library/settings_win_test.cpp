@@ -97,22 +97,17 @@ TEST_F(Settings, HostileValuesFallBack) {
 
 TEST_F(Settings, DocumentsFolder) {
   const ScratchFolder folder;
-  const std::string maker = "SOFTWARE\\" + windowing::companyName();
-  const std::string preferences = maker + "\\" + windowing::productName() + "\\frmPrefs\\Items";
   const std::string own = LIBRARY().FILENAMELENCHK(windowing::programFolder());
-  const auto recorded = [&] {
-    return ScratchRegistry::text(registry.user(), maker + "\\GLOBAL\\frmPPrev\\Items",
-                                 "Files Location");
-  };
+  const auto recorded = [&] { return registry.stored(Setting::missingFilesLocation); };
   EXPECT_EQ(LIBRARY().FILESLOCATION(), own);
-  ScratchRegistry::putText(registry.user(), preferences, "Files Location", folder.path());
+  registry.store(Setting::filesLocation, folder.path());
   EXPECT_EQ(LIBRARY().FILESLOCATION(), folder.path() + "\\");
   EXPECT_EQ(recorded(), "(none)");
 
-  ScratchRegistry::putText(registry.user(), preferences, "Files Location", folder / "gone");
+  registry.store(Setting::filesLocation, folder / "gone");
   EXPECT_EQ(LIBRARY().FILESLOCATION(), own);
   EXPECT_EQ(recorded(), own);
-  EXPECT_EQ(ScratchRegistry::text(registry.user(), preferences, "Files Location"), folder / "gone");
+  EXPECT_EQ(registry.stored(Setting::filesLocation), folder / "gone");
 }
 
 }  // namespace

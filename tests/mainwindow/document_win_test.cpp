@@ -160,6 +160,10 @@ TEST_F(Document, ThePartsFitTheRoomInside) {
       const RECT frame = form.control(page).pixels();
       EXPECT_GE(frame.top, tabs.top + lastTab.bottom);
       EXPECT_LE(frame.bottom, tabs.bottom);
+      EXPECT_NE(
+          ChildWindowFromPoint(form.control(id::PICMAINBOX).handle(), {frame.left, frame.top}),
+          form.control(id::TABMAIN).handle())
+          << "the strip lies below its pages";
     }
   }
 }

@@ -57,6 +57,8 @@ TEST_F(Focus, KeysWithShiftStayWithTheirBox) {
     EXPECT_EQ(form.handleKey(insert), shift == 0);
     EXPECT_EQ(form.contacts().count(), before + (shift == 0));
   }
+  const MSG down{form.control(id::CBOTBARBOX).handle(), WM_KEYDOWN, VK_NEXT, 1, 0, {}};
+  EXPECT_FALSE(form.handleKey(down)) << "a list has keys of its own";
 }
 
 }  // namespace

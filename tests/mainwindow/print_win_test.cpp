@@ -99,6 +99,15 @@ TEST_F(PrintingContacts, AContactThatIsNotShownWholeIsPrintedWhole) {
   EXPECT_EQ(printed(), " Birch|");
 }
 
+// The properties count what would be printed.
+TEST_F(PrintingContacts, ThePropertiesCountTheReportOfWhatIsOnScreen) {
+  open(contactsFile({"Ash"}));
+  type(id::textItem(22), "two words");
+  runModal(id::PROPERTIES, [](const windowing::Form& properties) {
+    EXPECT_EQ(properties.control("TXTWORDS").text(), "4");
+  });
+}
+
 TEST_F(PrintingContacts, WithoutAnyPrinterBothSaySo) {
   printers_.reset();
   press(id::PRINT);

@@ -35,14 +35,26 @@ class Restart : public test_support::MainWindowTest {
   }
 };
 
-TEST_F(Restart, EachBarComesBackAsItWasLeft) {
+TEST_F(Restart, BarsAndPlaceComeBackAsTheyWereLeft) {
+  RECT full = form.outerPixels();
+  OffsetRect(&full, 123 - full.left, 77 - full.top);
+  form.moveOuter(full);
+  EXPECT_EQ(registry.stored(Setting::statusBar), "(none)") << "stored when switched, not before";
   run(id::STATUSBAR);
+  EXPECT_EQ(registry.stored(Setting::statusBar), "False");
+  const RECT lower = form.outerPixels();
+  EXPECT_LT(lower.bottom, full.bottom);
   restart();
   EXPECT_EQ(bars(), "toolbar ");
+  EXPECT_EQ(form.outerPixels().bottom, lower.bottom);
   run(id::STATUSBAR);
   run(id::STANDARDBAR);
+  EXPECT_LT(form.outerPixels().bottom, full.bottom);
   restart();
   EXPECT_EQ(bars(), "status");
+  run(id::STANDARDBAR);
+  const RECT again = form.outerPixels();
+  EXPECT_TRUE(EqualRect(&again, &full)) << "nothing creeps";
 }
 
 TEST_F(Restart, EveryFormOpensWhateverTheSettingsAre) {

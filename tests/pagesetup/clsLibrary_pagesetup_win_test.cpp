@@ -5,7 +5,6 @@
 
 #include <commctrl.h>
 
-#include <functional>
 #include <string>
 
 #include "library/modLibrary_win.h"
@@ -14,43 +13,18 @@
 #include "paper/printer_win.h"
 #include "tests/support/main_window_win.h"
 #include "tests/support/printers_win.h"
-#include "windowing/modal_win.h"
 
 namespace pagesetup {
 namespace {
 
 using test_support::TestPrinters;
 
-// What is done to the page setup once it is open; it is closed then.
-std::function<void(windowing::Form&)> onOpen;
-
-void CALLBACK visitPageSetup(HWND, UINT, UINT_PTR timer, DWORD) {
-  const HWND window = FindWindowA(nullptr, "Page Setup");
-  if (!IsWindowVisible(window)) return;
-  KillTimer(nullptr, timer);
-  onOpen(*windowing::formOf(window));
-  PostMessageA(window, WM_CLOSE, 0, 0);
-}
-
 class PageSetupCommands : public test_support::MainWindowTest {
  protected:
   PageSetupCommands() {
-    windowing::setMainWindow(form.handle());
     library::modLibrary().orientation.clear();
     library::modLibrary().paperCode.clear();
     form.show();
-  }
-  /// Runs a command that shows the page setup, and `look` once it is there.
-  void runAndLook(int command, const std::function<void(const windowing::Form&)>& look) {
-    int looks = 0;
-    onOpen = [&](windowing::Form& setup) {
-      ++looks;
-      look(setup);
-    };
-    SetTimer(nullptr, 0, 10, visitPageSetup);
-    run(command);
-    EXPECT_EQ(looks, 1) << command;
-    EXPECT_EQ(status(), "");
   }
 };
 
@@ -70,7 +44,7 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
                                          }
                                          return mapped(root);
                                        });
-    runAndLook(command, [&, shown = tab](const windowing::Form& setup) {
+    runModal(command, [&, shown = tab](const windowing::Form& setup) {
       EXPECT_EQ(setup.control(pagesetup::id::TABSTRIP1).send(TCM_GETCURSEL), shown);
       EXPECT_EQ(setup.control(pagesetup::id::FRAMHEADERFOOTER).visible(), shown == 1);
       EXPECT_EQ(setup.control(pagesetup::id::FRAMPAGE).visible(), shown == 0);
@@ -82,23 +56,21 @@ TEST_F(PageSetupCommands, OpenTheirTabAboveTheMainWindow) {
     EXPECT_EQ(whileLoading, "Obtaining settings...");
     EXPECT_EQ(pointer, LoadCursorA(nullptr, IDC_WAIT));
     EXPECT_TRUE(IsWindowEnabled(form.handle()));
+    EXPECT_EQ(status(), "");
   }
   EXPECT_TRUE(boxes.empty());
 }
 
 TEST_F(PageSetupCommands, WithoutAPrinterTheUserIsToldAndTheMarginsCanBeSet) {
   ASSERT_TRUE(paper::printerNames().empty());
-  runAndLook(mainwindow::id::PAGESETUP, [](const windowing::Form& setup) {
+  runModal(mainwindow::id::PAGESETUP, [](const windowing::Form& setup) {
     EXPECT_EQ(setup.control(pagesetup::id::CBOPRINTERS).send(CB_GETCOUNT), 0);
     EXPECT_EQ(setup.control(pagesetup::id::UDNLEFT).text(), "1.0");
     EXPECT_FALSE(setup.control(pagesetup::id::BTNOK).enabled());
     setup.control(pagesetup::id::UDNLEFT).setText("1.5");
     setup.control(pagesetup::id::BTNOK).send(BM_CLICK);
   });
-  EXPECT_EQ(test_support::ScratchRegistry::text(
-                registry.user(), "SOFTWARE\\Zandor Software Development\\GLOBAL\\frmPPrev\\Items",
-                "Page Margin 0"),
-            "1.5");
+  EXPECT_EQ(registry.stored(library::Setting::leftMargin), "1.5");
   ASSERT_EQ(boxes.size(), 1U);
   EXPECT_NE(boxes[0].text.find("no printer installed"), std::string::npos) << boxes[0].text;
 }

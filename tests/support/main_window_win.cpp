@@ -8,6 +8,21 @@ namespace test_support {
 
 namespace id = mainwindow::id;
 
+namespace {
+
+// What is done to a modal form once it is open.
+std::function<void(windowing::Form&)> onOpen;
+
+void CALLBACK visit(HWND, UINT, UINT_PTR timer, DWORD) {
+  windowing::Form* const open = windowing::formOf(windowing::dialogOwner());
+  if (open == nullptr || GetWindow(open->handle(), GW_OWNER) == nullptr) return;
+  KillTimer(nullptr, timer);
+  onOpen(*open);
+  if (open->loaded()) PostMessageA(open->handle(), WM_CLOSE, 0, 0);
+}
+
+}  // namespace
+
 MainWindowTest::MainWindowTest() {
   windowing::Seams& seams = windowing::seams();
   seams.messageBox = [this](HWND, const std::string& text, const std::string& title, UINT flags) {
@@ -40,6 +55,17 @@ MainWindowTest::~MainWindowTest() {
 void MainWindowTest::notice(int box, int code) {
   SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(box, code),
                reinterpret_cast<LPARAM>(form.control(box).handle()));
+}
+
+void MainWindowTest::runModal(int command, const std::function<void(windowing::Form&)>& look) {
+  int looks = 0;
+  onOpen = [&](windowing::Form& shown) {
+    ++looks;
+    look(shown);
+  };
+  SetTimer(nullptr, 0, 10, visit);
+  run(command);
+  EXPECT_EQ(looks, 1) << command;
 }
 
 void MainWindowTest::turnTo(int page) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,6 +34,8 @@ class MainWindowTest : public testing::Test {
   [[nodiscard]] std::string text(int id) const { return form.control(id).text(); }
   void type(int id, const std::string& text) { form.control(id).setText(text); }
   void run(int command) { SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(command, 0), 0); }
+  /// Runs a command that shows a modal form, `look` once it is there, and closes it.
+  void runModal(int command, const std::function<void(windowing::Form&)>& look);
   void notice(int id, int code);
   /// Shows a page (0 to 2), as a click on its tab does.
   void turnTo(int page);

@@ -106,11 +106,19 @@ TEST_F(Forms, AreGivenNoCommandsBelowABox) {
     SendMessageA(told.control("BTNOK").handle(), BM_CLICK, 0, 0);
     MSG key{told.control("TXTAMOUNT").handle(), WM_KEYDOWN, VK_F9, 1, 0, {}};
     windowing::dispatchMessage(key);
-    SendMessageA(told.handle(), WM_COMMAND, MAKEWPARAM(105, CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(told.control("CBONAMES").handle()));
+    for (const int notice : {CBN_SETFOCUS, CBN_SELCHANGE})
+      SendMessageA(told.handle(), WM_COMMAND, MAKEWPARAM(105, notice),
+                   reinterpret_cast<LPARAM>(told.control("CBONAMES").handle()));
     told.control("TXTAMOUNT").setText("1");
     EXPECT_EQ(told.told, takesInput ? "command enter escape click key select change " : "change ");
   }
+}
+
+TEST_F(Forms, HaveTheFocusWhereItWasWhenTheyComeBack) {
+  form.control("CBONAMES").focus();
+  SendMessageA(form.handle(), WM_ACTIVATE, WA_INACTIVE, 0);
+  SetFocus(form.handle());
+  EXPECT_TRUE(form.control("CBONAMES").focused());
 }
 
 TEST_F(Forms, PassNewSystemColoursOnToTheirControls) {
@@ -155,9 +163,10 @@ TEST(FormLoops, HandCharactersOnAsTheyWereTyped) {
 TEST(FormDesign, PutsTextsOfOneRowOnOneLine) {
   using windowing::ControlDesign;
   namespace kind = windowing::kind;
-  constexpr ControlDesign row[] = {{"LABEL", 1, kind::sideLabel, "Name:", 0, 300, 900, 315},
-                                   {"BOX", 2, kind::textBox, "", 900, 300, 900, 315},
-                                   {"LIST", 3, kind::dropDownList, "", 1800, 300, 900, 3000}};
+  constexpr ControlDesign row[] = {
+      {"LABEL", 1, kind::sideLabel, "Name:", 0, 300, 900, 315, 0, SS_RIGHT},
+      {"BOX", 2, kind::textBox, "", 900, 300, 900, 315},
+      {"LIST", 3, kind::dropDownList, "", 1800, 300, 900, 3000}};
   test_support::PlainForm form("frmRow", row);
   form.load();
   const RECT label = form.control(1).pixels();
@@ -167,6 +176,9 @@ TEST(FormDesign, PutsTextsOfOneRowOnOneLine) {
   EXPECT_EQ(label.bottom, box.bottom - GetSystemMetrics(SM_CYEDGE) - 1);
   EXPECT_NEAR((label.top + label.bottom) / 2.0, windowing::screenPixels(300 + 315 / 2.0), 1);
   EXPECT_NEAR((list.top + list.bottom) / 2.0, (box.top + box.bottom) / 2.0, 1);
+  EXPECT_NE(GetWindowLongA(form.control(1).handle(), GWL_STYLE) & SS_RIGHT, 0);
+  EXPECT_NE(GetWindowLongA(form.control(2).handle(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
+  EXPECT_GT(form.control(2).send(EM_GETLIMITTEXT), 100'000) << "what the user may type";
 }
 
 // A form that has trouble with the last of its controls.
