@@ -17,10 +17,12 @@ class Focus : public MainWindowTest {
   Focus() { form.show(); }
 };
 
-TEST_F(Focus, LeavesTheNameBoxThatIsHiddenOrHasNoNamesLeft) {
-  for (const int command : {id::REMOVE, id::STANDARDBAR}) {
-    form.control(id::CBOTBARBOX).focus();
-    ASSERT_TRUE(form.control(id::CBOTBARBOX).focused());
+TEST_F(Focus, LeavesABoxThatIsHiddenOrHasNoContactLeft) {
+  for (const auto& [command, box] : {std::pair{id::REMOVE, id::CBOTBARBOX},
+                                     {id::REMOVE, id::textItem(3)},
+                                     {id::STANDARDBAR, id::CBOTBARBOX}}) {
+    form.control(box).focus();
+    ASSERT_TRUE(form.control(box).focused());
     run(command);
     EXPECT_TRUE(form.control(id::TABMAIN).focused()) << command;
     run(id::ADD);

@@ -24,7 +24,6 @@ using paper::RichTextBox;
 using test_support::JobPage;
 using test_support::lines;
 using test_support::pagesOf;
-using test_support::ScratchRegistry;
 using test_support::TestPrinters;
 using windowing::Replaced;
 
