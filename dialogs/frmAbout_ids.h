@@ -4,7 +4,6 @@
 
 namespace dialogs::about_id {
 
-// Controls of the about box.
 constexpr int FRAMTITLE = 4500;
 constexpr int LBLPROGRAMNAME = 4501;
 constexpr int IMGLOGO = 4502;

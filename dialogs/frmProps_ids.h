@@ -4,7 +4,6 @@
 
 namespace dialogs::props_id {
 
-// Controls of the properties.
 constexpr int TABPROPS = 4000;
 constexpr int PICBOX = 4001;
 constexpr int PICICON = 4002;

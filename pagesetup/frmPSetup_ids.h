@@ -4,7 +4,6 @@
 
 namespace pagesetup::id {
 
-// Controls of the page setup.
 constexpr int TABSTRIP1 = 3000;
 constexpr int FRAMPAGE = 3001;
 constexpr int LBLPRINTER = 3002;
